@@ -1,0 +1,170 @@
+#include "core/Ansi.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace Ansi {
+
+namespace {
+
+using CaseTable = std::array<unsigned char, 256>;
+
+constexpr unsigned char Code(char c) {
+    return static_cast<unsigned char>(c);
+}
+
+struct CasePair {
+    unsigned char capital;
+    unsigned char small;
+};
+
+// The letters whose two forms do not stand 32 apart.
+constexpr std::array<CasePair, 4> IrregularPairs{{
+    {0x8A, 0x9A}, // S with caron
+    {0x8C, 0x9C}, // OE
+    {0x8E, 0x9E}, // Z with caron
+    {0x9F, 0xFF}, // Y with diaeresis
+}};
+
+constexpr bool IsRegularCapital(int code) {
+    constexpr int multiplicationSign = 0xD7;
+    return (code >= 'A' && code <= 'Z') || (code >= 0xC0 && code <= 0xDE && code != multiplicationSign);
+}
+
+constexpr CaseTable MakeCaseTable(bool toUpper) {
+    CaseTable table{};
+    for (int code = 0; code < 256; ++code) {
+        table[static_cast<std::size_t>(code)] = static_cast<unsigned char>(code);
+    }
+    const auto add = [&](unsigned char capital, unsigned char small) {
+        if (toUpper) {
+            table[small] = capital;
+        } else {
+            table[capital] = small;
+        }
+    };
+    for (int code = 0; code < 256; ++code) {
+        if (IsRegularCapital(code)) {
+            add(static_cast<unsigned char>(code), static_cast<unsigned char>(code + 32));
+        }
+    }
+    for (const CasePair& pair : IrregularPairs) {
+        add(pair.capital, pair.small);
+    }
+    return table;
+}
+
+constexpr CaseTable UpperTable = MakeCaseTable(true);
+constexpr CaseTable LowerTable = MakeCaseTable(false);
+
+// Bytes 80 to 9F hexadecimal; all others are the code point of the same number.
+constexpr std::array<char16_t, 32> UpperControls{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                                 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+constexpr char32_t NotACharacter = 0xFFFFFFFF;
+
+// The smallest code point that needs a sequence of this many bytes; a longer one than needed is not UTF-8.
+constexpr std::array<char32_t, 5> SmallestOfLength{0, 0, 0x80, 0x800, 0x10000};
+
+// One code point from the front of `utf8`, which is shortened by the bytes used. A byte that starts
+// no sequence is used up alone, a sequence that breaks off as far as it goes.
+char32_t TakeCodePoint(std::string_view& utf8) {
+    const unsigned char lead = Code(utf8.front());
+    const std::size_t length = lead < 0x80   ? 1U
+                               : lead < 0xC2 ? 0U
+                               : lead < 0xE0 ? 2U
+                               : lead < 0xF0 ? 3U
+                               : lead < 0xF5 ? 4U
+                                             : 0U;
+    char32_t codePoint = length < 2 ? lead : lead & (0x7FU >> length);
+    for (std::size_t i = 1; i < length; ++i) {
+        if (i >= utf8.size() || (Code(utf8[i]) & 0xC0U) != 0x80U) {
+            utf8.remove_prefix(i);
+            return NotACharacter;
+        }
+        codePoint = (codePoint << 6U) | (Code(utf8[i]) & 0x3FU);
+    }
+    utf8.remove_prefix(std::max<std::size_t>(length, 1));
+    return length == 0 || codePoint < SmallestOfLength[length] ? NotACharacter : codePoint;
+}
+
+template <typename Change>
+std::string Changed(std::string_view text, Change change) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(), change);
+    return result;
+}
+
+} // namespace
+
+char Upper(char c) {
+    return static_cast<char>(UpperTable[Code(c)]);
+}
+
+char Lower(char c) {
+    return static_cast<char>(LowerTable[Code(c)]);
+}
+
+std::string Upper(std::string_view text) {
+    return Changed(text, [](char c) { return Upper(c); });
+}
+
+std::string Lower(std::string_view text) {
+    return Changed(text, [](char c) { return Lower(c); });
+}
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return Upper(x) == Upper(y); });
+}
+
+std::string_view TrimLeft(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    return first == std::string_view::npos ? text.substr(text.size()) : text.substr(first);
+}
+
+std::string_view Trim(std::string_view text) {
+    text = TrimLeft(text);
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+std::string_view FirstWord(std::string_view text) {
+    return text.substr(0, text.find(' '));
+}
+
+std::vector<std::string_view> Split(std::string_view text, char separator) {
+    std::vector<std::string_view> pieces;
+    for (;;) {
+        const auto end = text.find(separator);
+        pieces.push_back(text.substr(0, end));
+        if (end == std::string_view::npos) {
+            return pieces;
+        }
+        text.remove_prefix(end + 1);
+    }
+}
+
+char16_t ToUnicode(char c) {
+    const unsigned char code = Code(c);
+    return code >= 0x80 && code <= 0x9F ? UpperControls[code - 0x80U] : code;
+}
+
+char FromUnicode(char32_t codePoint) {
+    if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF)) {
+        return static_cast<char>(codePoint);
+    }
+    const auto found = std::find(UpperControls.begin(), UpperControls.end(), codePoint);
+    return found == UpperControls.end() ? '?' : static_cast<char>(0x80 + (found - UpperControls.begin()));
+}
+
+std::string FromUtf8(std::string_view utf8) {
+    std::string result;
+    while (!utf8.empty()) {
+        result += FromUnicode(TakeCodePoint(utf8));
+    }
+    return result;
+}
+
+} // namespace Ansi

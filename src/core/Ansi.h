@@ -1,0 +1,46 @@
+#pragma once
+
+// Text of one byte per character, in Windows-1252: the only kind of text the core knows. Every
+// text is kept as the bytes that were read; nothing here decodes a text to look at it, so positions
+// and lengths are bytes. Conversion to Unicode is for the windows and for file names.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Ansi {
+
+// The capital or small form of one character; characters without a counterpart in the code page
+// (among them the sharp s and the micro sign) are their own.
+[[nodiscard]] char Upper(char c);
+[[nodiscard]] char Lower(char c);
+
+[[nodiscard]] std::string Upper(std::string_view text);
+[[nodiscard]] std::string Lower(std::string_view text);
+
+// True when both texts have the same upper-case form.
+[[nodiscard]] bool EqualIgnoringCase(std::string_view a, std::string_view b);
+
+// The text without blanks (the space character, nothing else) at either end, or at the left end.
+[[nodiscard]] std::string_view Trim(std::string_view text);
+[[nodiscard]] std::string_view TrimLeft(std::string_view text);
+
+// The text before the first blank, or all of it when it has none.
+[[nodiscard]] std::string_view FirstWord(std::string_view text);
+
+// The pieces between separators, always at least one. The pieces are parts of `text`.
+[[nodiscard]] std::vector<std::string_view> Split(std::string_view text, char separator);
+
+// The Unicode code point of a byte. The five bytes that the code page leaves open (81, 8D, 8F, 90
+// and 9D hexadecimal) stand for the control characters of the same number, so that no byte is lost.
+// Table: Unicode Consortium, MAPPINGS/VENDORS/MICSFT/WindowsBestFit/bestfit1252.txt.
+[[nodiscard]] char16_t ToUnicode(char c);
+
+// The byte of a code point; "?" for one that the code page lacks.
+[[nodiscard]] char FromUnicode(char32_t codePoint);
+
+// A UTF-8 text (a file name of the machine, say) as code page text; bytes that are no UTF-8
+// become "?".
+[[nodiscard]] std::string FromUtf8(std::string_view utf8);
+
+} // namespace Ansi

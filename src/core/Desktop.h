@@ -1,0 +1,79 @@
+#pragma once
+
+// The port through which the program speaks to the person and the machine. Everything that the
+// routines ask of a desktop goes through this class, so that they run, and are tested, without one.
+// Texts are Windows-1252 with CR LF line breaks and are shown as plain text; file names are in the
+// machine's own encoding.
+
+#include "core/Report.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+enum class BoxIcon { None, Critical, Question, Exclamation, Information };
+enum class BoxButtons { Ok, OkCancel, YesNo };
+enum class BoxAnswer { Ok, Cancel, Yes, No };
+
+// Numbers of the standard icons, as the box with chosen buttons takes them.
+enum StandardIcon : std::int32_t {
+    IconNone = 0,
+    IconStop = 32513,
+    IconQuestion = 32514,
+    IconExclamation = 32515,
+    IconInformation = 32516,
+};
+
+// What a file dialogue starts from. Empty texts leave the choice to the desktop.
+struct FileRequest {
+    std::string sTitle;
+    std::string sFolder;
+    std::string sFileName;
+    std::string sDefaultExtension; // without the point; added to a name that has none
+};
+
+class Desktop {
+public:
+    Desktop() = default;
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    virtual ~Desktop() = default;
+
+    // Modal questions and messages. The standard box carries the program's title.
+    virtual BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons = BoxButtons::Ok) = 0;
+    // The caption of the button pressed; empty when the box was left without a choice.
+    virtual std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
+                                 std::span<const std::string> ButtonCaptions) = 0;
+    // The text typed; nothing when the box was cancelled.
+    virtual std::optional<std::string> InputBox(std::string_view prompt) = 0;
+    // Shows a report window and returns when it is closed.
+    virtual void ShowReport(const Report& report) = 0;
+
+    // The full path chosen; nothing when the dialogue was cancelled. An existing file is replaced
+    // only after a question, a read-only one is refused.
+    virtual std::optional<std::string> ChooseFileToOpen(const FileRequest& request) = 0;
+    virtual std::optional<std::string> ChooseFileToSave(const FileRequest& request) = 0;
+
+    // The whole content of a file; nothing when it cannot be read.
+    virtual std::optional<std::string> ReadFile(const std::string& path) = 0;
+    // Replaces a file at once and as a whole. False when that failed: the old file is then as it was.
+    virtual bool ReplaceFile(const std::string& path, std::string_view content) = 0;
+
+    // The folder of the program itself, and making it the current folder.
+    virtual std::string ProgramFolder() = 0;
+    virtual void EnterProgramFolder() = 0;
+
+    // Per-user settings of this program, by section and key; empty when never saved.
+    virtual std::string GetSetting(std::string_view section, std::string_view key) = 0;
+    virtual void SaveSetting(std::string_view section, std::string_view key, const std::string& value) = 0;
+
+    // Prints on the default printer. False when there is no printer or it did not take the job.
+    virtual bool Print(std::span<const std::string> lines) = 0;
+
+    virtual std::string Today() = 0;     // as "05 Mar 2026"
+    virtual std::string ShortTime() = 0; // hours and minutes, as the user's country writes them
+    virtual void Beep() = 0;
+    virtual void ShowBusy(bool busy) = 0;
+};

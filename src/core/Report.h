@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+// What a report window shows: lines of text under a caption. A line may itself hold line breaks.
+struct Report {
+    std::string sCaption = "Duplicate Check";
+    std::vector<std::string> Items;
+    bool bCanPrintAndSave = true;
+};

@@ -1,0 +1,66 @@
+#include "core/State.h"
+
+namespace CommonRoutines {
+
+std::vector<DistrictRecord> Districts;
+std::int32_t lLineCount = 0;
+std::string sDataFileName;
+bool bChanged = false;
+std::int32_t lCurrentDistrict = 0;
+
+std::int32_t lDistrictTotal = 0;
+std::int32_t lInvalidTotal = 0;
+std::int32_t lCapsOkTotal = 0;
+
+std::int16_t iRepairAction = NoRepair;
+
+std::vector<DupePair> DupePairs;
+std::int32_t lDupePairCount = 0;
+
+std::string sInvalidReason;
+bool bWarning = false;
+std::string sWarningReason;
+
+std::string sMarkerPrefix;
+std::string sMarkerSuffix;
+
+std::int32_t lFoundVariation = 0;
+
+std::vector<std::string> LowerCaseWords;
+std::int32_t lLowerCaseWordCount = 0;
+
+std::int16_t iEditMode = NothingOpen;
+
+bool bIgnoreEvents = false;
+std::int32_t lEditIndex = 0;
+std::int16_t iLastAction = NoAction;
+
+bool IsDistrict(std::int32_t lDistrict) {
+    return lDistrict >= 1 && lDistrict <= lLineCount && !Districts[static_cast<std::size_t>(lDistrict)].bRetained;
+}
+
+void ResetState() {
+    Districts.clear();
+    lLineCount = 0;
+    sDataFileName.clear();
+    bChanged = false;
+    lCurrentDistrict = 0;
+    lDistrictTotal = lInvalidTotal = lCapsOkTotal = 0;
+    iRepairAction = NoRepair;
+    DupePairs.clear();
+    lDupePairCount = 0;
+    sInvalidReason.clear();
+    bWarning = false;
+    sWarningReason.clear();
+    sMarkerPrefix.clear();
+    sMarkerSuffix.clear();
+    lFoundVariation = 0;
+    LowerCaseWords.clear();
+    lLowerCaseWordCount = 0;
+    iEditMode = NothingOpen;
+    bIgnoreEvents = false;
+    lEditIndex = 0;
+    iLastAction = NoAction;
+}
+
+} // namespace CommonRoutines
