@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace CommonRoutines {
+
+// A row of LvChanges: a proposed variation.
+struct ChangeRow {
+    enum Tag : std::int16_t { Invalid = -1, Valid = 0, Heading = 1 };
+
+    std::string sText;
+    std::int16_t iTag = Valid;
+    bool bWarning = false; // its own check raised a warning
+    bool bChecked = false;
+};
+
+} // namespace CommonRoutines

@@ -1,0 +1,46 @@
+#include "checks/ReportOutput.h"
+
+#include "core/Ansi.h"
+#include "core/Desktop.h"
+#include "file/Paths.h"
+
+namespace CommonRoutines {
+
+std::vector<std::string> ReportLines(const Report& report, std::string_view dataFile, Desktop& desktop) {
+    std::vector<std::string> lines{
+        "Duplicate Check on File " + Ansi::FromUtf8(dataFile),
+        "Check performed on " + desktop.Today() + " at " + desktop.ShortTime(),
+        "",
+    };
+    lines.insert(lines.end(), report.Items.begin(), report.Items.end());
+    return lines;
+}
+
+std::string ReportFileName(std::string_view dataFile) {
+    return "Dupe_" + std::string(Paths::NameOf(dataFile));
+}
+
+void PrintReport(const Report& report, const std::string& dataFile, Desktop& desktop) {
+    if (!desktop.Print(ReportLines(report, dataFile, desktop))) {
+        desktop.MsgBox("The list cannot be printed: there is no printer, or it did not accept the job.",
+                       BoxIcon::Exclamation);
+    }
+}
+
+void SaveReport(const Report& report, const std::string& dataFile, Desktop& desktop) {
+    FileRequest request;
+    request.sFileName = ReportFileName(dataFile);
+    request.sFolder = desktop.ProgramFolder();
+    request.sDefaultExtension = "txt";
+    const auto path = desktop.ChooseFileToSave(request);
+    if (!path) {
+        return;
+    }
+    std::string content;
+    for (const std::string& line : ReportLines(report, dataFile, desktop)) {
+        content += line + "\r\n";
+    }
+    desktop.ReplaceFile(*path, content);
+}
+
+} // namespace CommonRoutines

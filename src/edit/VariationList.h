@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/Records.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace CommonRoutines {
+
+// What is to be said about a variation; the first that applies, in this order.
+enum class VariationState { Invalid, Warning, Duplicate, UnusualCaps, Plain };
+
+// A row of lvVariations. Its text is that of the variation.
+struct VariationRow {
+    std::int32_t lIndex = 0; // slot of the variation in its district
+    VariationState state = VariationState::Plain;
+};
+
+struct VariationList {
+    std::vector<VariationRow> rows; // by upper-cased text, equal texts in file order
+    std::string summary;            // the counts of problems, a line each; empty when there are none
+};
+
+// Runs the checks of a variation, leaving the state of ValidateVariation.
+[[nodiscard]] VariationState StateOfVariation(const VariationRecord& variation, std::int32_t lDistrict);
+
+// Lists the variations of a district, deleted slots aside. Writes the invalid and warning counts of
+// the district's record and sets its question count to 0.
+[[nodiscard]] VariationList ListVariations(std::int32_t lDistrict);
+
+} // namespace CommonRoutines

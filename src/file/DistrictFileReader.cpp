@@ -1,0 +1,271 @@
+#include "file/DistrictFileReader.h"
+
+#include "core/Ansi.h"
+#include "core/Desktop.h"
+#include "core/Lines.h"
+#include "core/State.h"
+#include "file/CommentTypes.h"
+#include "file/DistrictLine.h"
+#include "repair/RepairNullVariation.h"
+#include "rules/Capitals.h"
+#include "rules/Duplicates.h"
+#include "rules/Validation.h"
+
+#include <algorithm>
+
+namespace CommonRoutines {
+
+namespace {
+
+constexpr std::size_t InitialUpperBound = 20;
+constexpr std::size_t TableStep = 10;
+
+constexpr std::size_t MaxDistrictParts = 13;
+constexpr std::size_t MaxPartsWithoutVariations = 11;
+
+constexpr std::string_view NotEditable =
+    "The line is incomplete but has been retained in the file.  It will not be available for editing.";
+
+std::string Number(std::int32_t number) {
+    return std::to_string(number);
+}
+
+// One read of a file, from its first line to its report.
+class FileRead {
+public:
+    explicit FileRead(Desktop& desktop) : m_desktop(desktop) {}
+
+    void Run(std::string_view content);
+
+private:
+    DistrictRecord& AddRecord();
+    void ReadLine(std::string_view line);
+    void ReadComment(std::string_view line, DistrictRecord& record);
+    void ReadDistrict(std::string_view line, DistrictRecord& record);
+    void ReadLineWithoutHeader(std::string_view line, DistrictRecord& record);
+    void ReadVariations(DistrictRecord& record);
+    void ReadVariation(DistrictRecord& record, std::int32_t k);
+    void RepairVariation(DistrictRecord& record, std::int32_t k);
+    void ReportLine();
+    void ShowReport();
+
+    std::string& Field(std::int32_t k) { return m_fields[static_cast<std::size_t>(k)]; }
+    void Complain(std::string_view text) { m_desktop.MsgBox(text, BoxIcon::Exclamation); }
+
+    Desktop& m_desktop;
+    std::vector<std::string> m_fields; // of the line being read
+    Report m_report{"Read File Results", {}, false};
+    bool m_hasMessages = false;
+    bool m_stopped = false; // the user quit the repair dialogue
+    std::int32_t m_warningCount = 0;
+    std::int32_t m_blankCount = 0;
+    std::int32_t m_capsCount = 0;
+};
+
+VariationRecord& VariationOf(DistrictRecord& record, std::int32_t k) {
+    return record.Variations[static_cast<std::size_t>(k)];
+}
+
+VariationRecord DeletedSlot() {
+    return {std::string(DeletedText), false, 0, false};
+}
+
+DistrictRecord& FileRead::AddRecord() {
+    ++lLineCount;
+    if (lLineCount >= std::ssize(Districts)) {
+        Districts.resize(static_cast<std::size_t>(lLineCount) + TableStep + 1);
+    }
+    return Districts[static_cast<std::size_t>(lLineCount)];
+}
+
+void FileRead::Run(std::string_view content) {
+    Lines lines(content);
+    while (!m_stopped) {
+        const auto line = lines.Next();
+        if (!line) {
+            break;
+        }
+        ReadLine(Ansi::Trim(*line));
+    }
+    m_desktop.ShowBusy(false);
+    if (iRepairAction != Quit) {
+        ShowReport();
+    }
+}
+
+void FileRead::ReadLine(std::string_view line) {
+    DistrictRecord& record = AddRecord();
+    if (line.empty()) {
+        Retain(record, line);
+        return;
+    }
+    if (line.starts_with('#')) {
+        ReadComment(line, record);
+    } else if (line.starts_with('|')) {
+        ReadLineWithoutHeader(line, record);
+    } else {
+        ReadDistrict(line, record);
+    }
+    if (!m_stopped) {
+        ReportLine();
+    }
+}
+
+void FileRead::ReadComment(std::string_view line, DistrictRecord& record) {
+    Retain(record, line);
+    if (Ansi::EqualIgnoringCase(line.substr(0, CommentMarker.size()), CommentMarker)) {
+        AddCommentType(line);
+    }
+}
+
+void FileRead::ReadDistrict(std::string_view line, DistrictRecord& record) {
+    SplitFields(line, m_fields);
+    if (FillHeader(record, Field(0), MaxDistrictParts) != HeaderResult::Filled) {
+        Complain("Line " + Number(lLineCount) +
+                 " is incomplete but has been retained in the file.  It will not be available for editing.\r\n" +
+                 std::string(line));
+        Retain(record, line);
+        return;
+    }
+    ++lDistrictTotal;
+    for (const std::string& complaint : QuarterComplaints(record)) {
+        Complain(complaint);
+    }
+    ReadVariations(record);
+}
+
+// A line that begins with "|": its whole text is taken for a header, the "|" becoming part of the name.
+void FileRead::ReadLineWithoutHeader(std::string_view line, DistrictRecord& record) {
+    Complain("Entry found with no variations at line " + Number(lLineCount) + "\r\n" + std::string(line));
+    const HeaderResult header = FillHeader(record, line, MaxPartsWithoutVariations);
+    if (header == HeaderResult::Filled) {
+        m_desktop.MsgBox("The line will be available for editing.", BoxIcon::Information);
+        record.Variations.resize(2);
+        return;
+    }
+    Complain(NotEditable);
+    Retain(record, line);
+    if (header == HeaderResult::WrongPartCount) {
+        // Saving is expected to turn such a line into an empty one.
+        record.HeaderText.clear();
+    }
+}
+
+void FileRead::ReadVariations(DistrictRecord& record) {
+    record.lVariationCount = static_cast<std::int32_t>(std::ssize(m_fields)) - 1;
+    // Even a district without variations has a first slot.
+    record.Variations.resize(static_cast<std::size_t>(std::max(record.lVariationCount, 1)) + 1);
+    for (std::int32_t k = 1; k <= record.lVariationCount && !m_stopped; ++k) {
+        ReadVariation(record, k);
+    }
+}
+
+void FileRead::ReadVariation(DistrictRecord& record, std::int32_t k) {
+    VariationRecord& variation = VariationOf(record, k);
+    if (Ansi::Trim(Field(k)).empty()) {
+        ++m_blankCount;
+        variation = DeletedSlot();
+        return;
+    }
+    variation.Text = Field(k);
+    if (!CheckQuestionMark(variation.Text)) {
+        ++record.iQuestionCount;
+    }
+    bool bNullDistrict = false;
+    if (!ValidateVariation(variation.Text, lLineCount, &bNullDistrict)) {
+        ++lInvalidTotal;
+        ++record.lInvalidCount;
+        if (bNullDistrict) {
+            RepairVariation(record, k);
+        }
+    }
+    if (m_stopped) {
+        return;
+    }
+    // The flag is that of the last check that reached its warning stage, also when this variation
+    // was refused before.
+    if (bWarning) {
+        ++record.lWarningCount;
+        ++m_warningCount;
+    }
+    variation.bUnusualCaps = HasUnusualCapitals(variation.Text);
+    ++(variation.bUnusualCaps ? m_capsCount : lCapsOkTotal);
+}
+
+void FileRead::RepairVariation(DistrictRecord& record, std::int32_t k) {
+    if (!RepairNullVariation(record, m_fields, k, lLineCount, m_desktop)) {
+        m_stopped = true;
+        return;
+    }
+    --record.lInvalidCount;
+    switch (iRepairAction) {
+    case CombinePrevious:
+        VariationOf(record, k - 1).Text = Field(k);
+        VariationOf(record, k) = DeletedSlot();
+        break;
+    case CombineNext:
+        Field(k + 1) = Field(k); // read again as the next variation
+        VariationOf(record, k).Text = DeletedText;
+        break;
+    case Remove:
+        VariationOf(record, k) = DeletedSlot();
+        break;
+    case Type:
+        VariationOf(record, k).Text = Field(k);
+        break;
+    default:
+        break;
+    }
+}
+
+void FileRead::ReportLine() {
+    const std::string& name = Districts[static_cast<std::size_t>(lLineCount)].Name;
+    std::string message;
+    // The count is the whole file's so far: once a blank variation has been met, every later line
+    // repeats the sentence with its own name.
+    if (m_blankCount > 0) {
+        message = "There were " + Number(m_blankCount) + " blank variations in District " + name +
+                  ".  They have been removed.\r\n";
+    }
+    if (FindDuplicateVariations(lLineCount)) {
+        message += "District " + name + " has duplicate variations.";
+    }
+    if (!message.empty()) {
+        m_report.Items.push_back(std::move(message));
+        m_hasMessages = true;
+    }
+}
+
+void FileRead::ShowReport() {
+    if (m_warningCount > 0) {
+        m_report.Items.push_back("There were " + Number(m_warningCount) + " Variations with warnings.\r\n");
+    }
+    // Warnings alone are no reason to show it.
+    if (m_hasMessages || m_capsCount >= 1) {
+        m_report.Items.push_back(Number(m_capsCount) + " variations with capitalisation problems");
+        m_desktop.ShowReport(m_report);
+    }
+}
+
+} // namespace
+
+void ReadDistrictFile(Desktop& desktop) {
+    desktop.ShowBusy(true);
+    desktop.EnterProgramFolder();
+    const auto content = desktop.ReadFile(sDataFileName);
+    Districts.clear();
+    lLineCount = 0;
+    lDistrictTotal = lInvalidTotal = lCapsOkTotal = 0;
+    bChanged = false;
+    iRepairAction = NoRepair;
+    if (!content) {
+        desktop.ShowBusy(false);
+        desktop.MsgBox("The file cannot be read:\r\n" + Ansi::FromUtf8(sDataFileName), BoxIcon::Exclamation);
+        return;
+    }
+    Districts.reserve(static_cast<std::size_t>(std::count(content->begin(), content->end(), '\n')) + InitialUpperBound);
+    Districts.resize(InitialUpperBound + 1);
+    FileRead(desktop).Run(*content);
+}
+
+} // namespace CommonRoutines

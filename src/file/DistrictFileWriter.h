@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+class Desktop;
+
+namespace CommonRoutines {
+
+// The table as a data file: every line's header text, a district's surviving variations behind it,
+// each line ended by CR LF.
+[[nodiscard]] std::string DistrictFileContent();
+
+// Asks for a file name, the open file's being proposed, writes the table there and says so. A
+// cancelled dialogue or a failed write ends silently, with the file as it was.
+void SaveDistrictFile(Desktop& desktop);
+
+} // namespace CommonRoutines

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/Records.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace CommonRoutines {
+
+// Cuts a line at its "|" into texts of their own, reusing those already in `fields`.
+void SplitFields(std::string_view line, std::vector<std::string>& fields);
+
+enum class HeaderResult { Filled, WrongPartCount, NotANumber };
+
+// Fills the header fields of a record from the "+"-separated header of a district. `text` must have
+// 9 to `maxParts` parts, and its years and quarters must be numbers of 16 bits (decimal digits,
+// perhaps behind a minus sign, with blanks around them or not). Otherwise nothing is filled.
+[[nodiscard]] HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size_t maxParts);
+
+// The complaints about the quarters of a district, in the order in which they are shown. The third
+// one names the abolished year and quarter although it is about the founded ones; its readers know it so.
+[[nodiscard]] std::vector<std::string> QuarterComplaints(const DistrictRecord& record);
+
+// Makes a record a line that is only kept.
+void Retain(DistrictRecord& record, std::string_view line);
+
+} // namespace CommonRoutines

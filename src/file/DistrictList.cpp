@@ -1,0 +1,92 @@
+#include "file/DistrictList.h"
+
+#include "core/Ansi.h"
+#include "core/Desktop.h"
+#include "core/State.h"
+#include "file/DistrictComments.h"
+#include "rules/Markers.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace CommonRoutines {
+
+namespace {
+
+const DistrictRecord& RecordAt(std::int32_t index) {
+    return Districts[static_cast<std::size_t>(index)];
+}
+
+struct NameKey {
+    std::string upperName;
+    std::int32_t lDistrict;
+
+    auto operator<=>(const NameKey&) const = default;
+};
+
+} // namespace
+
+std::string DistrictCell(const DistrictRecord& record, std::size_t column) {
+    switch (column) {
+    case 0:
+        return record.Name;
+    case 1:
+        return record.Volume;
+    case 2:
+        return record.County;
+    case 3:
+        return std::to_string(record.Founded);
+    case 4:
+        return std::to_string(record.QtrF);
+    case 5:
+        return std::to_string(record.Abolished);
+    case 6:
+        return std::to_string(record.QtrA);
+    default:
+        return {};
+    }
+}
+
+bool DistrictHasProblem(const DistrictRecord& record) {
+    return record.iQuestionCount > 0 || record.iDuplicateCount > 0 || record.lInvalidCount > 0 ||
+           record.lWarningCount > 0;
+}
+
+std::vector<std::int32_t> DistrictsByName() {
+    std::vector<NameKey> keys;
+    for (std::int32_t i = 1; i <= lLineCount; ++i) {
+        if (IsDistrict(i)) {
+            keys.push_back({Ansi::Upper(RecordAt(i).Name), i});
+        }
+    }
+    std::sort(keys.begin(), keys.end());
+    std::vector<std::int32_t> districts;
+    districts.reserve(keys.size());
+    std::transform(keys.begin(), keys.end(), std::back_inserter(districts),
+                   [](const NameKey& key) { return key.lDistrict; });
+    return districts;
+}
+
+std::vector<std::int32_t> DistrictsOfType(std::span<const std::int32_t> districts, std::string_view type) {
+    const bool all = Ansi::EqualIgnoringCase(Ansi::Trim(type), "ALL");
+    std::vector<std::int32_t> chosen;
+    std::copy_if(districts.begin(), districts.end(), std::back_inserter(chosen),
+                 [&](std::int32_t district) { return all || DistrictHasCommentType(district, type); });
+    return chosen;
+}
+
+void ReportDuplicatedDistricts(std::span<const std::int32_t> districts, Desktop& desktop) {
+    const auto baseName = [](std::int32_t district) { return Ansi::Trim(StripMarkers(RecordAt(district).Name)); };
+    for (std::size_t row = 1; row < districts.size(); ++row) {
+        const std::string_view name = baseName(districts[row - 1]);
+        if (!Ansi::EqualIgnoringCase(name, baseName(districts[row]))) {
+            continue;
+        }
+        const std::string text = "District " + std::string(name) + " is duplicated in that file";
+        if (desktop.MsgBox(text, BoxIcon::Critical, BoxButtons::OkCancel) == BoxAnswer::Cancel) {
+            return;
+        }
+    }
+}
+
+} // namespace CommonRoutines

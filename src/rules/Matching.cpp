@@ -1,0 +1,85 @@
+#include "rules/Matching.h"
+
+#include "core/Ansi.h"
+#include "core/State.h"
+#include "rules/Markers.h"
+
+namespace CommonRoutines {
+
+namespace {
+
+constexpr auto None = std::string_view::npos;
+
+struct Comparable {
+    std::string_view base;
+    std::string_view suffix;
+    bool hasDate;
+    bool hasVolume;
+
+    explicit Comparable(std::string_view variation) {
+        const MarkerParts parts = SplitMarkers(variation);
+        base = Ansi::Trim(parts.base);
+        suffix = Ansi::Trim(parts.suffix);
+        hasDate = parts.prefix.find('%') != None;
+        hasVolume = suffix.find('%') != None;
+    }
+};
+
+// Whether the years of the two districts overlap. Where one begins in the year that the other ends,
+// the quarters decide; only one of the two such cases is looked at, also when both hold.
+bool LifetimesOverlap(const DistrictRecord& a, const DistrictRecord& b) {
+    if (b.Founded > a.Abolished || a.Founded > b.Abolished) {
+        return false;
+    }
+    if (a.Founded == b.Abolished) {
+        return a.QtrF <= b.QtrA;
+    }
+    if (b.Founded == a.Abolished) {
+        return b.QtrF <= a.QtrA;
+    }
+    return true;
+}
+
+const DistrictRecord& DistrictAt(std::int32_t index) {
+    return Districts[static_cast<std::size_t>(index)];
+}
+
+} // namespace
+
+bool SameVariation(std::string_view a, std::string_view b, std::int32_t districtA, std::int32_t districtB) {
+    StripMarkers(b); // callers find the markers of the second text in the shared state
+    const Comparable first(a);
+    const Comparable second(b);
+    if (first.base == DeletedText || second.base == DeletedText) {
+        return false;
+    }
+    if (!Ansi::EqualIgnoringCase(first.base, second.base)) {
+        return false;
+    }
+    const bool equalSuffixes = first.suffix == second.suffix;
+    if (!equalSuffixes && !first.suffix.empty() && !second.suffix.empty()) {
+        return false;
+    }
+    if (first.hasDate != second.hasDate) {
+        return false;
+    }
+    if (first.hasDate && !LifetimesOverlap(DistrictAt(districtA), DistrictAt(districtB))) {
+        return false;
+    }
+    const bool volumeMatters = (first.hasVolume || second.hasVolume) && districtA != districtB;
+    return !volumeMatters || equalSuffixes;
+}
+
+bool FindVariationInDistrict(std::string_view v) {
+    const DistrictRecord& district = DistrictAt(lCurrentDistrict);
+    for (std::int32_t i = 1; i <= district.lVariationCount; ++i) {
+        if (SameVariation(district.Variations[static_cast<std::size_t>(i)].Text, v, lCurrentDistrict,
+                          lCurrentDistrict)) {
+            lFoundVariation = i;
+            return true;
+        }
+    }
+    return SameVariation(v, district.Name, lCurrentDistrict, lCurrentDistrict);
+}
+
+} // namespace CommonRoutines

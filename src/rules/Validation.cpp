@@ -1,0 +1,163 @@
+#include "rules/Validation.h"
+
+#include "core/Ansi.h"
+#include "core/State.h"
+#include "rules/Markers.h"
+
+#include <string>
+
+namespace CommonRoutines {
+
+namespace {
+
+constexpr auto None = std::string_view::npos;
+
+// Where the percent signs of a trimmed text stand.
+struct PercentSigns {
+    std::size_t first;
+    std::size_t last;
+
+    explicit PercentSigns(std::string_view text) : first(text.find('%')), last(text.rfind('%')) {}
+    [[nodiscard]] bool One() const { return first != None && first == last; }
+    [[nodiscard]] bool Several() const { return first != last; }
+};
+
+bool OpensWithDateMark(std::string_view text) {
+    return text.starts_with('%') || text.starts_with("!%");
+}
+
+// A lone "%" with nothing behind it, or with no name before it.
+bool IsPercentWithoutName(std::string_view text, const PercentSigns& percent) {
+    if (!percent.One()) {
+        return false;
+    }
+    const bool isLast = percent.first + 1 == text.size();
+    return isLast || (!OpensWithDateMark(text) && Ansi::Trim(text.substr(0, percent.first)).empty());
+}
+
+// With two signs the first is the date mark and the last, not before the fourth character, opens the
+// volume. A third one in between is not looked at.
+bool IsBadDependency(std::string_view text, const PercentSigns& percent) {
+    constexpr std::size_t earliestVolume = 3;
+    return percent.Several() &&
+           (!OpensWithDateMark(text) || percent.last + 1 == text.size() || percent.last < earliestVolume);
+}
+
+bool IsBlankAt(std::string_view text, std::size_t position) {
+    return position < text.size() && text[position] == ' ';
+}
+
+// Refuses with a reason, so that a rule reads as one line.
+bool Refuse(std::string_view reason) {
+    sInvalidReason = reason;
+    return false;
+}
+
+bool RefuseNullDistrict(bool* bNullDistrict) {
+    if (iEditMode != NothingOpen) {
+        return Refuse("Null District");
+    }
+    if (bNullDistrict != nullptr) {
+        *bNullDistrict = true;
+    }
+    return false;
+}
+
+// The rules that only note a failure, so that the last one that fails gives the reason.
+bool CheckPunctuation(std::string_view variation, std::string_view trimmed) {
+    bool valid = true;
+    const auto shriek = trimmed.find('!');
+    if (trimmed.rfind('!') != shriek) {
+        valid = Refuse("Multiple !'s");
+    }
+    // The position is that in the trimmed text, the character that of the untrimmed one: behind a
+    // leading blank, which is refused below anyway, this looks one character early.
+    if (shriek != None && IsBlankAt(variation, shriek + 1)) {
+        valid = Refuse("Space after !");
+    }
+    if (variation.find("% ") != None) {
+        valid = Refuse("Space after %");
+    }
+    if (variation.find(" %") != None) {
+        valid = Refuse("Space before %");
+    }
+    if (variation.starts_with(' ')) {
+        valid = Refuse("Leading space");
+    }
+    if (variation.ends_with(' ')) {
+        valid = Refuse("Trailing space");
+    }
+    return valid;
+}
+
+// Characters of a name that somebody could not read belong into a spelling mistake.
+void WarnOfMissingShriek(std::string_view variation) {
+    bWarning = false;
+    sWarningReason.clear();
+    const std::string_view base = StripMarkers(variation);
+    if (base.find_first_of("_*[]{}") != None && sMarkerPrefix.find('!') == None) {
+        bWarning = true;
+        sWarningReason = "Should have !";
+    }
+}
+
+std::string CharacterAt(std::string_view kind, std::size_t index, int code) {
+    return std::string(kind) + " char at position " + std::to_string(index + 1) + " (Char=" + std::to_string(code) +
+           ")";
+}
+
+// False at the first control character; the last unusual one is the one warned about.
+bool CheckCharacters(std::string_view variation) {
+    constexpr int firstPrintable = 32;
+    constexpr int lastOrdinary = 126;
+    for (std::size_t i = 0; i < variation.size(); ++i) {
+        const int code = static_cast<unsigned char>(variation[i]);
+        if (code < firstPrintable) {
+            return Refuse(CharacterAt("Invalid", i, code));
+        }
+        if (code > lastOrdinary) {
+            bWarning = true;
+            sWarningReason = CharacterAt("Unusual", i, code);
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+bool CheckQuestionMark(std::string_view variation) {
+    const std::string_view base = StripMarkers(variation);
+    if (base.find('?') != None && Ansi::Trim(base).size() > 1) {
+        return Refuse("Question Mark");
+    }
+    return true;
+}
+
+bool ValidateVariation(std::string_view variation, [[maybe_unused]] std::int32_t position, bool* bNullDistrict) {
+    if (bNullDistrict != nullptr) {
+        *bNullDistrict = false;
+    }
+    if (variation.find('|') != None) {
+        return Refuse("Invalid Char - |");
+    }
+    const std::string_view trimmed = Ansi::Trim(variation);
+    const PercentSigns percent(trimmed);
+    if (IsPercentWithoutName(trimmed, percent)) {
+        return RefuseNullDistrict(bNullDistrict);
+    }
+    if (IsBadDependency(trimmed, percent)) {
+        return Refuse("Invalid VNF dependency format");
+    }
+    const bool endsInOnlyShriek = trimmed.ends_with('!') && trimmed.find('!') + 1 == trimmed.size();
+    if (endsInOnlyShriek) {
+        return RefuseNullDistrict(bNullDistrict);
+    }
+    bool valid = CheckPunctuation(variation, trimmed);
+    if (valid) {
+        valid = CheckQuestionMark(variation);
+    }
+    WarnOfMissingShriek(variation);
+    return CheckCharacters(variation) && valid;
+}
+
+} // namespace CommonRoutines
