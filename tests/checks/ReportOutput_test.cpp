@@ -1,0 +1,133 @@
+#include "checks/ReportOutput.h"
+
+#include "support/ScriptedDesktop.h"
+
+#include <gtest/gtest.h>
+
+using namespace CommonRoutines;
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+const Report TwoFindings{"Duplicate Check", {"Ash in North duplicates Ash in South", "Elm"}, true};
+const Report NoFindings{"Duplicate Check", {}, true};
+
+} // namespace
+
+// Lines
+
+TEST(ReportOutputTest, ThreeHeadingLinesStandBeforeTheItems) {
+    ScriptedDesktop desktop;
+    EXPECT_EQ(ReportLines(TwoFindings, "C:\\data\\north.txt", desktop),
+              (Texts{"Duplicate Check on File C:\\data\\north.txt", "Check performed on 05 Mar 2026 at 14:07", "",
+                     "Ash in North duplicates Ash in South", "Elm"}));
+}
+
+TEST(ReportOutputTest, AReportWithoutItemsHasItsHeadingLines) {
+    ScriptedDesktop desktop;
+    EXPECT_EQ(ReportLines(NoFindings, "/data/north.txt", desktop),
+              (Texts{"Duplicate Check on File /data/north.txt", "Check performed on 05 Mar 2026 at 14:07", ""}));
+}
+
+TEST(ReportOutputTest, TheCaptionIsNoLine) {
+    ScriptedDesktop desktop;
+    const Report details{"Details of Duplicates", {"Variation Ash duplicates !Ash"}, true};
+    EXPECT_EQ(ReportLines(details, "/data/north.txt", desktop),
+              (Texts{"Duplicate Check on File /data/north.txt", "Check performed on 05 Mar 2026 at 14:07", "",
+                     "Variation Ash duplicates !Ash"}));
+}
+
+TEST(ReportOutputTest, ThePathIsShownInTheCodePageOfTheItems) {
+    ScriptedDesktop desktop;
+    EXPECT_EQ(ReportLines(NoFindings, "/data/caf\xC3\xA9.txt", desktop).front(),
+              "Duplicate Check on File /data/caf\xE9.txt");
+}
+
+// Proposed name
+
+TEST(ReportOutputTest, TheProposedNameKeepsTheExtension) {
+    EXPECT_EQ(ReportFileName("C:\\data\\north.txt"), "Dupe_north.txt");
+    EXPECT_EQ(ReportFileName("/data/north.txt"), "Dupe_north.txt");
+    EXPECT_EQ(ReportFileName("/data/north.dat"), "Dupe_north.dat");
+}
+
+TEST(ReportOutputTest, ANameWithoutAFolderIsProposedWhole) {
+    EXPECT_EQ(ReportFileName("north.txt"), "Dupe_north.txt");
+    EXPECT_EQ(ReportFileName("north"), "Dupe_north");
+}
+
+TEST(ReportOutputTest, TheProposedNameIsInTheMachinesEncoding) {
+    EXPECT_EQ(ReportFileName("/data/caf\xC3\xA9.txt"), "Dupe_caf\xC3\xA9.txt");
+}
+
+// Saving
+
+TEST(ReportOutputTest, SavingAsksForANameInTheProgramsFolder) {
+    ScriptedDesktop desktop;
+    desktop.ExpectSave(std::nullopt);
+    SaveReport(TwoFindings, "C:\\data\\north.txt", desktop);
+    EXPECT_EQ(desktop.lastRequest.sFileName, "Dupe_north.txt");
+    EXPECT_EQ(desktop.lastRequest.sFolder, "/program");
+    EXPECT_EQ(desktop.lastRequest.sDefaultExtension, "txt");
+    EXPECT_EQ(desktop.lastRequest.sTitle, "");
+}
+
+TEST(ReportOutputTest, ASavedReportEndsEveryLineWithCrLf) {
+    ScriptedDesktop desktop;
+    desktop.ExpectSave("/reports/mine.txt");
+    SaveReport(TwoFindings, "/data/north.txt", desktop);
+    EXPECT_EQ(desktop.files,
+              (std::map<std::string, std::string>{{"/reports/mine.txt", "Duplicate Check on File /data/north.txt\r\n"
+                                                                        "Check performed on 05 Mar 2026 at 14:07\r\n"
+                                                                        "\r\n"
+                                                                        "Ash in North duplicates Ash in South\r\n"
+                                                                        "Elm\r\n"}}));
+}
+
+TEST(ReportOutputTest, ASavedReportReplacesTheFile) {
+    ScriptedDesktop desktop;
+    desktop.files["/reports/mine.txt"] = "What stood there before was longer than the report. It is gone, all of it: "
+                                         "not a word of it is left behind the lines of the report.\r\n";
+    desktop.ExpectSave("/reports/mine.txt");
+    SaveReport(NoFindings, "/data/north.txt", desktop);
+    EXPECT_EQ(desktop.files["/reports/mine.txt"], "Duplicate Check on File /data/north.txt\r\n"
+                                                  "Check performed on 05 Mar 2026 at 14:07\r\n"
+                                                  "\r\n");
+}
+
+TEST(ReportOutputTest, CancellingTheSaveDialogueWritesNothingAndSaysNothing) {
+    ScriptedDesktop desktop;
+    desktop.ExpectSave(std::nullopt);
+    SaveReport(TwoFindings, "/data/north.txt", desktop);
+    EXPECT_TRUE(desktop.files.empty());
+}
+
+TEST(ReportOutputTest, AFailedSaveSaysNothingAndKeepsTheFile) {
+    ScriptedDesktop desktop;
+    desktop.files["/reports/mine.txt"] = "kept";
+    desktop.canWrite = false;
+    desktop.ExpectSave("/reports/mine.txt");
+    SaveReport(TwoFindings, "/data/north.txt", desktop);
+    EXPECT_EQ(desktop.files["/reports/mine.txt"], "kept");
+}
+
+// Printing
+
+TEST(ReportOutputTest, PrintingPrintsTheSameLinesAndSaysNothing) {
+    ScriptedDesktop desktop;
+    PrintReport(TwoFindings, "C:\\data\\north.txt", desktop);
+    EXPECT_EQ(desktop.printed,
+              (Texts{"Duplicate Check on File C:\\data\\north.txt", "Check performed on 05 Mar 2026 at 14:07", "",
+                     "Ash in North duplicates Ash in South", "Elm"}));
+    EXPECT_TRUE(desktop.files.empty());
+}
+
+TEST(ReportOutputTest, WithoutAPrinterAMessageSaysSo) {
+    ScriptedDesktop desktop;
+    desktop.hasPrinter = false;
+    desktop.ExpectBox("The list cannot be printed: there is no printer, or it did not accept the job.",
+                      BoxIcon::Exclamation);
+    PrintReport(TwoFindings, "/data/north.txt", desktop);
+    EXPECT_TRUE(desktop.printed.empty());
+}

@@ -1,0 +1,66 @@
+#include "core/Records.h"
+
+#include <gtest/gtest.h>
+
+using namespace CommonRoutines;
+
+namespace {
+
+TEST(VariationRecord, IsDeletedWhenItsTextIsATabAlone) {
+    VariationRecord variation;
+    variation.Text = "\t";
+    EXPECT_TRUE(variation.IsDeleted());
+}
+
+TEST(VariationRecord, AnyOtherTextIsNotDeleted) {
+    for (const char* text : {"", " ", "\t\t", " \t", "\t ", "!\t", "%\t", "Smithton", "\n"}) {
+        VariationRecord variation;
+        variation.Text = text;
+        EXPECT_FALSE(variation.IsDeleted()) << '[' << text << ']';
+    }
+}
+
+TEST(VariationRecord, StartsWithoutFindings) {
+    const VariationRecord variation;
+    EXPECT_EQ(variation.Text, "");
+    EXPECT_FALSE(variation.bDuplicate);
+    EXPECT_EQ(variation.lDuplicateOf, 0);
+    EXPECT_FALSE(variation.bUnusualCaps);
+}
+
+TEST(DistrictRecord, StartsAsAnEmptyDistrict) {
+    const DistrictRecord district;
+    EXPECT_FALSE(district.bRetained);
+    EXPECT_EQ(district.Name + district.HeaderText + district.County + district.Volume, "");
+    EXPECT_EQ(district.Founded, 0);
+    EXPECT_EQ(district.QtrF, 0);
+    EXPECT_EQ(district.Abolished, 0);
+    EXPECT_EQ(district.QtrA, 0);
+    EXPECT_EQ(district.iQuestionCount, 0);
+    EXPECT_EQ(district.iDuplicateCount, 0);
+    EXPECT_EQ(district.lInvalidCount, 0);
+    EXPECT_EQ(district.lWarningCount, 0);
+    EXPECT_EQ(district.lVariationCount, 0);
+}
+
+TEST(DistrictRecord, HoldsSixExtraFieldsBehindAnUnusedOne) {
+    EXPECT_EQ(DistrictRecord().Extra.size(), 7U);
+}
+
+TEST(DistrictRecord, IsCopiedWithItsTexts) {
+    DistrictRecord original;
+    original.Name = "Smithton";
+    original.Variations.resize(2);
+    original.Variations[1].Text = "Smithtown";
+    DistrictRecord copy = original;
+    copy.Name = "Other";
+    copy.Variations[1].Text = "Other";
+    EXPECT_EQ(original.Name, "Smithton");
+    EXPECT_EQ(original.Variations[1].Text, "Smithtown");
+}
+
+TEST(NoYear, IsTheNumberThatTheFilesUse) {
+    EXPECT_EQ(NoYear, 9999);
+}
+
+} // namespace

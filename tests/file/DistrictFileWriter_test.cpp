@@ -1,0 +1,113 @@
+#include "file/DistrictFileWriter.h"
+
+#include "support/Reading.h"
+#include "support/Table.h"
+
+using namespace CommonRoutines;
+
+namespace {
+
+class DistrictFileWriterTest : public StateTest {
+protected:
+    ScriptedDesktop m_desktop;
+};
+
+} // namespace
+
+TEST_F(DistrictFileWriterTest, AnEmptyTableIsAnEmptyFile) {
+    EXPECT_EQ(DistrictFileContent(), "");
+}
+
+TEST_F(DistrictFileWriterTest, EveryLineIsWrittenInTableOrderWithCrLf) {
+    AddRetained("# note|with a bar");
+    AddDistrict("Ash", {"Elm", " Oak ", "!Fir%12"});
+    AddRetained("");
+    AddDistrict("Yew");
+    EXPECT_EQ(DistrictFileContent(), "# note|with a bar\r\n"
+                                     "Ash+1+Shire+1837+3+9999+0+A+B|Elm| Oak |!Fir%12\r\n"
+                                     "\r\n"
+                                     "Yew+1+Shire+1837+3+9999+0+A+B\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, DeletedSlotsLeaveNoTrace) {
+    AddDistrict("Ash", {"\t", "Elm", "\t", "Oak", "\t"});
+    EXPECT_EQ(DistrictFileContent(), "Ash+1+Shire+1837+3+9999+0+A+B|Elm|Oak\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, ATextThatHoldsMoreThanATabIsNoDeletedSlot) {
+    AddDistrict("Ash", {"\tElm", "\t\t"});
+    EXPECT_EQ(DistrictFileContent(), "Ash+1+Shire+1837+3+9999+0+A+B|\tElm|\t\t\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, ADistrictWhoseVariationsAreAllDeletedIsItsHeaderAlone) {
+    AddDistrict("Ash", {"\t", "\t"});
+    EXPECT_EQ(DistrictFileContent(), "Ash+1+Shire+1837+3+9999+0+A+B\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, OnlyTheHeaderTextIsWrittenNeverTheFieldsReadFromIt) {
+    AddDistrict("Ash");
+    DistrictAt(1).Name = "Other";
+    DistrictAt(1).Founded = 1;
+    EXPECT_EQ(DistrictFileContent(), "Ash+1+Shire+1837+3+9999+0+A+B\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, SlotsBeyondTheCountAreNotWritten) {
+    AddDistrict("Ash", {"Elm", "Oak"});
+    DistrictAt(1).lVariationCount = 1;
+    EXPECT_EQ(DistrictFileContent(), "Ash+1+Shire+1837+3+9999+0+A+B|Elm\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, LinesBeyondTheCountAreNotWritten) {
+    AddRetained("# one");
+    AddRetained("# two");
+    lLineCount = 1;
+    EXPECT_EQ(DistrictFileContent(), "# one\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, AFileReadComesBackTrimmedAndWithoutBlankVariations) {
+    m_desktop.recordReports = true;
+    ReadText(m_desktop, "  # note  \n   \n  Ash + 1+B +1837+ 3+9999+0+x+ y | Elm ||Oak|\nYew+1+B+1837+3+9999+0+x+y");
+    EXPECT_EQ(DistrictFileContent(), "# note\r\n"
+                                     "\r\n"
+                                     "Ash + 1+B +1837+ 3+9999+0+x+ y | Elm |Oak\r\n"
+                                     "Yew+1+B+1837+3+9999+0+x+y\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, SavingProposesTheOpenFileAndSaysWhereItWent) {
+    sDataFileName = "/data/north/districts.txt";
+    AddRetained("# note");
+    m_desktop.ExpectSave("/data/caf\xC3\xA9/new.txt");
+    m_desktop.ExpectBox("File Saved to /data/caf\xE9/new.txt", BoxIcon::Information);
+    SaveDistrictFile(m_desktop);
+    EXPECT_EQ(m_desktop.lastRequest.sFolder, "/data/north");
+    EXPECT_EQ(m_desktop.lastRequest.sFileName, "districts.txt");
+    EXPECT_EQ(m_desktop.files, (std::map<std::string, std::string>{{"/data/caf\xC3\xA9/new.txt", "# note\r\n"}}));
+}
+
+TEST_F(DistrictFileWriterTest, SavingReplacesTheOldContent) {
+    sDataFileName = "C:\\data\\old.txt";
+    m_desktop.files["C:\\data\\old.txt"] = "a much longer old content";
+    AddRetained("# new");
+    m_desktop.ExpectSave("C:\\data\\old.txt");
+    m_desktop.ExpectBox("File Saved to C:\\data\\old.txt", BoxIcon::Information);
+    SaveDistrictFile(m_desktop);
+    EXPECT_EQ(m_desktop.lastRequest.sFolder, "C:\\data");
+    EXPECT_EQ(m_desktop.lastRequest.sFileName, "old.txt");
+    EXPECT_EQ(m_desktop.files["C:\\data\\old.txt"], "# new\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, ACancelledDialogueEndsSilently) {
+    AddRetained("# note");
+    m_desktop.ExpectSave(std::nullopt);
+    SaveDistrictFile(m_desktop);
+    EXPECT_TRUE(m_desktop.files.empty());
+}
+
+TEST_F(DistrictFileWriterTest, AFailedWriteEndsSilentlyAndLeavesTheOldFile) {
+    m_desktop.files["/data/old.txt"] = "old";
+    m_desktop.canWrite = false;
+    AddRetained("# note");
+    m_desktop.ExpectSave("/data/old.txt");
+    SaveDistrictFile(m_desktop);
+    EXPECT_EQ(m_desktop.files["/data/old.txt"], "old");
+}

@@ -1,0 +1,136 @@
+#include "core/State.h"
+#include "rules/Capitals.h"
+#include "support/ScriptedDesktop.h"
+#include "support/Table.h"
+
+using namespace CommonRoutines;
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class LowerCaseWordList : public StateTest {
+protected:
+    void Load(std::string content) {
+        desktop.files["/program/qx_lower.txt"] = std::move(content);
+        LoadLowerCaseWords(desktop);
+    }
+
+    static Texts Words() { return {LowerCaseWords.begin() + 1, LowerCaseWords.begin() + 1 + lLowerCaseWordCount}; }
+
+    static std::ptrdiff_t UpperBound() { return std::ssize(LowerCaseWords) - 1; }
+
+    static std::string Items(int count) {
+        std::string line;
+        for (int i = 1; i <= count; ++i) {
+            line += "w" + std::to_string(i) + (i < count ? "," : "");
+        }
+        return line;
+    }
+
+    ScriptedDesktop desktop;
+};
+
+TEST_F(LowerCaseWordList, WordsStandBetweenCommasAndEmptyItemsAreSkipped) {
+    Load("of, the,,upon\r\n");
+    EXPECT_EQ(Words(), (Texts{"of", "the", "upon"}));
+}
+
+TEST_F(LowerCaseWordList, EveryLineAddsItsWords) {
+    Load("of\r\n\r\n  the , upon  \nle");
+    EXPECT_EQ(Words(), (Texts{"of", "the", "upon", "le"}));
+}
+
+TEST_F(LowerCaseWordList, WordsAreKeptInSmallLettersInTheirOrderWithRepetitions) {
+    Load("UPON,Of,\xC9LAN,of");
+    EXPECT_EQ(Words(), (Texts{"upon", "of", "\xE9lan", "of"}));
+}
+
+TEST_F(LowerCaseWordList, OnlyBlanksAreTrimmedAndInnerOnesStay) {
+    Load(" on the ,\tby");
+    EXPECT_EQ(Words(), (Texts{"on the", "\tby"}));
+}
+
+TEST_F(LowerCaseWordList, AFileWithoutWordsIsAnEmptyListAndNoMessage) {
+    Load(" , ,\r\n\r\n");
+    EXPECT_EQ(lLowerCaseWordCount, 0);
+    EXPECT_EQ(UpperBound(), 10);
+}
+
+TEST_F(LowerCaseWordList, AnEmptyFileIsAnEmptyListAndNoMessage) {
+    Load("");
+    EXPECT_EQ(lLowerCaseWordCount, 0);
+    EXPECT_EQ(UpperBound(), 10);
+}
+
+TEST_F(LowerCaseWordList, HasRoomForTenWordsAtFirst) {
+    Load(Items(10));
+    EXPECT_EQ(lLowerCaseWordCount, 10);
+    EXPECT_EQ(UpperBound(), 10);
+}
+
+TEST_F(LowerCaseWordList, AWordThatDoesNotFitMakesRoomForTenBehindIt) {
+    Load(Items(11));
+    EXPECT_EQ(lLowerCaseWordCount, 11);
+    EXPECT_EQ(UpperBound(), 21);
+    Load(Items(21));
+    EXPECT_EQ(UpperBound(), 21);
+    Load(Items(22));
+    EXPECT_EQ(UpperBound(), 32);
+}
+
+TEST_F(LowerCaseWordList, GrowingKeepsTheWords) {
+    Load(Items(35));
+    ASSERT_EQ(lLowerCaseWordCount, 35);
+    for (int i = 1; i <= 35; ++i) {
+        EXPECT_EQ(LowerCaseWords[static_cast<std::size_t>(i)], "w" + std::to_string(i));
+    }
+}
+
+TEST_F(LowerCaseWordList, TheFirstElementIsNeverFilled) {
+    Load("of");
+    EXPECT_EQ(LowerCaseWords[0], "");
+    EXPECT_EQ(LowerCaseWords[1], "of");
+}
+
+TEST_F(LowerCaseWordList, ANewListReplacesTheOld) {
+    Load(Items(15));
+    Load("of");
+    EXPECT_EQ(Words(), Texts{"of"});
+    EXPECT_EQ(UpperBound(), 10);
+}
+
+TEST_F(LowerCaseWordList, WithoutTheFileOneMessageSaysSoAndTheListIsEmpty) {
+    Load("smithton");
+    desktop.files.clear();
+    desktop.ExpectBox("No lowercase file found - no words will be ignored", BoxIcon::Information);
+    LoadLowerCaseWords(desktop);
+    desktop.CheckDone();
+    EXPECT_EQ(lLowerCaseWordCount, 0);
+    EXPECT_TRUE(HasUnusualCapitals("smithton"));
+    EXPECT_FALSE(HasUnusualCapitals("Smithton"));
+}
+
+TEST_F(LowerCaseWordList, OnlyTheProgramsOwnFolderIsLookedInto) {
+    desktop.files["qx_lower.txt"] = desktop.files["/qx_lower.txt"] = "of";
+    desktop.ExpectBox("No lowercase file found - no words will be ignored", BoxIcon::Information);
+    LoadLowerCaseWords(desktop);
+    EXPECT_EQ(lLowerCaseWordCount, 0);
+}
+
+TEST_F(LowerCaseWordList, TheProgramsFolderBecomesTheCurrentOneWithOrWithoutTheFile) {
+    Load("of");
+    EXPECT_EQ(desktop.programFolderEntries, 1);
+    desktop.files.clear();
+    desktop.ExpectBox("No lowercase file found - no words will be ignored", BoxIcon::Information);
+    LoadLowerCaseWords(desktop);
+    EXPECT_EQ(desktop.programFolderEntries, 2);
+}
+
+TEST_F(LowerCaseWordList, TheCapitalisationCheckUsesTheWordsOfTheFile) {
+    Load("Upon,of");
+    EXPECT_FALSE(HasUnusualCapitals("Stoke-upon-Trent"));
+    EXPECT_TRUE(HasUnusualCapitals("Stoke-by-Trent"));
+}
+
+} // namespace

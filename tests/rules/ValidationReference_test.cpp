@@ -1,0 +1,60 @@
+#include "rules/SlowRules.h"
+#include "rules/Validation.h"
+#include "support/Table.h"
+
+#include <set>
+
+using namespace CommonRoutines;
+
+namespace {
+
+using ValidationReference = StateTest;
+
+constexpr std::string_view Nasty = "!%? \t-[](ABab_|\xE9\xC9\x80\x7F\xFF\x1F";
+constexpr std::string_view Markers = "!%%  ?ABab_1";
+constexpr std::string_view Mild = "!%?_ABCabc 123}\xE9";
+
+// Runs both over the same texts, one after the other, so that what a check leaves to the next is
+// compared as well. Returns the reasons met, so that a test can tell that it has met them all.
+std::set<std::string> Compare(std::uint32_t seed, std::int16_t mode) {
+    constexpr std::string_view alphabets[] = {Nasty, Markers, Mild};
+    std::mt19937 random(seed);
+    iEditMode = mode;
+    Slow::Validation slow;
+    slow.readingFile = mode == NothingOpen;
+    std::set<std::string> reasons;
+    for (int round = 0; round < 200'000; ++round) {
+        const std::string text = Slow::RandomText(random, alphabets[random() % 3], 10);
+        bool bNullDistrict = round % 2 == 0;
+        const bool valid = ValidateVariation(text, round, &bNullDistrict);
+        const bool same = valid == slow.Check(text) && sInvalidReason == slow.invalidReason &&
+                          bWarning == slow.warning && sWarningReason == slow.warningReason &&
+                          bNullDistrict == slow.nullDistrict;
+        if (!same) {
+            ADD_FAILURE() << '[' << text << "] " << valid << ", " << sInvalidReason << ", " << sWarningReason;
+            return {};
+        }
+        const std::string reason = valid ? "valid" : bNullDistrict ? "flagged" : sInvalidReason;
+        reasons.insert(reason.substr(0, reason.find(" char at position")));
+    }
+    return reasons;
+}
+
+const std::set<std::string> ReasonsInAnyMode = {"valid",          "Invalid Char - |", "Invalid VNF dependency format",
+                                                "Multiple !'s",   "Space after !",    "Space after %",
+                                                "Space before %", "Leading space",    "Invalid",
+                                                "Trailing space", "Question Mark"};
+
+TEST_F(ValidationReference, AgreesOnRandomTextsWhileADistrictIsShown) {
+    auto expected = ReasonsInAnyMode;
+    expected.insert("Null District");
+    EXPECT_EQ(Compare(1, DistrictIdle), expected);
+}
+
+TEST_F(ValidationReference, AgreesOnRandomTextsWhileAFileIsRead) {
+    auto expected = ReasonsInAnyMode;
+    expected.insert("flagged");
+    EXPECT_EQ(Compare(2, NothingOpen), expected);
+}
+
+} // namespace

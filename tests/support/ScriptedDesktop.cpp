@@ -1,0 +1,141 @@
+#include "support/ScriptedDesktop.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string Listed(std::span<const std::string> texts) {
+    std::string list;
+    for (const std::string& text : texts) {
+        list += "\n  [" + text + "]";
+    }
+    return list;
+}
+
+std::string BoxPrompt(std::string_view text, BoxIcon icon, BoxButtons buttons) {
+    return "box, icon " + std::to_string(static_cast<int>(icon)) + ", buttons " +
+           std::to_string(static_cast<int>(buttons)) + ": " + std::string(text);
+}
+
+std::string ChoicePrompt(std::string_view prompt, std::span<const std::string> captions) {
+    return "choice: " + std::string(prompt) + Listed(captions);
+}
+
+std::string InputPrompt(std::string_view prompt) {
+    return "input: " + std::string(prompt);
+}
+
+std::string ReportPrompt(const Report& report) {
+    return "report " + report.sCaption + (report.bCanPrintAndSave ? ", printable:" : ":") + Listed(report.Items);
+}
+
+} // namespace
+
+ScriptedDesktop::~ScriptedDesktop() {
+    CheckDone();
+}
+
+void ScriptedDesktop::CheckDone() {
+    for (const Step& step : m_script) {
+        ADD_FAILURE() << "expected, but did not come: " << step.prompt;
+    }
+    m_script.clear();
+}
+
+void ScriptedDesktop::ExpectBox(std::string text, BoxIcon icon, BoxButtons buttons, BoxAnswer answer) {
+    m_script.push_back({BoxPrompt(text, icon, buttons), std::to_string(static_cast<int>(answer))});
+}
+
+void ScriptedDesktop::ExpectChoice(std::string prompt, std::vector<std::string> captions, std::string answer) {
+    m_script.push_back({ChoicePrompt(prompt, captions), std::move(answer)});
+}
+
+void ScriptedDesktop::ExpectInput(std::string prompt, std::optional<std::string> answer) {
+    m_script.push_back({InputPrompt(prompt), std::move(answer)});
+}
+
+void ScriptedDesktop::ExpectOpen(std::optional<std::string> path) {
+    m_script.push_back({"open dialogue", std::move(path)});
+}
+
+void ScriptedDesktop::ExpectSave(std::optional<std::string> path) {
+    m_script.push_back({"save dialogue", std::move(path)});
+}
+
+void ScriptedDesktop::ExpectReport(std::string caption, std::vector<std::string> items, bool canPrintAndSave) {
+    m_script.push_back({ReportPrompt({std::move(caption), std::move(items), canPrintAndSave}), std::nullopt});
+}
+
+std::optional<std::string> ScriptedDesktop::Play(const std::string& prompt) {
+    if (m_script.empty()) {
+        ADD_FAILURE() << "not expected: " << prompt;
+        return std::nullopt;
+    }
+    const Step step = m_script.front();
+    m_script.pop_front();
+    EXPECT_EQ(prompt, step.prompt);
+    return step.answer;
+}
+
+BoxAnswer ScriptedDesktop::MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) {
+    const auto answer = Play(BoxPrompt(text, icon, buttons));
+    return answer ? static_cast<BoxAnswer>(std::stoi(*answer)) : BoxAnswer::Cancel;
+}
+
+std::string ScriptedDesktop::MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
+                                      std::span<const std::string> ButtonCaptions) {
+    EXPECT_EQ(Img, IconQuestion);
+    EXPECT_EQ(Title, "Null Variation");
+    // Quit ends the loop of a dialogue that a test did not expect.
+    return Play(ChoicePrompt(Prompt, ButtonCaptions)).value_or("Quit");
+}
+
+std::optional<std::string> ScriptedDesktop::InputBox(std::string_view prompt) {
+    return Play(InputPrompt(prompt));
+}
+
+void ScriptedDesktop::ShowReport(const Report& report) {
+    if (recordReports) {
+        reports.push_back(report);
+        return;
+    }
+    Play(ReportPrompt(report));
+}
+
+std::optional<std::string> ScriptedDesktop::ChooseFileToOpen(const FileRequest& request) {
+    lastRequest = request;
+    return Play("open dialogue");
+}
+
+std::optional<std::string> ScriptedDesktop::ChooseFileToSave(const FileRequest& request) {
+    lastRequest = request;
+    return Play("save dialogue");
+}
+
+std::optional<std::string> ScriptedDesktop::ReadFile(const std::string& path) {
+    const auto file = files.find(path);
+    return file == files.end() ? std::nullopt : std::optional(file->second);
+}
+
+bool ScriptedDesktop::ReplaceFile(const std::string& path, std::string_view content) {
+    if (canWrite) {
+        files[path] = content;
+    }
+    return canWrite;
+}
+
+std::string ScriptedDesktop::GetSetting(std::string_view section, std::string_view key) {
+    const auto setting = settings.find(std::string(section) + '/' + std::string(key));
+    return setting == settings.end() ? std::string() : setting->second;
+}
+
+void ScriptedDesktop::SaveSetting(std::string_view section, std::string_view key, const std::string& value) {
+    settings[std::string(section) + '/' + std::string(key)] = value;
+}
+
+bool ScriptedDesktop::Print(std::span<const std::string> lines) {
+    if (hasPrinter) {
+        printed.assign(lines.begin(), lines.end());
+    }
+    return hasPrinter;
+}

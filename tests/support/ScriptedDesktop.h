@@ -1,0 +1,74 @@
+#pragma once
+
+#include "core/Desktop.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <variant>
+#include <vector>
+
+// A desktop that plays a script: the prompts that a test expects, in order and word for word, each
+// with its answer. A prompt that was not expected fails the test, and so does an answer left over.
+// Files, settings and the printer live in memory.
+class ScriptedDesktop : public Desktop {
+public:
+    ScriptedDesktop() = default;
+    ~ScriptedDesktop() override;
+
+    // The script.
+    void ExpectBox(std::string text, BoxIcon icon, BoxButtons buttons = BoxButtons::Ok,
+                   BoxAnswer answer = BoxAnswer::Ok);
+    void ExpectChoice(std::string prompt, std::vector<std::string> captions, std::string answer);
+    void ExpectInput(std::string prompt, std::optional<std::string> answer);
+    void ExpectOpen(std::optional<std::string> path);
+    void ExpectSave(std::optional<std::string> path);
+    void ExpectReport(std::string caption, std::vector<std::string> items, bool canPrintAndSave);
+    // Fails the test unless everything expected has happened.
+    void CheckDone();
+    // Reports are collected instead of being compared with the script: for those that are too long
+    // or too far from the point to be written out.
+    bool recordReports = false;
+    std::vector<Report> reports;
+
+    // The machine.
+    std::map<std::string, std::string> files;
+    std::map<std::string, std::string> settings; // by "section/key"
+    std::vector<std::string> printed;
+    bool hasPrinter = true;
+    bool canWrite = true;
+    int beeps = 0;
+    bool busy = false;
+    int programFolderEntries = 0; // how often the program's folder became the current one
+    FileRequest lastRequest;      // of the last file dialogue
+
+    BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override;
+    std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
+                         std::span<const std::string> ButtonCaptions) override;
+    std::optional<std::string> InputBox(std::string_view prompt) override;
+    void ShowReport(const Report& report) override;
+    std::optional<std::string> ChooseFileToOpen(const FileRequest& request) override;
+    std::optional<std::string> ChooseFileToSave(const FileRequest& request) override;
+    std::optional<std::string> ReadFile(const std::string& path) override;
+    bool ReplaceFile(const std::string& path, std::string_view content) override;
+    std::string ProgramFolder() override { return "/program"; }
+    void EnterProgramFolder() override { ++programFolderEntries; }
+    std::string GetSetting(std::string_view section, std::string_view key) override;
+    void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override;
+    bool Print(std::span<const std::string> lines) override;
+    std::string Today() override { return "05 Mar 2026"; }
+    std::string ShortTime() override { return "14:07"; }
+    void Beep() override { ++beeps; }
+    void ShowBusy(bool isBusy) override { busy = isBusy; }
+
+private:
+    // One prompt as text, with whatever a user could tell apart, and the answer to give.
+    struct Step {
+        std::string prompt;
+        std::optional<std::string> answer;
+    };
+    std::optional<std::string> Play(const std::string& prompt);
+
+    std::deque<Step> m_script;
+};
