@@ -1,0 +1,68 @@
+#include "ui/ChangeModel.h"
+
+#include "ui/StateColours.h"
+#include "ui/Text.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+
+using namespace CommonRoutines;
+
+namespace {
+
+VariationState StateOf(const ChangeRow& row) {
+    if (row.bWarning) {
+        return VariationState::Warning;
+    }
+    return row.iTag == ChangeRow::Invalid ? VariationState::Invalid : VariationState::Plain;
+}
+
+} // namespace
+
+void ChangeModel::SetRows(std::vector<ChangeRow> rows) {
+    beginResetModel();
+    m_rows = std::move(rows);
+    endResetModel();
+}
+
+bool ChangeModel::AnyChecked() const {
+    return std::any_of(m_rows.begin(), m_rows.end(), [](const ChangeRow& row) { return row.bChecked; });
+}
+
+int ChangeModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant ChangeModel::data(const QModelIndex& index, int role) const {
+    const ChangeRow& row = m_rows[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return Text::ForList(row.sText);
+    case Qt::ForegroundRole:
+        return StateColours::InList(StateOf(row), QGuiApplication::palette());
+    case Qt::CheckStateRole:
+        return row.bChecked ? Qt::Checked : Qt::Unchecked;
+    case Qt::ToolTipRole:
+        return Text::ForToolTip(Text::ForList(row.sText));
+    default:
+        return {};
+    }
+}
+
+bool ChangeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::CheckStateRole) {
+        return false;
+    }
+    m_rows[static_cast<std::size_t>(index.row())].bChecked = value.toInt() == Qt::Checked;
+    Q_EMIT dataChanged(index, index, {Qt::CheckStateRole});
+    return true;
+}
+
+Qt::ItemFlags ChangeModel::flags(const QModelIndex& index) const {
+    return QAbstractListModel::flags(index) | Qt::ItemIsUserCheckable;
+}
+
+QVariant ChangeModel::headerData(int /*section*/, Qt::Orientation orientation, int role) const {
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(tr("Proposed variation")) : QVariant();
+}

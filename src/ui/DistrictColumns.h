@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/Records.h"
+
+#include <QFontMetricsF>
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+// The widths of the columns of the districts list, in pixels of a font: every column as wide as its
+// widest text, or its heading, plus a padding.
+class DistrictColumns {
+public:
+    explicit DistrictColumns(const QFont& font);
+
+    // Widens the columns for a district's row.
+    void AddDistrictRow(const CommonRoutines::DistrictRecord& record);
+
+    [[nodiscard]] int Width(std::size_t column) const { return m_widths[column]; }
+
+    // The larger of a minimum and the width of a text, rounded to a whole number.
+    [[nodiscard]] int MeasureTextWidth(std::string_view text, int minimum) const;
+
+private:
+    static constexpr std::size_t ColumnCount = 7;
+
+    void Widen(std::size_t column, std::string_view text, std::string_view padding);
+    double UpperBound(std::string_view text);
+    double PairAdvance(char first, char second);
+
+    QFontMetricsF m_metrics;
+    std::array<int, ColumnCount> m_widths{};
+    std::vector<float> m_pairAdvances; // by first and second character; negative until measured
+};

@@ -1,0 +1,63 @@
+#include "ui/DistrictModel.h"
+
+#include "core/State.h"
+#include "file/DistrictList.h"
+#include "ui/StateColours.h"
+#include "ui/Text.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+
+using namespace CommonRoutines;
+
+void DistrictModel::SetDistricts(std::vector<std::int32_t> districts) {
+    beginResetModel();
+    m_districts = std::move(districts);
+    endResetModel();
+}
+
+int DistrictModel::RowOf(std::int32_t district) const {
+    const auto found = std::find(m_districts.begin(), m_districts.end(), district);
+    return found == m_districts.end() ? -1 : static_cast<int>(found - m_districts.begin());
+}
+
+void DistrictModel::Refresh(std::int32_t district) {
+    if (const int row = RowOf(district); row >= 0) {
+        Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+    }
+}
+
+int DistrictModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_districts.size());
+}
+
+int DistrictModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(DistrictHeadings.size());
+}
+
+QVariant DistrictModel::data(const QModelIndex& index, int role) const {
+    const DistrictRecord& record = Districts[static_cast<std::size_t>(DistrictAt(index.row()))];
+    const QString text = Text::ForList(DistrictCell(record, static_cast<std::size_t>(index.column())));
+    const bool problem = DistrictHasProblem(record);
+    switch (role) {
+    case Qt::DisplayRole:
+        return text;
+    case Qt::ForegroundRole:
+        return StateColours::InList(problem ? VariationState::Invalid : VariationState::Plain,
+                                    QGuiApplication::palette());
+    case Qt::AccessibleTextRole:
+        return problem && index.column() == 0 ? text + tr(", has problems") : text;
+    case Qt::ToolTipRole:
+        return Text::ForToolTip(problem ? text + tr(" - this district has problems") : text);
+    default:
+        return {};
+    }
+}
+
+QVariant DistrictModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return {};
+    }
+    return Text::ToQt(DistrictHeadings[static_cast<std::size_t>(section)]);
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "ui/Form1Controls.h"
+
+#include <QWidget>
+
+#include <cstdint>
+#include <vector>
+
+class ChangeModel;
+class CommentModel;
+class CommentTypeModel;
+class Desktop;
+class DistrictModel;
+class VariationModel;
+
+namespace CommonRoutines {
+struct SelectionView;
+}
+
+// The main window. Its handlers read the controls, call the routine that decides, and show the
+// result; the shared state of CommonRoutines is what they work on.
+class Form1 : public QWidget {
+public:
+    // `desktop` must live as long as the window.
+    explicit Form1(Desktop& desktop);
+
+    // What happens once before the window is used: the word list is read, all is set for "no file".
+    void LoadForm();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void SetModels();
+    void ConnectControls();
+
+    // The file.
+    void OpenClicked();
+    void SaveClicked();
+    [[nodiscard]] bool MayDiscardChanges();
+    void ResetWindow();
+    void FillDistrictList();
+
+    // The lists.
+    void DistrictChosen();
+    void VariationsChosen();
+    void CommentTypeChosen();
+    void RefreshVariationList();
+    void ShowDistrictComments();
+    void SizeCommentColumn();
+    void SizeWideColumns();
+
+    // The window as a whole.
+    void ApplyWindowMode();
+    void FitWindowToScreen();
+    void ResetEditPanel();
+    void UpdateMarkerOptions();
+    void PutIntoEditBox(const QString& text);
+    void ShowWhyError(std::string_view text, const QColor& colour);
+    void ClearWhyError();
+
+    Desktop& m_desktop;
+    Form1Controls m_controls;
+    DistrictModel* m_districts = nullptr;
+    VariationModel* m_variations = nullptr;
+    ChangeModel* m_changes = nullptr;
+    CommentModel* m_comments = nullptr;
+    CommentTypeModel* m_commentTypes = nullptr;
+    std::vector<std::int32_t> m_districtsByName; // all of the file; the filter chooses from them
+    bool m_fittedToScreen = false;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QLabel>
+
+// A label for texts from the data: always plain text, wrapped within its own width (a word that is
+// too long is broken) and ended by an ellipsis where it does not fit. Its size never follows its
+// text, so that nothing around it moves.
+class PlainLabel : public QLabel {
+public:
+    explicit PlainLabel(QWidget* parent = nullptr);
+
+    // Room for this many lines.
+    void SetLineCount(int lines);
+
+    // Colours of the text and the background, whatever the palette of the window.
+    void SetColours(const QColor& text, const QColor& background);
+
+    // Height of the whole text, wrapped to a width, in pixels.
+    [[nodiscard]] int WrappedHeight(int width) const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    int m_lines = 1;
+};

@@ -1,0 +1,266 @@
+#include "ui/QtDesktop.h"
+
+#include "ui/Text.h"
+#include "ui/VarCheck.h"
+#include "ui/frmCustomMessageBox.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QSaveFile>
+#include <QSettings>
+#include <QStyle>
+#include <QTextDocument>
+
+namespace {
+
+constexpr QLatin1String ProgramTitle("Quexal Editor");
+constexpr QLatin1String SettingsOrganisation("Quexal");
+constexpr QLatin1String SettingsApplication("QXEdit");
+
+QMessageBox::Icon IconOf(BoxIcon icon) {
+    switch (icon) {
+    case BoxIcon::Critical:
+        return QMessageBox::Critical;
+    case BoxIcon::Question:
+        return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case BoxIcon::Information:
+        return QMessageBox::Information;
+    case BoxIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
+    switch (buttons) {
+    case BoxButtons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case BoxButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+BoxIcon StandardBoxIcon(std::int32_t number) {
+    switch (number) {
+    case IconStop:
+        return BoxIcon::Critical;
+    case IconQuestion:
+        return BoxIcon::Question;
+    case IconExclamation:
+        return BoxIcon::Exclamation;
+    case IconInformation:
+        return BoxIcon::Information;
+    default:
+        return BoxIcon::None;
+    }
+}
+
+QIcon StandardPicture(std::int32_t number) {
+    const QStyle* style = QApplication::style();
+    switch (number) {
+    case IconStop:
+        return style->standardIcon(QStyle::SP_MessageBoxCritical);
+    case IconQuestion:
+        return style->standardIcon(QStyle::SP_MessageBoxQuestion);
+    case IconExclamation:
+        return style->standardIcon(QStyle::SP_MessageBoxWarning);
+    case IconInformation:
+        return style->standardIcon(QStyle::SP_MessageBoxInformation);
+    default:
+        return {};
+    }
+}
+
+QString SettingName(std::string_view section, std::string_view key) {
+    return Text::ToQt(section) + QLatin1Char('/') + Text::ToQt(key);
+}
+
+bool IsReadOnly(const QString& path) {
+    const QFileInfo file(path);
+    return file.exists() && !file.isWritable();
+}
+
+} // namespace
+
+BoxAnswer QtDesktop::ShowBox(const QString& title, std::string_view text, BoxIcon icon, BoxButtons buttons) {
+    QMessageBox box(IconOf(icon), title, Text::ForBox(text), ButtonsOf(buttons), m_window);
+    box.setTextFormat(Qt::PlainText);
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return BoxAnswer::Yes;
+    case QMessageBox::No:
+        return BoxAnswer::No;
+    case QMessageBox::Ok:
+        return BoxAnswer::Ok;
+    default:
+        return BoxAnswer::Cancel;
+    }
+}
+
+BoxAnswer QtDesktop::MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) {
+    return ShowBox(ProgramTitle, text, icon, buttons);
+}
+
+std::string QtDesktop::MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
+                                std::span<const std::string> ButtonCaptions) {
+    const QString title = Title.empty() ? QString(ProgramTitle) : Text::ToQt(Title);
+    const auto showCopy = [&] { ShowBox(title, Prompt, StandardBoxIcon(Img), BoxButtons::Ok); };
+    frmCustomMessageBox box(Prompt, StandardPicture(Img), title, ButtonCaptions, showCopy, m_window);
+    box.exec();
+    return box.Result();
+}
+
+std::optional<std::string> QtDesktop::InputBox(std::string_view prompt) {
+    QInputDialog dialog(m_window);
+    dialog.setWindowTitle(ProgramTitle);
+    dialog.setLabelText(Text::ForBox(prompt));
+    for (auto* label : dialog.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return Text::FromQt(dialog.textValue());
+}
+
+void QtDesktop::ShowReport(const Report& report) {
+    VarCheck(report, *this, m_window).exec();
+}
+
+std::optional<std::string> QtDesktop::Choose(QFileDialog& dialog, const FileRequest& request) {
+    if (!request.sTitle.empty()) {
+        dialog.setWindowTitle(Text::ForList(request.sTitle));
+    }
+    if (!request.sFolder.empty()) {
+        dialog.setDirectory(Text::PathToQt(request.sFolder));
+    }
+    if (!request.sFileName.empty()) {
+        dialog.selectFile(Text::PathToQt(request.sFileName));
+    }
+    dialog.setDefaultSuffix(Text::ToQt(request.sDefaultExtension));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return Text::PathFromQt(dialog.selectedFiles().constFirst());
+}
+
+std::optional<std::string> QtDesktop::ChooseFileToOpen(const FileRequest& request) {
+    QFileDialog dialog(m_window, QObject::tr("Open"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return Choose(dialog, request);
+}
+
+std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& request) {
+    QFileDialog dialog(m_window, QObject::tr("Save As"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    for (;;) {
+        const auto path = Choose(dialog, request);
+        if (!path || !IsReadOnly(Text::PathToQt(*path))) {
+            return path;
+        }
+        MsgBox("This file is read-only. Please choose another name.", BoxIcon::Exclamation, BoxButtons::Ok);
+    }
+}
+
+std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
+    const QString name = Text::PathToQt(path);
+    QFile file(name);
+    if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    std::string content(static_cast<std::size_t>(file.size()), '\0');
+    const qint64 length = file.read(content.data(), static_cast<qint64>(content.size()));
+    if (length < 0) {
+        return std::nullopt;
+    }
+    content.resize(static_cast<std::size_t>(length));
+    return content;
+}
+
+bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
+    QSaveFile file(Text::PathToQt(path));
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    const auto size = static_cast<qint64>(content.size());
+    // What is still in the buffer at the commit may fail to be written without the commit's noticing.
+    if (file.write(content.data(), size) != size || !file.flush()) {
+        file.cancelWriting();
+    }
+    return file.commit();
+}
+
+std::string QtDesktop::ProgramFolder() {
+    return Text::PathFromQt(QCoreApplication::applicationDirPath());
+}
+
+void QtDesktop::EnterProgramFolder() {
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
+}
+
+std::string QtDesktop::GetSetting(std::string_view section, std::string_view key) {
+    const QSettings settings(SettingsOrganisation, SettingsApplication);
+    return Text::PathFromQt(settings.value(SettingName(section, key)).toString());
+}
+
+void QtDesktop::SaveSetting(std::string_view section, std::string_view key, const std::string& value) {
+    QSettings settings(SettingsOrganisation, SettingsApplication);
+    settings.setValue(SettingName(section, key), Text::PathToQt(value));
+}
+
+bool QtDesktop::Print(std::span<const std::string> lines) {
+    const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
+    const QList<QPrinterInfo> all = QPrinterInfo::availablePrinters();
+    if (standard.isNull() && all.isEmpty()) {
+        return false;
+    }
+    QPrinter printer(standard.isNull() ? all.constFirst() : standard, QPrinter::HighResolution);
+    QStringList text;
+    for (const std::string& line : lines) {
+        text.append(Text::ToQt(line).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    }
+    QTextDocument document;
+    QTextOption option = document.defaultTextOption();
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    document.setDefaultTextOption(option);
+    document.setPlainText(text.join(QLatin1Char('\n')));
+    document.print(&printer);
+    return printer.printerState() != QPrinter::Error && printer.printerState() != QPrinter::Aborted;
+}
+
+std::string QtDesktop::Today() {
+    return Text::FromQt(QLocale().toString(QDate::currentDate(), QStringLiteral("dd MMM yyyy")));
+}
+
+std::string QtDesktop::ShortTime() {
+    return Text::FromQt(QLocale().toString(QTime::currentTime(), QLocale::ShortFormat));
+}
+
+void QtDesktop::Beep() {
+    QApplication::beep();
+}
+
+void QtDesktop::ShowBusy(bool busy) {
+    if (m_window.isNull()) {
+        return;
+    }
+    if (busy) {
+        m_window->setCursor(Qt::WaitCursor);
+    } else {
+        m_window->unsetCursor();
+    }
+}

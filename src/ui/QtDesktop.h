@@ -1,0 +1,40 @@
+#pragma once
+
+#include "core/Desktop.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QFileDialog;
+
+// The desktop as Qt shows it. Message boxes, dialogues, settings and the printer are named nowhere else.
+class QtDesktop : public Desktop {
+public:
+    // The window that dialogues belong to.
+    void SetWindow(QWidget* window) { m_window = window; }
+
+    BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override;
+    std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
+                         std::span<const std::string> ButtonCaptions) override;
+    std::optional<std::string> InputBox(std::string_view prompt) override;
+    void ShowReport(const Report& report) override;
+    std::optional<std::string> ChooseFileToOpen(const FileRequest& request) override;
+    std::optional<std::string> ChooseFileToSave(const FileRequest& request) override;
+    std::optional<std::string> ReadFile(const std::string& path) override;
+    bool ReplaceFile(const std::string& path, std::string_view content) override;
+    std::string ProgramFolder() override;
+    void EnterProgramFolder() override;
+    std::string GetSetting(std::string_view section, std::string_view key) override;
+    void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override;
+    bool Print(std::span<const std::string> lines) override;
+    std::string Today() override;
+    std::string ShortTime() override;
+    void Beep() override;
+    void ShowBusy(bool busy) override;
+
+private:
+    BoxAnswer ShowBox(const QString& title, std::string_view text, BoxIcon icon, BoxButtons buttons);
+    std::optional<std::string> Choose(QFileDialog& dialog, const FileRequest& request);
+
+    QPointer<QWidget> m_window;
+};

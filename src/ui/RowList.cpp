@@ -1,0 +1,114 @@
+#include "ui/RowList.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace {
+
+// Room above and below the text of a row, together, in pixels.
+constexpr int RowPadding = 5;
+
+class RoomyDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, RowPadding);
+    }
+};
+
+} // namespace
+
+RowList::RowList(QWidget* parent) : QTreeView(parent) {
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setAlternatingRowColors(false);
+    setSelectionBehavior(SelectRows);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setItemDelegate(new RoomyDelegate(this));
+    // Tab leads on to the next control, arrow keys lead through the rows.
+    setTabKeyNavigation(false);
+}
+
+std::vector<int> RowList::SelectedRows() const {
+    std::vector<int> rows;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange& range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            rows.push_back(row);
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+void RowList::SelectRow(int row) {
+    m_quiet = true;
+    setCurrentIndex(model()->index(row, 0));
+    m_quiet = false;
+}
+
+void RowList::CopySelection() const {
+    QStringList lines;
+    for (const int row : SelectedRows()) {
+        QStringList cells;
+        for (int column = 0; column < model()->columnCount(); ++column) {
+            cells.append(model()->index(row, column).data().toString());
+        }
+        lines.append(cells.join(QLatin1Char('\t')));
+    }
+    QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+void RowList::Announce() {
+    m_announced = true;
+    if (!m_quiet) {
+        Q_EMIT Chosen();
+    }
+}
+
+void RowList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTreeView::selectionChanged(selected, deselected);
+    Announce();
+}
+
+void RowList::mousePressEvent(QMouseEvent* event) {
+    m_announced = false;
+    QTreeView::mousePressEvent(event);
+    if (!m_announced && event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
+        Announce();
+    }
+}
+
+void RowList::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        CopySelection();
+        return;
+    }
+    // A list that has just got its rows or the focus has a current row but no selected one: the first
+    // key selects that row instead of stepping over it.
+    const bool towardsFirst =
+        event->key() == Qt::Key_Down || event->key() == Qt::Key_Up || event->key() == Qt::Key_Home;
+    if (towardsFirst && event->modifiers() == Qt::NoModifier && model()->rowCount() > 0 &&
+        !selectionModel()->hasSelection()) {
+        const QModelIndex first =
+            currentIndex().isValid() && event->key() != Qt::Key_Home ? currentIndex() : model()->index(0, 0);
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void RowList::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    Q_EMIT Resized();
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QTreeView>
+
+#include <vector>
+
+// A report list: rows under column headings, nothing edited in place, whole rows selected. Rows are
+// all of one height, so that a million of them cost what is visible.
+class RowList : public QTreeView {
+    Q_OBJECT
+
+public:
+    explicit RowList(QWidget* parent = nullptr);
+
+    // The numbers of the selected rows, in list order.
+    [[nodiscard]] std::vector<int> SelectedRows() const;
+
+    // Selects one row and scrolls to it, as the program's own doing: nothing is announced.
+    void SelectRow(int row);
+
+    // Copies the selected rows as lines, their cells separated by tabs.
+    void CopySelection() const;
+
+Q_SIGNALS:
+    // The user has changed the selection, or has clicked on a row that was selected already.
+    void Chosen();
+    void Resized();
+
+protected:
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void Announce();
+
+    bool m_announced = false; // since the mouse was pressed
+    bool m_quiet = false;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "edit/VariationList.h"
+
+#include <QColor>
+#include <QPalette>
+
+// The colours that tell the state of a row.
+namespace StateColours {
+
+inline constexpr QColor LightGrey(192, 192, 192);
+
+// The colour of a state on a light background; black where there is nothing to say.
+[[nodiscard]] QColor OnLight(CommonRoutines::VariationState state);
+
+// The colour of a state in a list: the same on light backgrounds, lighter shades of it on dark ones,
+// and the palette's own where there is nothing to say.
+[[nodiscard]] QColor InList(CommonRoutines::VariationState state, const QPalette& palette);
+
+} // namespace StateColours

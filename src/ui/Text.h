@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+// Where the core's texts, one Windows-1252 byte a character, become the toolkit's and come back.
+namespace Text {
+
+// Exactly the characters of the text. Back again, a character that Windows-1252 lacks becomes "?".
+[[nodiscard]] QString ToQt(std::string_view text);
+[[nodiscard]] std::string FromQt(const QString& text);
+
+// For message boxes and labels: CR LF as the toolkit's line break, and a text of unreasonable length
+// cut off with an ellipsis.
+[[nodiscard]] QString ForBox(std::string_view text);
+
+// For one line of a list: a line break as a blank, control characters as their visible symbols, a text
+// of unreasonable length cut off with an ellipsis.
+[[nodiscard]] QString ForList(std::string_view text);
+
+// For a tooltip, which would otherwise take markup for what it says.
+[[nodiscard]] QString ForToolTip(const QString& text);
+
+// File names are in the machine's own encoding.
+[[nodiscard]] QString PathToQt(const std::string& path);
+[[nodiscard]] std::string PathFromQt(const QString& path);
+
+} // namespace Text

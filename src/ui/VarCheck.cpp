@@ -1,0 +1,73 @@
+#include "ui/VarCheck.h"
+
+#include "checks/ReportOutput.h"
+#include "core/State.h"
+#include "ui/ReportModel.h"
+#include "ui/RowList.h"
+#include "ui/Text.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace CommonRoutines;
+
+namespace {
+
+constexpr QSize OpeningSize(640, 420);
+
+} // namespace
+
+VarCheck::VarCheck(const Report& report, Desktop& desktop, QWidget* parent)
+    : QDialog(parent), m_report(report), m_desktop(desktop) {
+    setObjectName(QStringLiteral("VarCheck"));
+    setWindowTitle(Text::ForList(report.sCaption));
+    setSizeGripEnabled(true);
+    resize(OpeningSize);
+    new QVBoxLayout(this);
+    BuildList();
+    BuildButtons();
+    List1->setFocus();
+}
+
+void VarCheck::BuildList() {
+    List1 = new RowList(this);
+    List1->setObjectName(QStringLiteral("List1"));
+    List1->setAccessibleName(tr("Findings"));
+    List1->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    List1->setModel(new ReportModel(m_report.Items, List1));
+    List1->setHeaderHidden(true);
+    List1->setTextElideMode(Qt::ElideNone);
+    // The column is as wide as what is visible of it, so that a long report opens at once.
+    List1->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    List1->header()->setResizeContentsPrecision(0);
+    layout()->addWidget(List1);
+}
+
+void VarCheck::BuildButtons() {
+    auto* buttons = new QDialogButtonBox(this);
+    auto* cbPrint = buttons->addButton(tr("Print"), QDialogButtonBox::ActionRole);
+    auto* cbSave = buttons->addButton(tr("Save List"), QDialogButtonBox::ActionRole);
+    auto* cbClose = buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
+    cbPrint->setObjectName(QStringLiteral("cbPrint"));
+    cbSave->setObjectName(QStringLiteral("cbSave"));
+    cbClose->setObjectName(QStringLiteral("cbClose"));
+    cbClose->setDefault(true);
+    for (QPushButton* button : {cbPrint, cbSave}) {
+        button->setAutoDefault(false);
+        button->setEnabled(m_report.bCanPrintAndSave);
+        button->setVisible(m_report.bCanPrintAndSave);
+    }
+    connect(cbPrint, &QPushButton::clicked, this, [this] { PrintReport(m_report, DataFile(), m_desktop); });
+    connect(cbSave, &QPushButton::clicked, this, [this] { SaveReport(m_report, DataFile(), m_desktop); });
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout()->addWidget(buttons);
+}
+
+const std::string& VarCheck::DataFile() {
+    if (m_dataFile.empty()) {
+        m_dataFile = sDataFileName;
+    }
+    return m_dataFile;
+}

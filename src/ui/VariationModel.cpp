@@ -1,0 +1,68 @@
+#include "ui/VariationModel.h"
+
+#include "core/State.h"
+#include "ui/StateColours.h"
+#include "ui/Text.h"
+
+#include <QGuiApplication>
+
+using namespace CommonRoutines;
+
+namespace {
+
+QString StateInWords(VariationState state) {
+    switch (state) {
+    case VariationState::Invalid:
+        return QObject::tr("invalid");
+    case VariationState::Warning:
+        return QObject::tr("warning");
+    case VariationState::Duplicate:
+        return QObject::tr("duplicate");
+    case VariationState::UnusualCaps:
+        return QObject::tr("unusual capitals");
+    case VariationState::Plain:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+void VariationModel::SetRows(std::int32_t district, std::vector<VariationRow> rows) {
+    beginResetModel();
+    m_district = district;
+    m_rows = std::move(rows);
+    endResetModel();
+}
+
+const std::string& VariationModel::TextAt(int row) const {
+    const auto slot = static_cast<std::size_t>(m_rows[static_cast<std::size_t>(row)].lIndex);
+    return Districts[static_cast<std::size_t>(m_district)].Variations[slot].Text;
+}
+
+int VariationModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant VariationModel::data(const QModelIndex& index, int role) const {
+    const VariationState state = m_rows[static_cast<std::size_t>(index.row())].state;
+    switch (role) {
+    case Qt::DisplayRole:
+        return Text::ForList(TextAt(index.row()));
+    case Qt::ForegroundRole:
+        return StateColours::InList(state, QGuiApplication::palette());
+    case Qt::AccessibleTextRole:
+    case Qt::ToolTipRole: {
+        const QString text = Text::ForList(TextAt(index.row()));
+        const QString words =
+            state == VariationState::Plain ? text : text + QStringLiteral(" - ") + StateInWords(state);
+        return role == Qt::ToolTipRole ? Text::ForToolTip(words) : words;
+    }
+    default:
+        return {};
+    }
+}
+
+QVariant VariationModel::headerData(int /*section*/, Qt::Orientation orientation, int role) const {
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(tr("Variation")) : QVariant();
+}

@@ -1,0 +1,147 @@
+// Drives the real window through the main job on the sample data, as a user would, and leaves a
+// screenshot of every station: quexal-tour FOLDER. Needs no display (QT_QPA_PLATFORM=offscreen).
+
+#include "DialogueGuide.h"
+
+#include "ui/Form1.h"
+#include "ui/QtDesktop.h"
+#include "ui/RowList.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+
+namespace {
+
+class Tour {
+public:
+    explicit Tour(const QString& folder) : m_folder(folder), m_form(m_desktop) {
+        m_desktop.SetWindow(&m_form);
+        m_form.LoadForm();
+        m_form.show();
+    }
+
+    // Returns false when a station was not reached.
+    bool Play();
+
+private:
+    template <typename Control>
+    Control& Find(const char* name) {
+        return *m_form.findChild<Control*>(QString::fromLatin1(name));
+    }
+    void Click(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
+    void ClickRow(const char* list, const QString& text);
+    void Picture(QWidget& widget, const QString& name);
+
+    void OpenPracticeFile();
+    void ShowDistrict();
+    void Filter();
+    void Save();
+
+    QDir m_folder;
+    QTemporaryDir m_work;
+    QtDesktop m_desktop;
+    Form1 m_form;
+    DialogueGuide m_guide;
+};
+
+void Tour::Picture(QWidget& widget, const QString& name) {
+    QTest::qWait(50);
+    const QString path = m_folder.filePath(name + QStringLiteral(".png"));
+    widget.grab().save(path);
+    std::printf("  %s\n", qUtf8Printable(path));
+}
+
+void Tour::ClickRow(const char* list, const QString& text) {
+    auto& rows = Find<RowList>(list);
+    const QModelIndexList found =
+        rows.model()->match(rows.model()->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly);
+    if (found.isEmpty()) {
+        qWarning("no row \"%s\" in %s", qUtf8Printable(text), list);
+        return;
+    }
+    rows.scrollTo(found.constFirst());
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, Qt::NoModifier, rows.visualRect(found.constFirst()).center());
+}
+
+void Tour::OpenPracticeFile() {
+    const QString practice = QCoreApplication::applicationDirPath() + QStringLiteral("/practice.txt");
+    m_guide.Next([=](QWidget& dialogue) { DialogueGuide::ChooseFile(dialogue, practice.toStdString()); });
+    bool inReport = false;
+    // The questions of the file, whichever they are, up to the report.
+    const std::function<void(QWidget&)> answer = [&](QWidget& dialogue) {
+        const QString kind = dialogue.objectName();
+        if (kind == QLatin1String("frmCustomMessageBox")) {
+            Picture(dialogue, QStringLiteral("repair"));
+            m_guide.Next(answer);
+            DialogueGuide::Press(dialogue, "Remove");
+        } else if (kind == QLatin1String("VarCheck")) {
+            inReport = true;
+            Picture(dialogue, QStringLiteral("report"));
+            m_guide.Next([](QWidget& duplicated) { DialogueGuide::Press(duplicated, "OK"); });
+            DialogueGuide::Press(dialogue, "Close");
+        } else {
+            Picture(dialogue, QStringLiteral("message"));
+            m_guide.Next(answer);
+            DialogueGuide::Press(dialogue, "OK");
+        }
+    };
+    m_guide.Next(answer);
+    Click("cbOpen");
+    if (!inReport) {
+        qWarning("the report did not come");
+    }
+    Picture(m_form, QStringLiteral("open"));
+}
+
+void Tour::ShowDistrict() {
+    ClickRow("lvAlpha", QStringLiteral("Dunmore Sands"));
+    Picture(m_form, QStringLiteral("district"));
+}
+
+void Tour::Filter() {
+    ClickRow("lbComments", QStringLiteral("BOUNDARY"));
+    Picture(m_form, QStringLiteral("filter"));
+    ClickRow("lbComments", QStringLiteral(" All"));
+}
+
+void Tour::Save() {
+    const QString copy = m_work.filePath(QStringLiteral("saved.txt"));
+    m_guide.Next([=](QWidget& dialogue) { DialogueGuide::ChooseFile(dialogue, copy.toStdString()); });
+    m_guide.Next([this](QWidget& dialogue) { Picture(dialogue, QStringLiteral("saved")); DialogueGuide::Press(dialogue, "OK"); });
+    Click("cbSave");
+    if (!QFile::exists(copy)) {
+        qWarning("the file was not saved");
+    }
+}
+
+bool Tour::Play() {
+    Picture(m_form, QStringLiteral("empty"));
+    OpenPracticeFile();
+    ShowDistrict();
+    Filter();
+    Save();
+    return m_guide.AllAnswered() && m_guide.Surprises() == 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    // The tour must not touch the user's own settings.
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication application(argc, argv);
+    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        std::fputs("usage: quexal-tour FOLDER\n", stderr);
+        return 2;
+    }
+    Tour tour(QString::fromLocal8Bit(argv[1]));
+    return tour.Play() ? 0 : 1;
+}
