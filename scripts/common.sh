@@ -1,0 +1,53 @@
+# What ./run, ./test and .ci/run share: saying what happens, and installing what is missing.
+
+BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev libgl-dev fonts-dejavu-core"
+TEST_PACKAGES="libgtest-dev xvfb xauth xdotool openbox"
+
+say() { printf '%s\n' "$*"; }
+fail() {
+    printf '%s: %s\n' "$(basename "$0")" "$*" >&2
+    exit 1
+}
+
+# Runs a command quietly; when it fails, says what failed and shows the end of what it printed.
+quietly() {
+    local what=$1 log
+    shift
+    log=$(mktemp)
+    if ! "$@" >"$log" 2>&1; then
+        tail -n 40 "$log" >&2
+        rm -f "$log"
+        fail "$what failed"
+    fi
+    rm -f "$log"
+}
+
+missing_packages() {
+    local package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || printf '%s ' "$package"
+    done
+}
+
+# Installs those of the named Debian packages that are missing.
+need_packages() {
+    local missing as_root=""
+    command -v dpkg-query >/dev/null || return 0
+    missing=$(missing_packages "$@")
+    [ -z "$missing" ] && return 0
+    if [ "$(id -u)" != 0 ]; then
+        command -v sudo >/dev/null || fail "these packages are missing and there is no sudo; as root: apt-get install $missing"
+        as_root=sudo
+    fi
+    say "Installing $missing"
+    export DEBIAN_FRONTEND=noninteractive
+    quietly "apt-get update" $as_root apt-get update
+    # shellcheck disable=SC2086
+    quietly "apt-get install" $as_root apt-get install -y --no-install-recommends $missing
+}
+
+# Configures and builds a preset.
+build_preset() {
+    quietly "configuring ($1)" cmake --preset "$1"
+    quietly "building ($1)" cmake --build --preset "$1"
+}
