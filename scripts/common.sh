@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # What ./run, ./test and .ci/run share: saying what happens, and installing what is missing.
 
 BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev libgl-dev fonts-dejavu-core"

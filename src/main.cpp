@@ -6,7 +6,7 @@
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quexal-editor"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Quexal Editor"));
+    // No display name is set: the toolkit would append it to the captions of all windows.
     QtDesktop desktop;
     Form1 form(desktop);
     desktop.SetWindow(&form);

@@ -114,7 +114,10 @@ void Tour::Filter() {
 void Tour::Save() {
     const QString copy = m_work.filePath(QStringLiteral("saved.txt"));
     m_guide.Next([=](QWidget& dialogue) { DialogueGuide::ChooseFile(dialogue, copy.toStdString()); });
-    m_guide.Next([this](QWidget& dialogue) { Picture(dialogue, QStringLiteral("saved")); DialogueGuide::Press(dialogue, "OK"); });
+    m_guide.Next([this](QWidget& dialogue) {
+        Picture(dialogue, QStringLiteral("saved"));
+        DialogueGuide::Press(dialogue, "OK");
+    });
     Click("cbSave");
     if (!QFile::exists(copy)) {
         qWarning("the file was not saved");

@@ -2,7 +2,7 @@
 
 #include "core/Ansi.h"
 #include "core/Desktop.h"
-#include "file/Paths.h"
+#include "core/Paths.h"
 
 namespace CommonRoutines {
 

@@ -2,8 +2,8 @@
 
 #include "core/Ansi.h"
 #include "core/Desktop.h"
+#include "core/Paths.h"
 #include "core/State.h"
-#include "file/Paths.h"
 
 namespace CommonRoutines {
 

@@ -1,6 +1,7 @@
 #include "ui/Form1.h"
 
 #include "core/Desktop.h"
+#include "core/Paths.h"
 #include "core/State.h"
 #include "edit/Selection.h"
 #include "edit/UndoClass.h"
@@ -10,7 +11,6 @@
 #include "file/DistrictFileReader.h"
 #include "file/DistrictFileWriter.h"
 #include "file/DistrictList.h"
-#include "file/Paths.h"
 #include "rules/Capitals.h"
 #include "rules/Markers.h"
 #include "ui/ChangeModel.h"
@@ -116,8 +116,6 @@ void Form1::closeEvent(QCloseEvent* event) {
     event->setAccepted(MayDiscardChanges());
 }
 
-// --- The file
-
 bool Form1::MayDiscardChanges() {
     return !bChanged || m_desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
                                          BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
@@ -191,8 +189,6 @@ void Form1::FillDistrictList() {
         m_controls.lvAlpha->setColumnWidth(static_cast<int>(column), columns.Width(column));
     }
 }
-
-// --- The lists
 
 void Form1::DistrictChosen() {
     const std::vector<int> rows = m_controls.lvAlpha->SelectedRows();
@@ -289,8 +285,6 @@ void Form1::SizeWideColumns() {
         list->setColumnWidth(0, 2 * list->width());
     }
 }
-
-// --- The window as a whole
 
 void Form1::ApplyWindowMode() {
     const ChangeListState changes{m_changes->rowCount() > 0,

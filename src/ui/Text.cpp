@@ -13,9 +13,10 @@ namespace {
 constexpr std::size_t LongestShown = 4000;
 constexpr QChar Ellipsis(0x2026);
 
-// Unicode has a visible symbol for each control character.
-constexpr char16_t ControlPictures = 0x2400;
-constexpr char16_t DeletePicture = 0x2421;
+// What is shown for a tab and for the other control characters. (Unicode has a symbol for each of them,
+// but few fonts do.)
+constexpr QChar TabSymbol(0x21E5);
+constexpr QChar ControlSymbol(0xFFFD);
 
 QString Shortened(std::string_view text) {
     return text.size() <= LongestShown ? ToQt(text) : ToQt(text.substr(0, LongestShown)) + Ellipsis;
@@ -44,10 +45,10 @@ QString ForBox(std::string_view text) {
 QString ForList(std::string_view text) {
     QString result = Shortened(text).replace(QStringLiteral("\r\n"), QStringLiteral(" "));
     for (QChar& c : result) {
-        if (c.unicode() < 0x20) {
-            c = QChar(static_cast<char16_t>(ControlPictures + c.unicode()));
-        } else if (c.unicode() == 0x7F) {
-            c = QChar(DeletePicture);
+        if (c == QLatin1Char('\t')) {
+            c = TabSymbol;
+        } else if (c.unicode() < 0x20 || c.unicode() == 0x7F) {
+            c = ControlSymbol;
         }
     }
     return result;

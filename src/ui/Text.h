@@ -16,7 +16,7 @@ namespace Text {
 // cut off with an ellipsis.
 [[nodiscard]] QString ForBox(std::string_view text);
 
-// For one line of a list: a line break as a blank, control characters as their visible symbols, a text
+// For one line of a list: a line break as a blank, control characters as visible symbols, a text
 // of unreasonable length cut off with an ellipsis.
 [[nodiscard]] QString ForList(std::string_view text);
 

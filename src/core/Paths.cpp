@@ -1,4 +1,4 @@
-#include "file/Paths.h"
+#include "core/Paths.h"
 
 namespace Paths {
 

@@ -1,0 +1,73 @@
+#!/usr/bin/env bash
+# Uses the real program on a real X server, by keyboard alone: opens the gazetteer with one null
+# variation added, removes it when asked, chooses a district, saves, and compares the bytes.
+# usage: open_repair_save.sh EDITOR GAZETTEER
+set -euo pipefail
+editor=$(readlink -f "$1")
+gazetteer=$(readlink -f "$2")
+
+if [ -z "${QUEXAL_ON_XVFB-}" ]; then
+    QUEXAL_ON_XVFB=1 exec xvfb-run -a -s "-screen 0 1366x768x24" "$0" "$editor" "$gazetteer"
+fi
+
+work=$(mktemp -d)
+# shellcheck disable=SC2317 # called by the trap
+cleanup() {
+    jobs -p | xargs -r kill 2>/dev/null || true
+    wait 2>/dev/null || true
+    rm -rf "$work"
+}
+trap cleanup EXIT
+fail() {
+    echo "open_repair_save: $*" >&2
+    [ -z "${QUEXAL_PICTURE-}" ] || import -window root "$QUEXAL_PICTURE"
+    xdotool search --onlyvisible --name . getwindowname %@ >&2 2>/dev/null || true
+    exit 1
+}
+
+# Waits until COUNT visible windows have this title.
+wait_for() {
+    local title=$1 count=${2-1} i
+    for ((i = 0; i < 100; i++)); do
+        [ "$(xdotool search --onlyvisible --name "^$title\$" 2>/dev/null | wc -l)" = "$count" ] && sleep 0.3 && return
+        sleep 0.1
+    done
+    fail "line ${BASH_LINENO[0]}: expected $count window(s) \"$title\""
+}
+press() { xdotool key --clearmodifiers "$@"; }
+type_path() {
+    press ctrl+a
+    xdotool type --delay 5 "$1"
+    press Return
+}
+
+export HOME=$work XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
+# A last variation that is only a mark: removing it gives back the file as it was.
+sed '3s/\r$/|%\r/' "$gazetteer" >"$work/damaged.txt"
+cmp -s "$work/damaged.txt" "$gazetteer" && fail "the null variation was not added"
+
+# The window manager starts the editor once it manages windows.
+openbox --config-file /dev/null --startup "$editor" >/dev/null 2>&1 &
+wait_for "Quexal Editor"
+press ctrl+o
+wait_for "Open"
+type_path "$work/damaged.txt"
+wait_for "Null Variation"
+press Return # Remove, the first of its buttons
+wait_for "Read File Results"
+press Escape
+wait_for "Read File Results" 0
+press Home Down # choose a district
+press ctrl+s
+wait_for "Save As"
+type_path "$work/saved.txt"
+wait_for "Quexal Editor" 2 # "File Saved to"
+press Return
+wait_for "Quexal Editor" 1
+cmp "$work/saved.txt" "$gazetteer" || fail "the saved file differs"
+press alt+F4
+for ((i = 0; i < 50; i++)); do
+    [ -z "$(xdotool search --onlyvisible --name '^Quexal Editor$' 2>/dev/null)" ] && exit 0
+    sleep 0.1
+done
+fail "the window did not close"
