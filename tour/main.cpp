@@ -145,6 +145,7 @@ int main(int argc, char* argv[]) {
         std::fputs("usage: quexal-tour FOLDER\n", stderr);
         return 2;
     }
-    Tour tour(QString::fromLocal8Bit(argv[1]));
+    // Made absolute before the editor makes its own folder the current one.
+    Tour tour(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());
     return tour.Play() ? 0 : 1;
 }

@@ -1,21 +1,11 @@
 #include "ui/Form1.h"
 
-#include "core/Desktop.h"
-#include "core/Paths.h"
 #include "core/State.h"
-#include "edit/Selection.h"
 #include "edit/UndoClass.h"
-#include "edit/VariationList.h"
-#include "file/CommentTypes.h"
-#include "file/DistrictComments.h"
-#include "file/DistrictFileReader.h"
-#include "file/DistrictFileWriter.h"
-#include "file/DistrictList.h"
 #include "rules/Capitals.h"
 #include "rules/Markers.h"
 #include "ui/ChangeModel.h"
 #include "ui/CommentModels.h"
-#include "ui/DistrictColumns.h"
 #include "ui/DistrictModel.h"
 #include "ui/PlainLabel.h"
 #include "ui/RowList.h"
@@ -26,7 +16,6 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -38,15 +27,6 @@ using namespace CommonRoutines;
 namespace {
 
 constexpr QSize DesignSize(1240, 680);
-constexpr std::string_view SettingsSection = "Paths";
-constexpr std::string_view DataFolderKey = "InFile";
-
-// Room beside the comment column, so that its text never touches the scroll bar.
-constexpr int CommentColumnTwips = 400;
-
-QColor ReasonColour(VariationState state) {
-    return StateColours::OnLight(state);
-}
 
 } // namespace
 
@@ -116,176 +96,6 @@ void Form1::closeEvent(QCloseEvent* event) {
     event->setAccepted(MayDiscardChanges());
 }
 
-bool Form1::MayDiscardChanges() {
-    return !bChanged || m_desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
-                                         BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
-}
-
-void Form1::OpenClicked() {
-    if (!MayDiscardChanges()) {
-        return;
-    }
-    ResetWindow();
-    FileRequest request;
-    request.sFolder = m_desktop.GetSetting(SettingsSection, DataFolderKey);
-    if (request.sFolder.empty()) {
-        request.sFolder = m_desktop.ProgramFolder();
-    }
-    const auto path = m_desktop.ChooseFileToOpen(request);
-    if (!path) {
-        return;
-    }
-    sDataFileName = *path;
-    if (const std::string_view folder = Paths::FolderOf(*path); !folder.empty()) {
-        m_desktop.SaveSetting(SettingsSection, DataFolderKey, std::string(folder));
-    }
-    bChanged = false;
-    ReadDistrictFile(m_desktop);
-    m_commentTypes->Refresh();
-    m_controls.lbComments->SelectRow(0);
-    if (iRepairAction == Quit) {
-        lLineCount = 0;
-    }
-    if (lLineCount > 0) {
-        FillDistrictList();
-        iEditMode = FileOpen;
-        ApplyWindowMode();
-        m_controls.lvAlpha->setFocus();
-    }
-}
-
-void Form1::ResetWindow() {
-    lCurrentDistrict = 0;
-    lEditIndex = 0;
-    m_controls.lbApplyTo->clear();
-    m_comments->SetRows({});
-    SizeCommentColumn();
-    ClearWhyError();
-    ClearUndoRing();
-    CommentTypes.Reset();
-    m_commentTypes->Refresh();
-    m_controls.lbComments->SelectRow(0);
-    iEditMode = NothingOpen;
-    m_controls.lbUndo->clear();
-    m_districts->SetDistricts({});
-    m_variations->SetRows(0, {});
-}
-
-void Form1::SaveClicked() {
-    ClearWhyError();
-    SaveDistrictFile(m_desktop);
-    bChanged = false;
-}
-
-void Form1::FillDistrictList() {
-    DistrictColumns columns(m_controls.lvAlpha->font());
-    m_districtsByName = DistrictsByName();
-    for (const std::int32_t district : m_districtsByName) {
-        columns.AddDistrictRow(Districts[static_cast<std::size_t>(district)]);
-    }
-    m_districts->SetDistricts(m_districtsByName);
-    ReportDuplicatedDistricts(m_districtsByName, m_desktop);
-    for (std::size_t column = 0; column < DistrictHeadings.size(); ++column) {
-        m_controls.lvAlpha->setColumnWidth(static_cast<int>(column), columns.Width(column));
-    }
-}
-
-void Form1::DistrictChosen() {
-    const std::vector<int> rows = m_controls.lvAlpha->SelectedRows();
-    if (rows.empty()) {
-        return;
-    }
-    lCurrentDistrict = m_districts->DistrictAt(rows.front());
-    lEditIndex = 0;
-    RefreshVariationList();
-    iEditMode = DistrictIdle;
-    const DistrictRecord& record = Districts[static_cast<std::size_t>(lCurrentDistrict)];
-    m_controls.lbApplyTo->setText(Text::ForList(record.Name));
-    ApplyWindowMode();
-    ResetEditPanel();
-    ShowDistrictComments();
-    if (record.lVariationCount == 0) {
-        m_controls.cbAdd->setEnabled(true);
-    }
-}
-
-void Form1::VariationsChosen() {
-    std::vector<VariationRow> selected;
-    for (const int row : m_controls.lvVariations->SelectedRows()) {
-        selected.push_back(m_variations->Rows()[static_cast<std::size_t>(row)]);
-    }
-    const SelectionView view = DescribeSelection(selected);
-    ShowWhyError(view.reason, ReasonColour(view.reasonState));
-    m_controls.cbShriek->setText(Text::ToQt(view.shriekCaption));
-    m_controls.cbDate->setText(Text::ToQt(view.dateCaption));
-    m_controls.cbShriek->setAccessibleName(m_controls.cbShriek->text());
-    m_controls.cbDate->setAccessibleName(m_controls.cbDate->text());
-
-    lEditIndex = view.editIndex;
-    if (lEditIndex > 0) {
-        iLastAction = VariationSelected;
-        const DistrictRecord& record = Districts[static_cast<std::size_t>(lCurrentDistrict)];
-        PutIntoEditBox(Text::ToQt(record.Variations[static_cast<std::size_t>(lEditIndex)].Text));
-    } else {
-        PutIntoEditBox({});
-    }
-    iEditMode = view.editMode;
-    ApplyWindowMode();
-}
-
-void Form1::CommentTypeChosen() {
-    const std::vector<int> rows = m_controls.lbComments->SelectedRows();
-    if (rows.empty()) {
-        return;
-    }
-    m_districts->SetDistricts({});
-    m_variations->SetRows(0, {});
-    m_comments->SetRows({});
-    // A filter change discards a loaded change file on purpose.
-    m_changes->SetRows({});
-    m_controls.lbApplyTo->clear();
-    m_controls.lbWhyError->clear();
-    // The columns are already as wide as the widest row of the whole file.
-    const std::string& type = CommentTypes.Items()[static_cast<std::size_t>(rows.front())].sType;
-    m_districts->SetDistricts(DistrictsOfType(m_districtsByName, type));
-}
-
-void Form1::RefreshVariationList() {
-    lEditIndex = 0;
-    VariationList list = ListVariations(lCurrentDistrict);
-    const bool hasRows = !list.rows.empty();
-    m_variations->SetRows(lCurrentDistrict, std::move(list.rows));
-    m_districts->Refresh(lCurrentDistrict);
-    if (hasRows) {
-        iEditMode = DistrictIdle;
-        ApplyWindowMode();
-    }
-    // Without a problem the label keeps what it shows.
-    if (!list.summary.empty()) {
-        ShowWhyError(list.summary, ReasonColour(VariationState::Plain));
-    }
-}
-
-void Form1::ShowDistrictComments() {
-    const QFontMetricsF metrics(font());
-    const auto measure = [&](std::string_view text) { return metrics.horizontalAdvance(Text::ForList(text)); };
-    const int room =
-        m_controls.lvComments->columnWidth(1) - WindowFit::TwipsToPixels(CommentColumnTwips, logicalDpiX());
-    m_comments->SetRows(CommentRows(lCurrentDistrict, room, measure));
-}
-
-void Form1::SizeCommentColumn() {
-    const RowList& list = *m_controls.lvComments;
-    const int width = list.width() - list.columnWidth(0) - WindowFit::TwipsToPixels(CommentColumnTwips, logicalDpiX());
-    m_controls.lvComments->setColumnWidth(1, width);
-}
-
-void Form1::SizeWideColumns() {
-    for (RowList* list : {m_controls.lvVariations, m_controls.LvChanges}) {
-        list->setColumnWidth(0, 2 * list->width());
-    }
-}
-
 void Form1::ApplyWindowMode() {
     const ChangeListState changes{m_changes->rowCount() > 0,
                                   m_changes->AnyChecked() || !m_controls.LvChanges->SelectedRows().empty()};
@@ -342,11 +152,11 @@ void Form1::PutIntoEditBox(const QString& text) {
     bIgnoreEvents = false;
 }
 
-void Form1::ShowWhyError(std::string_view text, const QColor& colour) {
-    m_controls.lbWhyError->SetColours(colour, StateColours::LightGrey);
+void Form1::ShowWhyError(std::string_view text, VariationState state) {
+    m_controls.lbWhyError->SetColours(StateColours::OnLight(state), StateColours::LightGrey);
     m_controls.lbWhyError->setText(Text::ForBox(text));
 }
 
 void Form1::ClearWhyError() {
-    ShowWhyError({}, ReasonColour(VariationState::Plain));
+    ShowWhyError({}, VariationState::Plain);
 }

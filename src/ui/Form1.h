@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 class ChangeModel;
@@ -15,7 +16,7 @@ class DistrictModel;
 class VariationModel;
 
 namespace CommonRoutines {
-struct SelectionView;
+enum class VariationState;
 }
 
 // The main window. Its handlers read the controls, call the routine that decides, and show the
@@ -58,7 +59,7 @@ private:
     void ResetEditPanel();
     void UpdateMarkerOptions();
     void PutIntoEditBox(const QString& text);
-    void ShowWhyError(std::string_view text, const QColor& colour);
+    void ShowWhyError(std::string_view text, CommonRoutines::VariationState state);
     void ClearWhyError();
 
     Desktop& m_desktop;

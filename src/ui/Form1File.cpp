@@ -1,0 +1,101 @@
+// The main window's file commands: opening and saving.
+
+#include "core/Desktop.h"
+#include "core/Paths.h"
+#include "core/State.h"
+#include "edit/UndoClass.h"
+#include "file/CommentTypes.h"
+#include "file/DistrictFileReader.h"
+#include "file/DistrictFileWriter.h"
+#include "file/DistrictList.h"
+#include "ui/CommentModels.h"
+#include "ui/DistrictColumns.h"
+#include "ui/DistrictModel.h"
+#include "ui/Form1.h"
+#include "ui/PlainLabel.h"
+#include "ui/RowList.h"
+#include "ui/VariationModel.h"
+
+using namespace CommonRoutines;
+
+namespace {
+
+constexpr std::string_view SettingsSection = "Paths";
+constexpr std::string_view DataFolderKey = "InFile";
+
+} // namespace
+
+bool Form1::MayDiscardChanges() {
+    return !bChanged || m_desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
+                                         BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+}
+
+void Form1::OpenClicked() {
+    if (!MayDiscardChanges()) {
+        return;
+    }
+    ResetWindow();
+    FileRequest request;
+    request.sFolder = m_desktop.GetSetting(SettingsSection, DataFolderKey);
+    if (request.sFolder.empty()) {
+        request.sFolder = m_desktop.ProgramFolder();
+    }
+    const auto path = m_desktop.ChooseFileToOpen(request);
+    if (!path) {
+        return;
+    }
+    sDataFileName = *path;
+    if (const std::string_view folder = Paths::FolderOf(*path); !folder.empty()) {
+        m_desktop.SaveSetting(SettingsSection, DataFolderKey, std::string(folder));
+    }
+    bChanged = false;
+    m_districtsByName.clear();
+    ReadDistrictFile(m_desktop);
+    m_commentTypes->Refresh();
+    m_controls.lbComments->SelectRow(0);
+    if (iRepairAction == Quit) {
+        lLineCount = 0;
+    }
+    if (lLineCount > 0) {
+        FillDistrictList();
+        iEditMode = FileOpen;
+        ApplyWindowMode();
+        m_controls.lvAlpha->setFocus();
+    }
+}
+
+void Form1::ResetWindow() {
+    lCurrentDistrict = 0;
+    lEditIndex = 0;
+    m_controls.lbApplyTo->clear();
+    m_comments->SetRows({});
+    SizeCommentColumn();
+    ClearWhyError();
+    ClearUndoRing();
+    CommentTypes.Reset();
+    m_commentTypes->Refresh();
+    m_controls.lbComments->SelectRow(0);
+    iEditMode = NothingOpen;
+    m_controls.lbUndo->clear();
+    m_districts->SetDistricts({});
+    m_variations->SetRows(0, {});
+}
+
+void Form1::SaveClicked() {
+    ClearWhyError();
+    SaveDistrictFile(m_desktop);
+    bChanged = false;
+}
+
+void Form1::FillDistrictList() {
+    DistrictColumns columns(m_controls.lvAlpha->font());
+    m_districtsByName = DistrictsByName();
+    for (const std::int32_t district : m_districtsByName) {
+        columns.AddDistrictRow(Districts[static_cast<std::size_t>(district)]);
+    }
+    m_districts->SetDistricts(m_districtsByName);
+    ReportDuplicatedDistricts(m_districtsByName, m_desktop);
+    for (std::size_t column = 0; column < DistrictHeadings.size(); ++column) {
+        m_controls.lvAlpha->setColumnWidth(static_cast<int>(column), columns.Width(column));
+    }
+}
