@@ -1,42 +1,55 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
+
+class Desktop;
 
 namespace CommonRoutines {
 
 enum UndoType : std::int16_t { UndoNothing = 0, UndoAdd = 1, UndoChange = 2, UndoDelete = 3 };
 
-// One change of a variation.
+// One recorded change of a variation.
 struct UndoItem {
     std::string sNewName; // the text after the change, or the deleted text
     std::int16_t iUndoType = UndoNothing;
-    std::string sOldName; // the text before a change
+    std::string sOldName; // the text before a change; empty for the others
 };
 
-// One step of the undo journal: consecutive changes to one district.
+// A change taken off the journal, with the district that it was made to.
+struct UndoneItem {
+    UndoItem item;
+    std::int32_t lDistrict = -1;
+};
+
+// One step of the undo journal: consecutive changes to one district, the last of which is taken back
+// first. An empty step belongs to no district.
 class UndoClass {
 public:
     UndoClass() { Clear(); }
 
     [[nodiscard]] std::int32_t Count() const { return m_count; }
+
+    // Describes the last change; empty for an empty step.
+    [[nodiscard]] std::string WhatAmI() const;
+
+    // The district of all changes of the step, 0 for an empty one.
+    [[nodiscard]] std::int32_t DistrictNo() const { return m_district; }
+
+    // Takes the last change off the step. An empty step gives an item of type UndoNothing.
+    UndoneItem LastItem();
+
+    // Records a change. One that belongs to another district than the step is not recorded: that is
+    // an error of the program, which two critical boxes report.
+    void NewItem(UndoItem item, std::int32_t lDistrict, Desktop& desktop);
+
     void Clear();
 
 private:
     std::int32_t m_count = 0;
     std::int32_t m_district = 0;
-    std::vector<UndoItem> m_items; // 1 to m_count
+    std::vector<UndoItem> m_items; // 1 to m_count; element 0 is never filled
 };
-
-// The ring of the last twenty steps, 1 to 20, and the step that is recorded into. Filled by the
-// editing commands; all steps are cleared by "Open File".
-inline constexpr std::int16_t UndoStepCount = 20;
-extern std::array<UndoClass, UndoStepCount + 1> UndoRing;
-extern std::int16_t iUndoStep;
-
-// Clears all twenty steps; the current one stays the current one.
-void ClearUndoRing();
 
 } // namespace CommonRoutines

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace CommonRoutines {
 
@@ -16,13 +17,6 @@ namespace {
 const DistrictRecord& RecordAt(std::int32_t index) {
     return Districts[static_cast<std::size_t>(index)];
 }
-
-struct NameKey {
-    std::string upperName;
-    std::int32_t lDistrict;
-
-    auto operator<=>(const NameKey&) const = default;
-};
 
 } // namespace
 
@@ -53,17 +47,16 @@ bool DistrictHasProblem(const DistrictRecord& record) {
 }
 
 std::vector<std::int32_t> DistrictsByName() {
-    std::vector<NameKey> keys;
+    std::vector<std::pair<std::string, std::int32_t>> keys;
     for (std::int32_t i = 1; i <= lLineCount; ++i) {
         if (IsDistrict(i)) {
-            keys.push_back({Ansi::Upper(RecordAt(i).Name), i});
+            keys.emplace_back(Ansi::Upper(RecordAt(i).Name), i);
         }
     }
     std::sort(keys.begin(), keys.end());
     std::vector<std::int32_t> districts;
     districts.reserve(keys.size());
-    std::transform(keys.begin(), keys.end(), std::back_inserter(districts),
-                   [](const NameKey& key) { return key.lDistrict; });
+    std::transform(keys.begin(), keys.end(), std::back_inserter(districts), [](const auto& key) { return key.second; });
     return districts;
 }
 

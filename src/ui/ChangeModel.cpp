@@ -30,6 +30,16 @@ bool ChangeModel::AnyChecked() const {
     return std::any_of(m_rows.begin(), m_rows.end(), [](const ChangeRow& row) { return row.bChecked; });
 }
 
+void ChangeModel::UncheckAll() {
+    if (m_rows.empty()) {
+        return;
+    }
+    for (ChangeRow& row : m_rows) {
+        row.bChecked = false;
+    }
+    Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
+}
+
 int ChangeModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }

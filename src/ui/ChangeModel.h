@@ -15,6 +15,7 @@ public:
 
     [[nodiscard]] const std::vector<CommonRoutines::ChangeRow>& Rows() const { return m_rows; }
     [[nodiscard]] bool AnyChecked() const;
+    void UncheckAll();
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;

@@ -1,12 +1,13 @@
 #include "ui/Form1.h"
 
+#include "core/Desktop.h"
 #include "core/State.h"
-#include "edit/UndoClass.h"
+#include "edit/UndoJournal.h"
 #include "rules/Capitals.h"
-#include "rules/Markers.h"
 #include "ui/ChangeModel.h"
 #include "ui/CommentModels.h"
 #include "ui/DistrictModel.h"
+#include "ui/EditBox.h"
 #include "ui/PlainLabel.h"
 #include "ui/RowList.h"
 #include "ui/StateColours.h"
@@ -16,7 +17,6 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
@@ -36,6 +36,7 @@ Form1::Form1(Desktop& desktop) : m_desktop(desktop), m_controls(this) {
     resize(DesignSize);
     SetModels();
     ConnectControls();
+    AddShortcuts();
 }
 
 void Form1::SetModels() {
@@ -57,6 +58,24 @@ void Form1::ConnectControls() {
     };
     onClick(m_controls.cbOpen, &Form1::OpenClicked);
     onClick(m_controls.cbSave, &Form1::SaveClicked);
+    onClick(m_controls.cbUndo, &Form1::UndoClicked);
+    onClick(m_controls.cbAdd, &Form1::AddClicked);
+    onClick(m_controls.cbDelete, &Form1::DeleteClicked);
+    onClick(m_controls.cbShriek, &Form1::ShriekClicked);
+    onClick(m_controls.cbDate, &Form1::DateClicked);
+    onClick(m_controls.cbOk, &Form1::OkClicked);
+    onClick(m_controls.cbCancel, &Form1::CancelClicked);
+    onClick(m_controls.cbEditSel, &Form1::EditSelClicked);
+    onClick(m_controls.cbClearSel, &Form1::ClearSelClicked);
+    connect(m_controls.cbSpelling, &QCheckBox::clicked, this, &Form1::SpellingClicked);
+    connect(m_controls.cbVariation, &QCheckBox::clicked, this, &Form1::VariationClicked);
+
+    EditBox* edit = m_controls.tbEdit;
+    connect(edit, &QLineEdit::textChanged, this, &Form1::EditTextChanged);
+    connect(edit, &EditBox::KeyRefused, this, [this] { m_desktop.Beep(); });
+    connect(edit, &EditBox::Entered, m_controls.cbOk, &QPushButton::click);
+    connect(edit, &EditBox::Escaped, m_controls.cbCancel, &QPushButton::click);
+    connect(edit, &EditBox::NothingToUndo, m_controls.cbUndo, &QPushButton::click);
 
     connect(m_controls.lvAlpha, &RowList::Chosen, this, &Form1::DistrictChosen);
     connect(m_controls.lvVariations, &RowList::Chosen, this, &Form1::VariationsChosen);
@@ -65,15 +84,31 @@ void Form1::ConnectControls() {
     connect(m_controls.LvChanges, &RowList::Resized, this, &Form1::SizeWideColumns);
     connect(m_controls.lvComments, &RowList::Resized, this, [this] {
         SizeCommentColumn();
-        ShowDistrictComments();
+        // A filter may have cleared the comments since the district was chosen.
+        if (m_comments->rowCount() > 0) {
+            ShowDistrictComments();
+        }
     });
+}
 
+void Form1::AddShortcuts() {
     // A button that is disabled ignores its shortcut as it ignores a click.
     const auto onKeys = [this](const QKeySequence& keys, QPushButton* button) {
         connect(new QShortcut(keys, this), &QShortcut::activated, button, &QPushButton::click);
     };
     onKeys(QKeySequence::Open, m_controls.cbOpen);
     onKeys(QKeySequence::Save, m_controls.cbSave);
+    onKeys(QKeySequence::Undo, m_controls.cbUndo);
+    onKeys(Qt::Key_Insert, m_controls.cbAdd);
+    // In the edit box the key deletes a character.
+    auto* deleteKey = new QShortcut(QKeySequence::Delete, m_controls.lvVariations);
+    deleteKey->setContext(Qt::WidgetShortcut);
+    connect(deleteKey, &QShortcut::activated, m_controls.cbDelete, &QPushButton::click);
+    connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, this, [this] {
+        if (m_controls.tbEdit->isEnabled()) {
+            m_controls.tbEdit->setFocus(Qt::ShortcutFocusReason);
+        }
+    });
 }
 
 void Form1::LoadForm() {
@@ -127,36 +162,12 @@ void Form1::FitWindowToScreen() {
     }
 }
 
-void Form1::ResetEditPanel() {
-    bIgnoreEvents = true;
-    for (QCheckBox* box :
-         {m_controls.cbSpelling, m_controls.cbVariation, m_controls.cbValidinyears, m_controls.cbVNF}) {
-        box->setChecked(false);
-    }
-    m_controls.tbEdit->clear();
-    bIgnoreEvents = false;
-}
-
-void Form1::UpdateMarkerOptions() {
-    const MarkerOptions options = MarkerOptionsOf(Text::FromQt(m_controls.tbEdit->text()));
-    m_controls.cbSpelling->setChecked(options.spelling);
-    m_controls.cbVariation->setChecked(options.variation);
-    m_controls.cbValidinyears->setChecked(options.validInYears);
-    m_controls.cbVNF->setChecked(options.volume);
-}
-
-void Form1::PutIntoEditBox(const QString& text) {
-    bIgnoreEvents = true;
-    m_controls.tbEdit->setText(text);
-    UpdateMarkerOptions();
-    bIgnoreEvents = false;
-}
-
 void Form1::ShowWhyError(std::string_view text, VariationState state) {
-    m_controls.lbWhyError->SetColours(StateColours::OnLight(state), StateColours::LightGrey);
+    m_controls.lbWhyError->SetTextColour(StateColours::OnLight(state));
     m_controls.lbWhyError->setText(Text::ForBox(text));
 }
 
 void Form1::ClearWhyError() {
     ShowWhyError({}, VariationState::Plain);
+    m_controls.lbWhyError->SetBackground(StateColours::LightGrey);
 }

@@ -16,8 +16,10 @@ class DistrictModel;
 class VariationModel;
 
 namespace CommonRoutines {
+enum class MarkerCommand;
 enum class VariationState;
-}
+struct VariationRow;
+} // namespace CommonRoutines
 
 // The main window. Its handlers read the controls, call the routine that decides, and show the
 // result; the shared state of CommonRoutines is what they work on.
@@ -36,6 +38,7 @@ protected:
 private:
     void SetModels();
     void ConnectControls();
+    void AddShortcuts();
 
     // The file.
     void OpenClicked();
@@ -48,17 +51,37 @@ private:
     void DistrictChosen();
     void VariationsChosen();
     void CommentTypeChosen();
+    [[nodiscard]] std::vector<CommonRoutines::VariationRow> SelectedVariations() const;
     void RefreshVariationList();
     void ShowDistrictComments();
     void SizeCommentColumn();
     void SizeWideColumns();
 
+    // Editing.
+    void EditTextChanged();
+    void UpdateMarkerOptions();
+    void PutIntoEditBox(const QString& text);
+    void ResetEditPanel();
+    void ReturnToIdle();
+    void AddClicked();
+    void OkClicked();
+    void CancelClicked();
+    void DeleteClicked();
+    void ShriekClicked();
+    void DateClicked();
+    void ChangeSelectedMarkers(CommonRoutines::MarkerCommand command, QPushButton& button);
+    void UndoClicked();
+    [[nodiscard]] bool GoToDistrict(std::int32_t district);
+    void ShowNextUndo(std::string_view description);
+    void SpellingClicked();
+    void VariationClicked();
+    void ChooseOption(QCheckBox& chosen, QCheckBox& other);
+    void EditSelClicked();
+    void ClearSelClicked();
+
     // The window as a whole.
     void ApplyWindowMode();
     void FitWindowToScreen();
-    void ResetEditPanel();
-    void UpdateMarkerOptions();
-    void PutIntoEditBox(const QString& text);
     void ShowWhyError(std::string_view text, CommonRoutines::VariationState state);
     void ClearWhyError();
 

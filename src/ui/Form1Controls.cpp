@@ -1,5 +1,6 @@
 #include "ui/Form1Controls.h"
 
+#include "ui/EditBox.h"
 #include "ui/EqualGapLayout.h"
 #include "ui/PlainLabel.h"
 #include "ui/RowList.h"
@@ -9,12 +10,10 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include <array>
-#include <limits>
 
 namespace {
 
@@ -123,12 +122,12 @@ void Form1Controls::CreateEditRow() {
     cbValidinyears =
         OptionBox("cbValidinyears", QObject::tr("Only valid in year"), QObject::tr("Begins with \"%\" or \"!%\""));
     cbVNF = OptionBox("cbVNF", QObject::tr("Only if Volume matches"), QObject::tr("Ends with \"%\" and a volume"));
-    tbEdit = new QLineEdit(m_form);
+    tbEdit = new EditBox(m_form);
     tbEdit->setObjectName(Name("tbEdit"));
     tbEdit->setAccessibleName(QObject::tr("Variation text"));
-    tbEdit->setMaxLength(std::numeric_limits<int>::max());
-    cbOk = Button("cbOk", QObject::tr("Ok"), QObject::tr("Keep the text as it stands in the box"));
-    cbCancel = Button("cbCancel", QObject::tr("Cancel"), QObject::tr("Leave everything as it was"));
+    tbEdit->setToolTip(QObject::tr("The variation with its markers (F2)"));
+    cbOk = Button("cbOk", QObject::tr("Ok"), QObject::tr("Store the text (Enter)"));
+    cbCancel = Button("cbCancel", QObject::tr("Cancel"), QObject::tr("Give up the text (Esc)"));
     lbStatus = Status("lbStatus", QObject::tr("Status of the text"), 3);
 }
 
@@ -139,10 +138,10 @@ void Form1Controls::CreateButtons() {
                         QObject::tr("Read a file of proposed variations for this district"));
     cbCompleteCheck = Button("cbCompleteCheck", QObject::tr("Complete Variation Check"),
                              QObject::tr("Look for duplicates in the whole file"));
-    cbUndo = Button("cbUndo", QObject::tr("Undo"), QObject::tr("Take back the last change"));
+    cbUndo = Button("cbUndo", QObject::tr("Undo"), QObject::tr("Take back the last change (Ctrl+Z)"));
 
-    cbAdd = Button("cbAdd", QObject::tr("Add"), QObject::tr("Add a variation to this district"));
-    cbDelete = Button("cbDelete", QObject::tr("Delete"), QObject::tr("Delete the selected variations"));
+    cbAdd = Button("cbAdd", QObject::tr("Add"), QObject::tr("Add a variation to this district (Insert)"));
+    cbDelete = Button("cbDelete", QObject::tr("Delete"), QObject::tr("Delete the selected variations (Delete)"));
     cbShriek = Button("cbShriek", QObject::tr("Add !"),
                       QObject::tr("Mark or unmark the selected variations as spelling mistakes"));
     cbDate = Button("cbDate", QObject::tr("Add Date%"),
@@ -173,7 +172,8 @@ void Form1Controls::CreateLabels() {
     lbApplyTo->setFont(bold);
     lbWhyError = Status("lbWhyError", QObject::tr("Problems"), 4);
     lbWhyError->setContentsMargins(Space, Space / 2, Space, Space / 2);
-    lbWhyError->SetColours(StateColours::OnLight(CommonRoutines::VariationState::Plain), StateColours::LightGrey);
+    lbWhyError->SetTextColour(StateColours::OnLight(CommonRoutines::VariationState::Plain));
+    lbWhyError->SetBackground(StateColours::LightGrey);
     lbWhyError->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     lbSelectCount = new QLabel(m_form);
     lbSelectCount->setObjectName(Name("lbSelectCount"));
@@ -203,6 +203,8 @@ QWidget* Form1Controls::FileRow() {
 QWidget* Form1Controls::EditRow() {
     QFrame* frame = Frame("Frame1", QObject::tr("Edit"));
     frame->setFrameShape(QFrame::StyledPanel);
+    // The gaps are those of the whole frame, its border included.
+    frame->setAttribute(Qt::WA_LayoutOnEntireRect);
     auto* layout = new EqualGapLayout(frame, Space);
     for (QWidget* control : std::initializer_list<QWidget*>{cbVariation, cbSpelling, cbValidinyears, cbVNF, tbEdit}) {
         layout->addWidget(control);

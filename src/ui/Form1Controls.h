@@ -6,10 +6,10 @@ class QBoxLayout;
 class QCheckBox;
 class QFrame;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QString;
 class QWidget;
+class EditBox;
 class PlainLabel;
 class RowList;
 
@@ -33,7 +33,7 @@ public:
     QCheckBox* cbSpelling = nullptr;
     QCheckBox* cbValidinyears = nullptr;
     QCheckBox* cbVNF = nullptr;
-    QLineEdit* tbEdit = nullptr;
+    EditBox* tbEdit = nullptr;
     QPushButton* cbOk = nullptr;
     QPushButton* cbCancel = nullptr;
     PlainLabel* lbStatus = nullptr;

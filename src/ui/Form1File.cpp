@@ -3,7 +3,7 @@
 #include "core/Desktop.h"
 #include "core/Paths.h"
 #include "core/State.h"
-#include "edit/UndoClass.h"
+#include "edit/UndoJournal.h"
 #include "file/CommentTypes.h"
 #include "file/DistrictFileReader.h"
 #include "file/DistrictFileWriter.h"

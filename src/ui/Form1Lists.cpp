@@ -47,11 +47,8 @@ void Form1::DistrictChosen() {
 }
 
 void Form1::VariationsChosen() {
-    std::vector<VariationRow> selected;
-    for (const int row : m_controls.lvVariations->SelectedRows()) {
-        selected.push_back(m_variations->Rows()[static_cast<std::size_t>(row)]);
-    }
-    const SelectionView view = DescribeSelection(selected);
+    const SelectionView view = DescribeSelection(SelectedVariations());
+    ClearWhyError();
     ShowWhyError(view.reason, view.reasonState);
     m_controls.cbShriek->setText(Text::ToQt(view.shriekCaption));
     m_controls.cbDate->setText(Text::ToQt(view.dateCaption));
@@ -68,6 +65,14 @@ void Form1::VariationsChosen() {
     }
     iEditMode = view.editMode;
     ApplyWindowMode();
+}
+
+std::vector<VariationRow> Form1::SelectedVariations() const {
+    std::vector<VariationRow> selected;
+    for (const int row : m_controls.lvVariations->SelectedRows()) {
+        selected.push_back(m_variations->Rows()[static_cast<std::size_t>(row)]);
+    }
+    return selected;
 }
 
 void Form1::CommentTypeChosen() {

@@ -43,12 +43,19 @@ void PlainLabel::SetLineCount(int lines) {
     updateGeometry();
 }
 
-void PlainLabel::SetColours(const QColor& text, const QColor& background) {
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, text);
-    colours.setColor(QPalette::Window, background);
-    setPalette(colours);
+void PlainLabel::SetTextColour(const QColor& colour) {
+    SetColour(QPalette::WindowText, colour);
+}
+
+void PlainLabel::SetBackground(const QColor& colour) {
+    SetColour(QPalette::Window, colour);
     setAutoFillBackground(true);
+}
+
+void PlainLabel::SetColour(QPalette::ColorRole role, const QColor& colour) {
+    QPalette colours = palette();
+    colours.setColor(role, colour);
+    setPalette(colours);
 }
 
 int PlainLabel::WrappedHeight(int width) const {

@@ -12,8 +12,9 @@ public:
     // Room for this many lines.
     void SetLineCount(int lines);
 
-    // Colours of the text and the background, whatever the palette of the window.
-    void SetColours(const QColor& text, const QColor& background);
+    // Colours of its own, whatever the palette of the window.
+    void SetTextColour(const QColor& colour);
+    void SetBackground(const QColor& colour);
 
     // Height of the whole text, wrapped to a width, in pixels.
     [[nodiscard]] int WrappedHeight(int width) const;
@@ -25,5 +26,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void SetColour(QPalette::ColorRole role, const QColor& colour);
+
     int m_lines = 1;
 };

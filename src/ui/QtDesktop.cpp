@@ -168,7 +168,7 @@ std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& reques
     QFileDialog dialog(m_window, QObject::tr("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     for (;;) {
-        const auto path = Choose(dialog, request);
+        auto path = Choose(dialog, request);
         if (!path || !IsReadOnly(Text::PathToQt(*path))) {
             return path;
         }

@@ -8,7 +8,9 @@
 // The colours that tell the state of a row.
 namespace StateColours {
 
+// Backgrounds of the problem label: as a rule, and when a text was kept in spite of a warning.
 inline constexpr QColor LightGrey(192, 192, 192);
+inline constexpr QColor BlueGreen(0, 255, 255);
 
 // The colour of a state on a light background; black where there is nothing to say.
 [[nodiscard]] QColor OnLight(CommonRoutines::VariationState state);

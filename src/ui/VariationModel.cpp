@@ -35,9 +35,14 @@ void VariationModel::SetRows(std::int32_t district, std::vector<VariationRow> ro
     endResetModel();
 }
 
-const std::string& VariationModel::TextAt(int row) const {
+void VariationModel::RefreshRow(int row) {
+    m_rows[static_cast<std::size_t>(row)].state = StateOfVariation(VariationAt(row), m_district);
+    Q_EMIT dataChanged(index(row), index(row));
+}
+
+const VariationRecord& VariationModel::VariationAt(int row) const {
     const auto slot = static_cast<std::size_t>(m_rows[static_cast<std::size_t>(row)].lIndex);
-    return Districts[static_cast<std::size_t>(m_district)].Variations[slot].Text;
+    return Districts[static_cast<std::size_t>(m_district)].Variations[slot];
 }
 
 int VariationModel::rowCount(const QModelIndex& parent) const {
@@ -48,12 +53,12 @@ QVariant VariationModel::data(const QModelIndex& index, int role) const {
     const VariationState state = m_rows[static_cast<std::size_t>(index.row())].state;
     switch (role) {
     case Qt::DisplayRole:
-        return Text::ForList(TextAt(index.row()));
+        return Text::ForList(VariationAt(index.row()).Text);
     case Qt::ForegroundRole:
         return StateColours::InList(state, QGuiApplication::palette());
     case Qt::AccessibleTextRole:
     case Qt::ToolTipRole: {
-        const QString text = Text::ForList(TextAt(index.row()));
+        const QString text = Text::ForList(VariationAt(index.row()).Text);
         const QString words =
             state == VariationState::Plain ? text : text + QStringLiteral(" - ") + StateInWords(state);
         return role == Qt::ToolTipRole ? Text::ForToolTip(words) : words;

@@ -14,14 +14,17 @@ public:
 
     void SetRows(std::int32_t district, std::vector<CommonRoutines::VariationRow> rows);
 
-    [[nodiscard]] const std::vector<CommonRoutines::VariationRow>& Rows() const { return m_rows; }
-    [[nodiscard]] const std::string& TextAt(int row) const;
+    // The text of a row's variation has changed: its state is found anew, its place stays.
+    void RefreshRow(int row);
 
+    [[nodiscard]] const std::vector<CommonRoutines::VariationRow>& Rows() const { return m_rows; }
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    [[nodiscard]] const CommonRoutines::VariationRecord& VariationAt(int row) const;
+
     std::int32_t m_district = 0;
     std::vector<CommonRoutines::VariationRow> m_rows;
 };

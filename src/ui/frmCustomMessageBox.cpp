@@ -27,10 +27,10 @@ int WidestLine(const QFontMetrics& metrics, const QString& text) {
 
 } // namespace
 
-frmCustomMessageBox::frmCustomMessageBox(const std::string& prompt, const QIcon& icon, const QString& title,
+frmCustomMessageBox::frmCustomMessageBox(const std::string& prompt, QIcon icon, const QString& title,
                                          std::span<const std::string> captions, std::function<void()> showCopy,
                                          QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint), m_icon(icon),
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint), m_icon(std::move(icon)),
       m_showCopy(std::move(showCopy)) {
     setObjectName(QStringLiteral("frmCustomMessageBox"));
     setWindowTitle(title);

@@ -19,7 +19,7 @@ class frmCustomMessageBox : public QDialog {
 public:
     // `showCopy` is called when the prompt is wanted in a standard message box, where it can be
     // copied: the left button with Ctrl and Shift.
-    frmCustomMessageBox(const std::string& prompt, const QIcon& icon, const QString& title,
+    frmCustomMessageBox(const std::string& prompt, QIcon icon, const QString& title,
                         std::span<const std::string> captions, std::function<void()> showCopy, QWidget* parent);
 
     // The caption of the button pressed; empty until then.

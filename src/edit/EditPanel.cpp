@@ -1,0 +1,135 @@
+#include "edit/EditPanel.h"
+
+#include "core/Ansi.h"
+#include "core/State.h"
+#include "edit/UndoJournal.h"
+#include "edit/Variations.h"
+#include "rules/Duplicates.h"
+#include "rules/Markers.h"
+#include "rules/Matching.h"
+#include "rules/Validation.h"
+
+namespace CommonRoutines {
+
+namespace {
+
+constexpr auto None = std::string_view::npos;
+constexpr bool KeepPairs = true;
+
+char CharacterBefore(std::string_view text, std::size_t caret) {
+    return caret > 0 ? text[caret - 1] : '\0';
+}
+
+bool MayTypeBlank(std::string_view text, std::size_t caret) {
+    const char before = CharacterBefore(text, caret);
+    return caret > 0 && before != '!' && before != '%';
+}
+
+bool MayTypePercent(std::string_view text, std::size_t caret) {
+    if (CharacterBefore(text, caret) == ' ') {
+        return false;
+    }
+    return caret >= text.size() || text[caret] != '!';
+}
+
+// A question mark has a place only in the volume behind the last "%".
+bool MayTypeQuestionMark(std::string_view text, std::size_t caret) {
+    StripMarkers(text);
+    const auto lastPercent = text.rfind('%');
+    return !sMarkerSuffix.empty() && (lastPercent == None || caret > lastPercent);
+}
+
+// The text that the new one would repeat; nothing when it is new to the district.
+std::optional<std::string> ExistingText(std::string_view text) {
+    lFoundVariation = 0;
+    if (!FindVariationInDistrict(text)) {
+        return std::nullopt;
+    }
+    return lFoundVariation > 0 ? VariationInCurrentDistrict(lFoundVariation).Text : CurrentDistrict().Name;
+}
+
+TextChange FollowAddedText(std::string_view text) {
+    if (text.empty()) {
+        return {AddingUnacceptable, std::nullopt};
+    }
+    TextChange change{AddingAcceptable, ""};
+    if (const auto existing = ExistingText(text)) {
+        change = {AddingUnacceptable, "Duplicates " + *existing};
+    }
+    const std::string_view trimmed = Ansi::Trim(text);
+    const bool valid = ValidateVariation(text, lCurrentDistrict);
+    if (!valid || trimmed == "!" || trimmed.ends_with('%')) {
+        change.editMode = AddingUnacceptable;
+    }
+    return change;
+}
+
+} // namespace
+
+bool MayType(char key, std::string_view text, std::size_t caret) {
+    switch (key) {
+    case ' ':
+        return MayTypeBlank(text, caret);
+    case '!':
+        return caret == 0 && text.find('!') == None;
+    case '%':
+        return MayTypePercent(text, caret);
+    case '?':
+        return MayTypeQuestionMark(text, caret);
+    case '|':
+        return false;
+    default:
+        return true;
+    }
+}
+
+TextChange FollowText(std::string_view text) {
+    if (!IsDistrict(lCurrentDistrict)) {
+        return {iEditMode, std::nullopt};
+    }
+    const bool adding = iEditMode == AddingUnacceptable || iEditMode == AddingAcceptable;
+    // Typing into the idle panel starts an add, and so does typing while there is nothing to edit.
+    if (adding || iEditMode == DistrictIdle || lEditIndex == 0) {
+        return FollowAddedText(text);
+    }
+    return {EditingVariation, std::nullopt};
+}
+
+void CommitText(std::string_view text, Desktop& desktop) {
+    const std::string trimmed(Ansi::Trim(text));
+    if (iEditMode == AddingAcceptable) {
+        RecordChange(UndoAdd, trimmed, "", desktop);
+        VariationInCurrentDistrict(AddSlot()).Text = trimmed;
+        iEditMode = DistrictIdle;
+    } else if (iEditMode == EditingVariation) {
+        VariationRecord& variation = VariationInCurrentDistrict(lEditIndex);
+        RecordChange(UndoChange, trimmed, variation.Text, desktop);
+        variation.Text = trimmed;
+        iEditMode = DistrictIdle;
+    }
+    bWarning = false;
+    static_cast<void>(ValidateVariation(text, lCurrentDistrict)); // only the warning counts
+    FindDuplicateVariations(lCurrentDistrict, !KeepPairs);
+    bChanged = true;
+}
+
+std::string DeleteQuestion(std::span<const VariationRow> rows) {
+    if (rows.size() == 1) {
+        const std::string& text = VariationInCurrentDistrict(rows.front().lIndex).Text;
+        return "Are you sure you want to delete variation " + std::string(Ansi::Trim(text));
+    }
+    return "Are you sure you want to delete these " + std::to_string(rows.size()) + " variations?";
+}
+
+void DeleteVariations(std::span<const VariationRow> rows, Desktop& desktop) {
+    for (const VariationRow& row : rows) {
+        std::string& text = VariationInCurrentDistrict(row.lIndex).Text;
+        RecordChange(UndoDelete, text, "", desktop);
+        text = DeletedText;
+    }
+    bChanged = true;
+    lEditIndex = 0;
+    FindDuplicateVariations(lCurrentDistrict, !KeepPairs);
+}
+
+} // namespace CommonRoutines

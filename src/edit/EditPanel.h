@@ -1,0 +1,47 @@
+#pragma once
+
+#include "edit/VariationList.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+class Desktop;
+
+// The decisions of the edit panel: which keys may be typed, what a text is good for, and what its
+// commands do to lCurrentDistrict.
+namespace CommonRoutines {
+
+// Whether a character may be typed into the text behind `caret` characters. Markers are kept where
+// the rules for variations want them; other characters than blank to "|" always pass.
+[[nodiscard]] bool MayType(char key, std::string_view text, std::size_t caret);
+
+// What a change of the text in the edit box leads to.
+struct TextChange {
+    std::int16_t editMode = 0;
+    std::optional<std::string> status; // for lbStatus; nothing leaves it as it is
+};
+
+// Follows the text from the present iEditMode. While a variation is added, the text is acceptable
+// when it is valid, new to the district and not only or at its end a marker; while an existing one is
+// edited, nothing is checked. Leaves the state of ValidateVariation and lFoundVariation. Without a
+// district the mode stays as it is.
+[[nodiscard]] TextChange FollowText(std::string_view text);
+
+// Stores the text as a new variation or over the one at lEditIndex, as iEditMode says, and records
+// that; in any other mode nothing is stored. Then checks the text, leaving bWarning and
+// sWarningReason, and the duplicates of the district. A warning or an invalid text is no obstacle.
+// Sets bChanged, and iEditMode to DistrictIdle when something was stored.
+void CommitText(std::string_view text, Desktop& desktop);
+
+// The question before rows are deleted, of which there is at least one.
+[[nodiscard]] std::string DeleteQuestion(std::span<const VariationRow> rows);
+
+// Empties the slots of the rows and records that. Sets bChanged and lEditIndex to 0; looks for
+// duplicates again.
+void DeleteVariations(std::span<const VariationRow> rows, Desktop& desktop);
+
+} // namespace CommonRoutines

@@ -1,0 +1,98 @@
+#include "edit/UndoJournal.h"
+
+#include "core/State.h"
+#include "edit/Variations.h"
+
+#include <algorithm>
+
+namespace CommonRoutines {
+
+std::array<UndoClass, UndoStepCount + 1> UndoRing;
+std::int16_t iUndoStep = 1;
+
+namespace {
+
+// Takes back an add: all equal texts go, since the item does not say which one was added.
+bool FreeSlotsWith(std::string_view text) {
+    bool changed = false;
+    DistrictRecord& district = CurrentDistrict();
+    for (std::int32_t i = 1; i <= district.lVariationCount; ++i) {
+        VariationRecord& variation = district.Variations[static_cast<std::size_t>(i)];
+        if (variation.Text == text) {
+            variation.Text = DeletedText;
+            changed = true;
+        }
+    }
+    return changed;
+}
+
+bool ChangeBack(const UndoItem& item, std::span<const VariationRow> rows) {
+    const bool listed = std::any_of(rows.begin(), rows.end(), [&](const VariationRow& row) {
+        return VariationInCurrentDistrict(row.lIndex).Text == item.sNewName;
+    });
+    const std::int32_t slot = listed ? FirstSlotWith(item.sNewName) : 0;
+    if (slot == 0) {
+        return false;
+    }
+    VariationInCurrentDistrict(slot).Text = item.sOldName;
+    return true;
+}
+
+bool Restore(std::string_view text) {
+    const std::int32_t freeSlot = FirstSlotWith(DeletedText);
+    VariationInCurrentDistrict(freeSlot > 0 ? freeSlot : AddSlot()).Text = text;
+    return true;
+}
+
+bool ChangeTable(const UndoItem& item, std::span<const VariationRow> rows) {
+    switch (item.iUndoType) {
+    case UndoAdd:
+        return FreeSlotsWith(item.sNewName);
+    case UndoChange:
+        return ChangeBack(item, rows);
+    case UndoDelete:
+        return Restore(item.sNewName);
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+UndoClass& CurrentUndoStep() {
+    return UndoRing[static_cast<std::size_t>(iUndoStep)];
+}
+
+void ClearUndoRing() {
+    for (UndoClass& step : UndoRing) {
+        step.Clear();
+    }
+}
+
+void StartUndoStep(std::int32_t lDistrict) {
+    if (CurrentUndoStep().DistrictNo() == lDistrict) {
+        return;
+    }
+    iUndoStep = iUndoStep == UndoStepCount ? std::int16_t{1} : static_cast<std::int16_t>(iUndoStep + 1);
+    CurrentUndoStep().Clear();
+}
+
+void RecordChange(std::int16_t iUndoType, std::string_view newName, std::string_view oldName, Desktop& desktop) {
+    StartUndoStep(lCurrentDistrict);
+    CurrentUndoStep().NewItem({std::string(newName), iUndoType, std::string(oldName)}, lCurrentDistrict, desktop);
+}
+
+bool TakeBack(const UndoItem& item, std::span<const VariationRow> rows) {
+    const bool changed = ChangeTable(item, rows);
+    bChanged = bChanged || changed;
+    return changed;
+}
+
+std::string DescribeNextUndo() {
+    if (CurrentUndoStep().Count() == 0) {
+        iUndoStep = iUndoStep == 1 ? UndoStepCount : static_cast<std::int16_t>(iUndoStep - 1);
+    }
+    return CurrentUndoStep().WhatAmI();
+}
+
+} // namespace CommonRoutines

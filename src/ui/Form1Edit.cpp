@@ -1,0 +1,214 @@
+// The main window's editing commands: the edit panel, the markers, the undo journal.
+
+#include "core/Desktop.h"
+#include "core/State.h"
+#include "edit/EditPanel.h"
+#include "edit/MarkerCommands.h"
+#include "edit/UndoJournal.h"
+#include "rules/Duplicates.h"
+#include "rules/Markers.h"
+#include "ui/ChangeModel.h"
+#include "ui/DistrictModel.h"
+#include "ui/EditBox.h"
+#include "ui/Form1.h"
+#include "ui/PlainLabel.h"
+#include "ui/RowList.h"
+#include "ui/StateColours.h"
+#include "ui/Text.h"
+#include "ui/VariationModel.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+
+#include <algorithm>
+
+using namespace CommonRoutines;
+
+void Form1::EditTextChanged() {
+    if (bIgnoreEvents) {
+        return;
+    }
+    m_controls.lbWhyError->clear();
+    const TextChange change = FollowText(Text::FromQt(m_controls.tbEdit->text()));
+    if (change.status) {
+        m_controls.lbStatus->setText(Text::ForBox(*change.status));
+    }
+    iEditMode = change.editMode;
+    ApplyWindowMode();
+    UpdateMarkerOptions();
+}
+
+void Form1::UpdateMarkerOptions() {
+    const MarkerOptions options = MarkerOptionsOf(Text::FromQt(m_controls.tbEdit->text()));
+    m_controls.cbSpelling->setChecked(options.spelling);
+    m_controls.cbVariation->setChecked(options.variation);
+    m_controls.cbValidinyears->setChecked(options.validInYears);
+    m_controls.cbVNF->setChecked(options.volume);
+}
+
+void Form1::PutIntoEditBox(const QString& text) {
+    bIgnoreEvents = true;
+    m_controls.tbEdit->setText(text);
+    UpdateMarkerOptions();
+    bIgnoreEvents = false;
+}
+
+void Form1::ResetEditPanel() {
+    bIgnoreEvents = true;
+    for (QCheckBox* box :
+         {m_controls.cbSpelling, m_controls.cbVariation, m_controls.cbValidinyears, m_controls.cbVNF}) {
+        box->setChecked(false);
+    }
+    m_controls.tbEdit->clear();
+    bIgnoreEvents = false;
+}
+
+void Form1::AddClicked() {
+    m_controls.lbWhyError->clear();
+    iLastAction = AddStarted;
+    PutIntoEditBox({});
+    iEditMode = AddingUnacceptable;
+    ApplyWindowMode();
+    m_controls.tbEdit->setFocus();
+}
+
+void Form1::OkClicked() {
+    CommitText(Text::FromQt(m_controls.tbEdit->text()), m_desktop);
+    ShowNextUndo(CurrentUndoStep().WhatAmI());
+    PutIntoEditBox({});
+    if (bWarning) {
+        m_desktop.Beep();
+        m_controls.lbWhyError->SetBackground(StateColours::BlueGreen);
+        ShowWhyError(sWarningReason, VariationState::Plain);
+    } else {
+        m_controls.lbWhyError->SetBackground(StateColours::LightGrey);
+    }
+    RefreshVariationList();
+    ApplyWindowMode();
+    ResetEditPanel();
+    m_controls.lvAlpha->setFocus();
+}
+
+void Form1::CancelClicked() {
+    PutIntoEditBox({});
+    ReturnToIdle();
+}
+
+void Form1::ReturnToIdle() {
+    ResetEditPanel();
+    iEditMode = DistrictIdle;
+    ApplyWindowMode();
+}
+
+void Form1::DeleteClicked() {
+    m_controls.lbWhyError->clear();
+    iLastAction = VariationDeleted;
+    const std::vector<VariationRow> rows = SelectedVariations();
+    const bool confirmed =
+        !rows.empty() && m_desktop.MsgBox(DeleteQuestion(rows), BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+    if (confirmed) {
+        DeleteVariations(rows, m_desktop);
+        ShowNextUndo(CurrentUndoStep().WhatAmI());
+        PutIntoEditBox({});
+        RefreshVariationList();
+    }
+    ReturnToIdle();
+    m_controls.lvAlpha->setFocus();
+}
+
+void Form1::ShriekClicked() {
+    ChangeSelectedMarkers(ShriekCommand(Text::FromQt(m_controls.cbShriek->text())), *m_controls.cbShriek);
+}
+
+void Form1::DateClicked() {
+    ChangeSelectedMarkers(DateCommand(Text::FromQt(m_controls.cbDate->text())), *m_controls.cbDate);
+}
+
+void Form1::ChangeSelectedMarkers(MarkerCommand command, QPushButton& button) {
+    ChangeMarkers(command, SelectedVariations(), m_desktop);
+    ShowNextUndo(CurrentUndoStep().WhatAmI());
+    // The rows stay where they are, and selected, until the list is filled again.
+    for (const int row : m_controls.lvVariations->SelectedRows()) {
+        m_variations->RefreshRow(row);
+    }
+    button.setEnabled(false);
+    iEditMode = DistrictIdle;
+    ApplyWindowMode();
+}
+
+void Form1::UndoClicked() {
+    if (CurrentUndoStep().Count() == 0) {
+        return;
+    }
+    m_controls.lbWhyError->clear();
+    const UndoneItem undone = CurrentUndoStep().LastItem();
+    if (undone.lDistrict != lCurrentDistrict && !GoToDistrict(undone.lDistrict)) {
+        m_desktop.MsgBox("Undo crash - Failed to find District " + std::to_string(undone.lDistrict), BoxIcon::Critical);
+        m_desktop.MsgBox("Please save your work and exit", BoxIcon::Critical);
+        return;
+    }
+    TakeBack(undone.item, m_variations->Rows());
+    ShowNextUndo(DescribeNextUndo());
+    FindDuplicateVariations(undone.lDistrict, false);
+    RefreshVariationList();
+    ApplyWindowMode();
+}
+
+bool Form1::GoToDistrict(std::int32_t district) {
+    const int row = m_districts->RowOf(district);
+    if (row < 0) {
+        return false;
+    }
+    m_controls.lvAlpha->SelectRow(row);
+    DistrictChosen();
+    return true;
+}
+
+void Form1::ShowNextUndo(std::string_view description) {
+    m_controls.lbUndo->setText(Text::ForList(description));
+}
+
+// Proposals are applied with one of these two boxes ticked, which only makes sense while some are
+// ticked themselves; while a text is being edited the boxes say what it is. That a click on "Spelling
+// Mistake" is left standing then, and one on "Variation" undone, is meant.
+void Form1::SpellingClicked() {
+    if (iEditMode == DistrictIdle) {
+        ChooseOption(*m_controls.cbSpelling, *m_controls.cbVariation);
+    }
+}
+
+void Form1::VariationClicked() {
+    if (iEditMode == DistrictIdle) {
+        ChooseOption(*m_controls.cbVariation, *m_controls.cbSpelling);
+    } else {
+        m_controls.cbVariation->toggle();
+    }
+}
+
+void Form1::ChooseOption(QCheckBox& chosen, QCheckBox& other) {
+    if (m_controls.lbSelectCount->text().isEmpty()) {
+        m_desktop.Beep();
+        chosen.setChecked(false);
+    } else if (chosen.isChecked()) {
+        other.setChecked(false);
+    }
+}
+
+void Form1::EditSelClicked() {
+    const auto& rows = m_changes->Rows();
+    const auto ticked = std::find_if(rows.begin(), rows.end(), [](const ChangeRow& row) { return row.bChecked; });
+    if (ticked != rows.end()) {
+        m_controls.tbEdit->setText(Text::ToQt(ticked->sText));
+    }
+}
+
+void Form1::ClearSelClicked() {
+    m_changes->UncheckAll();
+    for (QPushButton* button : {m_controls.cbClearSel, m_controls.cbApplySelected, m_controls.cbApplySelSpell}) {
+        button->setEnabled(false);
+    }
+    for (QPushButton* button : {m_controls.cbApplyAll, m_controls.cbApplyAllSpell}) {
+        button->setEnabled(true);
+    }
+    m_controls.lbSelectCount->clear();
+}
