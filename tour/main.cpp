@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -41,6 +42,7 @@ private:
 
     void OpenPracticeFile();
     void ShowDistrict();
+    void EditVariations();
     void Filter();
     void Save();
 
@@ -67,7 +69,9 @@ void Tour::ClickRow(const char* list, const QString& text) {
         return;
     }
     rows.scrollTo(found.constFirst());
-    QTest::mouseClick(rows.viewport(), Qt::LeftButton, Qt::NoModifier, rows.visualRect(found.constFirst()).center());
+    // The row may be wider than the list: its left end is in sight.
+    const QRect place = rows.visualRect(found.constFirst());
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, Qt::NoModifier, {place.left() + 5, place.center().y()});
 }
 
 void Tour::OpenPracticeFile() {
@@ -105,6 +109,24 @@ void Tour::ShowDistrict() {
     Picture(m_form, QStringLiteral("district"));
 }
 
+void Tour::EditVariations() {
+    ClickRow("lvAlpha", QStringLiteral("Coldharbour Fen"));
+    Click("cbAdd");
+    auto& box = Find<QLineEdit>("tbEdit");
+    QTest::keyClicks(&box, QStringLiteral("!Cold harbour fen"));
+    Picture(m_form, QStringLiteral("refused"));
+    QTest::keyClicks(&box, QStringLiteral("s"));
+    Picture(m_form, QStringLiteral("adding"));
+    QTest::keyClick(&box, Qt::Key_Return);
+    ClickRow("lvVariations", QStringLiteral("!Cold harbour Fen"));
+    Picture(m_form, QStringLiteral("selected"));
+    Click("cbShriek");
+    Picture(m_form, QStringLiteral("marked"));
+    Click("cbUndo");
+    Click("cbUndo");
+    Picture(m_form, QStringLiteral("undone"));
+}
+
 void Tour::Filter() {
     ClickRow("lbComments", QStringLiteral("BOUNDARY"));
     Picture(m_form, QStringLiteral("filter"));
@@ -128,6 +150,7 @@ bool Tour::Play() {
     Picture(m_form, QStringLiteral("empty"));
     OpenPracticeFile();
     ShowDistrict();
+    EditVariations();
     Filter();
     Save();
     return m_guide.AllAnswered() && m_guide.Surprises() == 0;

@@ -60,17 +60,28 @@ QVariant ChangeModel::data(const QModelIndex& index, int role) const {
     }
 }
 
+void ChangeModel::SetChecked(int row, bool checked) {
+    m_rows[static_cast<std::size_t>(row)].bChecked = checked;
+    Q_EMIT dataChanged(index(row), index(row), {Qt::CheckStateRole});
+}
+
 bool ChangeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::CheckStateRole) {
         return false;
     }
-    m_rows[static_cast<std::size_t>(index.row())].bChecked = value.toInt() == Qt::Checked;
-    Q_EMIT dataChanged(index, index, {Qt::CheckStateRole});
+    const bool check = value.toInt() == Qt::Checked;
+    if (check && m_rows[static_cast<std::size_t>(index.row())].iTag != ChangeRow::Valid) {
+        Q_EMIT TickRefused();
+        return false;
+    }
+    SetChecked(index.row(), check);
+    Q_EMIT Ticked();
     return true;
 }
 
 Qt::ItemFlags ChangeModel::flags(const QModelIndex& index) const {
-    return QAbstractListModel::flags(index) | Qt::ItemIsUserCheckable;
+    const Qt::ItemFlags usual = QAbstractListModel::flags(index);
+    return index.isValid() ? usual | Qt::ItemIsUserCheckable : usual;
 }
 
 QVariant ChangeModel::headerData(int /*section*/, Qt::Orientation orientation, int role) const {

@@ -35,7 +35,9 @@ Form1::Form1(Desktop& desktop) : m_desktop(desktop), m_controls(this) {
     setWindowTitle(QStringLiteral("Quexal Editor"));
     resize(DesignSize);
     SetModels();
-    ConnectControls();
+    ConnectButtons();
+    ConnectEditPanel();
+    ConnectLists();
     AddShortcuts();
 }
 
@@ -52,7 +54,7 @@ void Form1::SetModels() {
     m_controls.lbComments->setModel(m_commentTypes);
 }
 
-void Form1::ConnectControls() {
+void Form1::ConnectButtons() {
     const auto onClick = [this](QPushButton* button, void (Form1::*handler)()) {
         connect(button, &QPushButton::clicked, this, handler);
     };
@@ -65,8 +67,22 @@ void Form1::ConnectControls() {
     onClick(m_controls.cbDate, &Form1::DateClicked);
     onClick(m_controls.cbOk, &Form1::OkClicked);
     onClick(m_controls.cbCancel, &Form1::CancelClicked);
+    onClick(m_controls.btnProcess, &Form1::ProcessClicked);
+    onClick(m_controls.cbCompleteCheck, &Form1::CompleteCheckClicked);
+    onClick(m_controls.cbSaveVariations, &Form1::SaveVariationsClicked);
     onClick(m_controls.cbEditSel, &Form1::EditSelClicked);
     onClick(m_controls.cbClearSel, &Form1::ClearSelClicked);
+
+    const auto onApply = [this](QPushButton* button, bool selectedOnly, bool asSpelling) {
+        connect(button, &QPushButton::clicked, this, [=, this] { Apply(selectedOnly, asSpelling); });
+    };
+    onApply(m_controls.cbApplyAll, false, false);
+    onApply(m_controls.cbApplyAllSpell, false, true);
+    onApply(m_controls.cbApplySelected, true, false);
+    onApply(m_controls.cbApplySelSpell, true, true);
+}
+
+void Form1::ConnectEditPanel() {
     connect(m_controls.cbSpelling, &QCheckBox::clicked, this, &Form1::SpellingClicked);
     connect(m_controls.cbVariation, &QCheckBox::clicked, this, &Form1::VariationClicked);
 
@@ -76,7 +92,9 @@ void Form1::ConnectControls() {
     connect(edit, &EditBox::Entered, m_controls.cbOk, &QPushButton::click);
     connect(edit, &EditBox::Escaped, m_controls.cbCancel, &QPushButton::click);
     connect(edit, &EditBox::NothingToUndo, m_controls.cbUndo, &QPushButton::click);
+}
 
+void Form1::ConnectLists() {
     connect(m_controls.lvAlpha, &RowList::Chosen, this, &Form1::DistrictChosen);
     connect(m_controls.lvVariations, &RowList::Chosen, this, &Form1::VariationsChosen);
     connect(m_controls.lbComments, &RowList::Chosen, this, &Form1::CommentTypeChosen);
@@ -89,6 +107,10 @@ void Form1::ConnectControls() {
             ShowDistrictComments();
         }
     });
+    connect(m_changes, &ChangeModel::Ticked, this, &Form1::ChangeTicked);
+    connect(m_changes, &ChangeModel::TickRefused, this, &Form1::ChangeTickRefused);
+    connect(m_controls.LvChanges, &QAbstractItemView::pressed, this, [this] { m_tickedByClick = false; });
+    connect(m_controls.LvChanges, &QAbstractItemView::clicked, this, &Form1::ChangeRowClicked);
 }
 
 void Form1::AddShortcuts() {

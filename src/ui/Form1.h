@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +19,7 @@ class VariationModel;
 namespace CommonRoutines {
 enum class MarkerCommand;
 enum class VariationState;
+struct ChangeRow;
 struct VariationRow;
 } // namespace CommonRoutines
 
@@ -36,14 +38,24 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // Where the per-user settings of the window are kept.
+    struct Settings {
+        static constexpr std::string_view Section = "Paths";
+        static constexpr std::string_view DataFolder = "InFile";
+        static constexpr std::string_view ChangeFolder = "ProcessFile";
+    };
+
     void SetModels();
-    void ConnectControls();
+    void ConnectButtons();
+    void ConnectEditPanel();
+    void ConnectLists();
     void AddShortcuts();
 
     // The file.
     void OpenClicked();
     void SaveClicked();
     [[nodiscard]] bool MayDiscardChanges();
+    void RememberFolder(const std::string& path, std::string_view key);
     void ResetWindow();
     void FillDistrictList();
 
@@ -76,8 +88,19 @@ private:
     void SpellingClicked();
     void VariationClicked();
     void ChooseOption(QCheckBox& chosen, QCheckBox& other);
+
+    // The change list and the whole-file commands.
+    void ProcessClicked();
+    void ShowChanges(std::vector<CommonRoutines::ChangeRow> rows);
+    void ChangeTicked();
+    void ChangeTickRefused();
+    void ChangeRowClicked(const QModelIndex& index);
+    void UpdateChangeSelection();
+    void Apply(bool selectedOnly, bool asSpelling);
     void EditSelClicked();
     void ClearSelClicked();
+    void CompleteCheckClicked();
+    void SaveVariationsClicked();
 
     // The window as a whole.
     void ApplyWindowMode();
@@ -94,4 +117,5 @@ private:
     CommentTypeModel* m_commentTypes = nullptr;
     std::vector<std::int32_t> m_districtsByName; // all of the file; the filter chooses from them
     bool m_fittedToScreen = false;
+    bool m_tickedByClick = false; // the click being handled was on a check box
 };

@@ -5,9 +5,9 @@
 #include "edit/EditPanel.h"
 #include "edit/MarkerCommands.h"
 #include "edit/UndoJournal.h"
+#include "edit/Variations.h"
 #include "rules/Duplicates.h"
 #include "rules/Markers.h"
-#include "ui/ChangeModel.h"
 #include "ui/DistrictModel.h"
 #include "ui/EditBox.h"
 #include "ui/Form1.h"
@@ -19,8 +19,6 @@
 
 #include <QCheckBox>
 #include <QPushButton>
-
-#include <algorithm>
 
 using namespace CommonRoutines;
 
@@ -131,6 +129,9 @@ void Form1::ChangeSelectedMarkers(MarkerCommand command, QPushButton& button) {
     for (const int row : m_controls.lvVariations->SelectedRows()) {
         m_variations->RefreshRow(row);
     }
+    if (lEditIndex > 0) {
+        PutIntoEditBox(Text::ToQt(VariationInCurrentDistrict(lEditIndex).Text));
+    }
     button.setEnabled(false);
     iEditMode = DistrictIdle;
     ApplyWindowMode();
@@ -192,23 +193,4 @@ void Form1::ChooseOption(QCheckBox& chosen, QCheckBox& other) {
     } else if (chosen.isChecked()) {
         other.setChecked(false);
     }
-}
-
-void Form1::EditSelClicked() {
-    const auto& rows = m_changes->Rows();
-    const auto ticked = std::find_if(rows.begin(), rows.end(), [](const ChangeRow& row) { return row.bChecked; });
-    if (ticked != rows.end()) {
-        m_controls.tbEdit->setText(Text::ToQt(ticked->sText));
-    }
-}
-
-void Form1::ClearSelClicked() {
-    m_changes->UncheckAll();
-    for (QPushButton* button : {m_controls.cbClearSel, m_controls.cbApplySelected, m_controls.cbApplySelSpell}) {
-        button->setEnabled(false);
-    }
-    for (QPushButton* button : {m_controls.cbApplyAll, m_controls.cbApplyAllSpell}) {
-        button->setEnabled(true);
-    }
-    m_controls.lbSelectCount->clear();
 }

@@ -18,13 +18,6 @@
 
 using namespace CommonRoutines;
 
-namespace {
-
-constexpr std::string_view SettingsSection = "Paths";
-constexpr std::string_view DataFolderKey = "InFile";
-
-} // namespace
-
 bool Form1::MayDiscardChanges() {
     return !bChanged || m_desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
                                          BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
@@ -36,7 +29,7 @@ void Form1::OpenClicked() {
     }
     ResetWindow();
     FileRequest request;
-    request.sFolder = m_desktop.GetSetting(SettingsSection, DataFolderKey);
+    request.sFolder = m_desktop.GetSetting(Settings::Section, Settings::DataFolder);
     if (request.sFolder.empty()) {
         request.sFolder = m_desktop.ProgramFolder();
     }
@@ -45,9 +38,7 @@ void Form1::OpenClicked() {
         return;
     }
     sDataFileName = *path;
-    if (const std::string_view folder = Paths::FolderOf(*path); !folder.empty()) {
-        m_desktop.SaveSetting(SettingsSection, DataFolderKey, std::string(folder));
-    }
+    RememberFolder(*path, Settings::DataFolder);
     bChanged = false;
     m_districtsByName.clear();
     ReadDistrictFile(m_desktop);
@@ -61,6 +52,12 @@ void Form1::OpenClicked() {
         iEditMode = FileOpen;
         ApplyWindowMode();
         m_controls.lvAlpha->setFocus();
+    }
+}
+
+void Form1::RememberFolder(const std::string& path, std::string_view key) {
+    if (const std::string_view folder = Paths::FolderOf(path); !folder.empty()) {
+        m_desktop.SaveSetting(Settings::Section, key, std::string(folder));
     }
 }
 

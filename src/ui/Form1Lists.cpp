@@ -84,7 +84,7 @@ void Form1::CommentTypeChosen() {
     m_variations->SetRows(0, {});
     m_comments->SetRows({});
     // A filter change discards a loaded change file on purpose.
-    m_changes->SetRows({});
+    ShowChanges({});
     m_controls.lbApplyTo->clear();
     m_controls.lbWhyError->clear();
     // The columns are already as wide as the widest row of the whole file.

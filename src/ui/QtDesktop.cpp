@@ -4,6 +4,7 @@
 #include "ui/VarCheck.h"
 #include "ui/frmCustomMessageBox.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPageLayout>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QSaveFile>
@@ -24,6 +26,10 @@ namespace {
 constexpr QLatin1String ProgramTitle("Quexal Editor");
 constexpr QLatin1String SettingsOrganisation("Quexal");
 constexpr QLatin1String SettingsApplication("QXEdit");
+
+constexpr QMarginsF PageMargins(20, 20, 20, 20); // millimetres
+
+constexpr int PromptWidth = 438;
 
 QMessageBox::Icon IconOf(BoxIcon icon) {
     switch (icon) {
@@ -130,6 +136,9 @@ std::optional<std::string> QtDesktop::InputBox(std::string_view prompt) {
     for (auto* label : dialog.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
+        // The longest word must not set the width of the box.
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        label->setMinimumWidth(PromptWidth);
     }
     if (dialog.exec() != QDialog::Accepted) {
         return std::nullopt;
@@ -233,10 +242,15 @@ bool QtDesktop::Print(std::span<const std::string> lines) {
     for (const std::string& line : lines) {
         text.append(Text::ToQt(line).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     }
+    printer.setPageMargins(PageMargins, QPageLayout::Millimeter);
     QTextDocument document;
     QTextOption option = document.defaultTextOption();
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     document.setDefaultTextOption(option);
+    document.setDocumentMargin(0);
+    document.documentLayout()->setPaintDevice(&printer);
+    // A document without a page size of its own would be printed with page numbers among its lines.
+    document.setPageSize(printer.pageRect(QPrinter::DevicePixel).size());
     document.setPlainText(text.join(QLatin1Char('\n')));
     document.print(&printer);
     return printer.printerState() != QPrinter::Error && printer.printerState() != QPrinter::Aborted;

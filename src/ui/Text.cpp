@@ -55,7 +55,7 @@ QString ForList(std::string_view text) {
 }
 
 QString ForToolTip(const QString& text) {
-    return QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>");
+    return QStringLiteral("<div style=\"white-space:pre-wrap\">") + text.toHtmlEscaped() + QStringLiteral("</div>");
 }
 
 QString PathToQt(const std::string& path) {

@@ -1,0 +1,99 @@
+#include "changes/ApplyChanges.h"
+
+#include "core/Ansi.h"
+#include "core/Desktop.h"
+#include "core/State.h"
+#include "edit/UndoJournal.h"
+#include "edit/Variations.h"
+#include "rules/Duplicates.h"
+#include "rules/Matching.h"
+
+#include <algorithm>
+
+namespace CommonRoutines {
+
+namespace {
+
+constexpr std::int32_t MostWithoutQuestion = 20;
+constexpr std::int32_t SpareSlots = 50;
+constexpr bool KeepPairs = true;
+
+bool UserAgrees(std::span<const ChangeRow> rows, bool selectedOnly, Desktop& desktop) {
+    const auto candidates = std::count_if(rows.begin(), rows.end(), [&](const ChangeRow& row) {
+        return row.iTag == ChangeRow::Valid && (!selectedOnly || row.bChecked);
+    });
+    if (candidates <= MostWithoutQuestion) {
+        return true;
+    }
+    const std::string question = "Warning - That will add approximately " + std::to_string(candidates) +
+                                 " Variations\r\nIs that what you want to do?";
+    return desktop.MsgBox(question, BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+}
+
+// Adds a proposal that the district does not have yet. Returns false for one that it has, which is
+// then listed with the text that it repeats.
+bool AddProposal(std::string_view proposal, bool asSpelling, Desktop& desktop) {
+    lFoundVariation = 0;
+    if (FindVariationInDistrict(proposal)) {
+        AddDupePair(proposal,
+                    lFoundVariation > 0 ? VariationInCurrentDistrict(lFoundVariation).Text : CurrentDistrict().Name);
+        return false;
+    }
+    const bool needsShriek = asSpelling && !proposal.starts_with('!');
+    std::string& text = VariationInCurrentDistrict(AddSlot(SpareSlots)).Text;
+    text = (needsShriek ? "!" : "") + std::string(proposal);
+    CurrentUndoStep().NewItem({text, UndoAdd, ""}, lCurrentDistrict, desktop);
+    return true;
+}
+
+} // namespace
+
+std::optional<AppliedChanges> ApplyChanges(std::span<const ChangeRow> rows, bool bSelectedOnly, bool bAsSpelling,
+                                           Desktop& desktop) {
+    if (!UserAgrees(rows, bSelectedOnly, desktop)) {
+        return std::nullopt;
+    }
+    StartUndoStep(lCurrentDistrict);
+    EmptyDupePairs();
+    AppliedChanges applied;
+    for (const ChangeRow& row : rows) {
+        if (row.iTag != ChangeRow::Valid) {
+            ++applied.invalid;
+            continue;
+        }
+        const std::string_view proposal = Ansi::Trim(row.sText);
+        if (proposal.empty() || (bSelectedOnly && !row.bChecked)) {
+            continue;
+        }
+        ++(AddProposal(proposal, bAsSpelling, desktop) ? applied.added : applied.ignored);
+    }
+    bChanged = bChanged || applied.added > 0;
+    FindDuplicateVariations(lCurrentDistrict, KeepPairs);
+    return applied;
+}
+
+void ReportAppliedChanges(const AppliedChanges& applied, Desktop& desktop) {
+    std::string text = std::to_string(applied.added) + " New variations added.";
+    if (lDupePairCount > 0) {
+        text += "\r\n" + std::to_string(lDupePairCount) + " lines ignored which duplicate existing variations.";
+    }
+    if (applied.invalid > 0) {
+        text += "\r\n" + std::to_string(applied.invalid) + " invalid variations were ignored";
+    }
+    desktop.MsgBox(text, BoxIcon::Information);
+    if (lDupePairCount == 0) {
+        return;
+    }
+    Report report{"Details of Duplicates", {}, true};
+    for (std::int32_t i = 1; i <= lDupePairCount; ++i) {
+        // The heading stands before every pair that was there already, not once before them all.
+        if (i > applied.ignored) {
+            report.Items.emplace_back("The following duplicates already existed in this district");
+        }
+        const DupePair& pair = DupePairs[static_cast<std::size_t>(i)];
+        report.Items.push_back("Variation " + pair.First + " duplicates " + pair.Second);
+    }
+    desktop.ShowReport(report);
+}
+
+} // namespace CommonRoutines

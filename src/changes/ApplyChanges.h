@@ -1,0 +1,32 @@
+#pragma once
+
+#include "changes/ChangeRow.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+class Desktop;
+
+namespace CommonRoutines {
+
+// What became of the proposals.
+struct AppliedChanges {
+    std::int32_t added = 0;
+    std::int32_t invalid = 0; // rows that are no valid proposal, ticked or not
+    std::int32_t ignored = 0; // proposals that the district had already
+};
+
+// Adds the valid proposals, or the ticked ones of them, to lCurrentDistrict, as spelling mistakes when
+// that is asked for, and records them as one undo step. More than twenty are only added after a
+// question; nothing is returned when the answer is No.
+//
+// Leaves in DupePairs the ignored proposals with the texts that they repeat and, behind them, the
+// duplicates of the district. Sets bChanged when something was added.
+std::optional<AppliedChanges> ApplyChanges(std::span<const ChangeRow> rows, bool bSelectedOnly, bool bAsSpelling,
+                                           Desktop& desktop);
+
+// Says what was done and, where there are duplicates, lists them.
+void ReportAppliedChanges(const AppliedChanges& applied, Desktop& desktop);
+
+} // namespace CommonRoutines

@@ -1,0 +1,99 @@
+#include "changes/ChangeFile.h"
+
+#include "core/Ansi.h"
+#include "core/Lines.h"
+#include "core/State.h"
+#include "rules/Validation.h"
+
+namespace CommonRoutines {
+
+namespace {
+
+constexpr auto None = std::string_view::npos;
+constexpr std::string_view HeadingRow = "<TR><TD>";
+
+// The part of a line between two places; empty when there is no such part.
+std::string Cut(std::string_view line, std::size_t from, std::size_t to) {
+    if (to == None || from > to || from >= line.size()) {
+        return {};
+    }
+    return std::string(Ansi::Trim(line.substr(from, to - from)));
+}
+
+// The text of the first cell of a row whose tags carry attributes, in an upper-cased line.
+std::string FirstCell(std::string_view line, std::string_view upper) {
+    const auto tagEnd = upper.find('>', HeadingRow.size());
+    if (tagEnd == None) {
+        return {};
+    }
+    return Cut(line, tagEnd + 1, upper.find('<', tagEnd + 1));
+}
+
+bool Contains(std::string_view text, std::string_view part) {
+    return text.find(part) != None;
+}
+
+ChangeRow CheckedRow(std::string text) {
+    ChangeRow row;
+    bWarning = false; // a refusal may leave the flag of the row before
+    const bool valid = ValidateVariation(Ansi::Trim(text), lCurrentDistrict);
+    row.iTag = valid ? ChangeRow::Valid : ChangeRow::Invalid;
+    row.bWarning = bWarning;
+    row.sText = std::move(text);
+    return row;
+}
+
+} // namespace
+
+std::string ChangeLineParser::ParseChangeLine(std::string_view line) {
+    const std::string upperLine = Ansi::Upper(line);
+    const std::string_view upper = Ansi::Trim(upperLine);
+    if (Contains(upper, "<HEAD>")) {
+        bInHead = true;
+        return {};
+    }
+    if (Contains(upper, "<TABLE")) {
+        return {};
+    }
+    if (Contains(upper, "<TR>")) {
+        const bool heading = upper.starts_with(HeadingRow);
+        iCellKind = heading ? 1 : 2;
+        return heading ? Cut(line, HeadingRow.size(), upper.find('<', HeadingRow.size())) : FirstCell(line, upper);
+    }
+    // What stands above the head of a page is no proposal.
+    const bool aboveHead = upper.starts_with("<!DOCTYPE") || upper.starts_with("<HTML");
+    return bInHead || aboveHead ? std::string() : std::string(line);
+}
+
+std::string ChangeList::Summary() const {
+    std::string summary;
+    if (invalidCount > 0) {
+        summary += std::to_string(invalidCount) + " invalid variations (red). ";
+    }
+    if (warningCount > 0) {
+        summary += std::to_string(warningCount) + " warnings (Brown).";
+    }
+    return summary;
+}
+
+ChangeList ReadChanges(std::string_view content) {
+    ChangeList list;
+    ChangeLineParser parser;
+    Lines lines(content);
+    while (const auto line = lines.Next()) {
+        std::string text = parser.ParseChangeLine(*line);
+        if (text.empty() || parser.IsBeforeRows()) {
+            continue;
+        }
+        if (parser.IsHeading()) {
+            list.rows.push_back({Ansi::Upper(text), ChangeRow::Heading, false, false});
+            continue;
+        }
+        list.rows.push_back(CheckedRow(std::move(text)));
+        list.invalidCount += list.rows.back().iTag == ChangeRow::Invalid ? 1 : 0;
+        list.warningCount += list.rows.back().bWarning ? 1 : 0;
+    }
+    return list;
+}
+
+} // namespace CommonRoutines

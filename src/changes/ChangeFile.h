@@ -1,0 +1,45 @@
+#pragma once
+
+#include "changes/ChangeRow.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace CommonRoutines {
+
+// Takes the proposals out of the lines of a change file: plain text with a proposal on each line, or
+// a web page whose table rows stand on a line each, of which the first cell counts.
+class ChangeLineParser {
+public:
+    // The text that a line contributes; empty when it has none. Positions are found in the trimmed
+    // line but cut from the line as it is, so that leading blanks shift the cut. A row that cannot be
+    // cut contributes nothing; character references stay as they are written.
+    std::string ParseChangeLine(std::string_view line);
+
+    // True when the last row line began exactly as a row of headings does.
+    [[nodiscard]] bool IsHeading() const { return iCellKind == 1; }
+
+    // True while only the top of a web page has been seen.
+    [[nodiscard]] bool IsBeforeRows() const { return iCellKind == 0 && bInHead; }
+
+private:
+    std::int16_t iCellKind = 0; // 0 no row yet, 1 the last row line began with "<TR><TD>", 2 otherwise
+    bool bInHead = false;       // a line with "<HEAD>" has been seen
+};
+
+// The proposals of a change file, and how many of them are bad.
+struct ChangeList {
+    std::vector<ChangeRow> rows;
+    std::int32_t invalidCount = 0;
+    std::int32_t warningCount = 0;
+
+    // The counts in words; empty when both are 0.
+    [[nodiscard]] std::string Summary() const;
+};
+
+// Reads a change file and checks every proposal for lCurrentDistrict.
+[[nodiscard]] ChangeList ReadChanges(std::string_view content);
+
+} // namespace CommonRoutines

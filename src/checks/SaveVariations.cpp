@@ -1,0 +1,28 @@
+#include "checks/SaveVariations.h"
+
+#include "core/Ansi.h"
+#include "core/Desktop.h"
+
+namespace CommonRoutines {
+
+void SaveSelectedVariations(std::span<const std::string> variations, Desktop& desktop) {
+    FileRequest request;
+    request.sTitle = "Open Variation Save File";
+    request.sDefaultExtension = "txt";
+    const auto path = desktop.ChooseFileToSave(request);
+    if (!path) {
+        return;
+    }
+    std::string content;
+    for (const std::string& variation : variations) {
+        content += variation + "\r\n";
+    }
+    const std::string name = Ansi::FromUtf8(*path);
+    if (desktop.ReplaceFile(*path, content)) {
+        desktop.MsgBox(std::to_string(variations.size()) + " Variations Saved to " + name, BoxIcon::Information);
+    } else {
+        desktop.MsgBox("The file cannot be written:\r\n" + name, BoxIcon::Exclamation);
+    }
+}
+
+} // namespace CommonRoutines

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+class Desktop;
+
+namespace CommonRoutines {
+
+// Asks for a file name, writes the variations there, a line each, and says how many they are. A
+// cancelled dialogue ends silently.
+void SaveSelectedVariations(std::span<const std::string> variations, Desktop& desktop);
+
+} // namespace CommonRoutines
