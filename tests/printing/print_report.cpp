@@ -1,0 +1,39 @@
+// Prints a report on the default printer, as the report window does: quexal-print-report COUNT. The
+// items are numbered lines, every tenth one too long for a line of the paper.
+
+#include "checks/ReportOutput.h"
+#include "ui/QtDesktop.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+// Nobody is there to read a message box.
+class UnattendedDesktop : public QtDesktop {
+public:
+    BoxAnswer MsgBox(std::string_view text, BoxIcon /*icon*/, BoxButtons /*buttons*/) override {
+        std::printf("%.*s\n", static_cast<int>(text.size()), text.data());
+        return BoxAnswer::Ok;
+    }
+};
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    const int count = argc == 2 ? std::atoi(argv[1]) : 0;
+    Report report;
+    for (int i = 1; i <= count; ++i) {
+        std::string item = "Item " + std::to_string(i) + " says that District <b>A</b> contains a duplicate";
+        if (i % 10 == 0) {
+            item += " - " + std::string(150, 'x') + " end" + std::to_string(i);
+        }
+        report.Items.push_back(item);
+    }
+    UnattendedDesktop desktop;
+    CommonRoutines::PrintReport(report, "/data/north.txt", desktop);
+    return 0;
+}
