@@ -43,6 +43,8 @@ private:
     void OpenPracticeFile();
     void ShowDistrict();
     void EditVariations();
+    void ApplyProposals();
+    void CheckWholeFile();
     void Filter();
     void Save();
 
@@ -127,6 +129,32 @@ void Tour::EditVariations() {
     Picture(m_form, QStringLiteral("undone"));
 }
 
+void Tour::ApplyProposals() {
+    const QString proposals = QCoreApplication::applicationDirPath() + QStringLiteral("/proposals.txt");
+    ClickRow("lvAlpha", QStringLiteral("Coldharbour Fen"));
+    m_guide.Next([=](QWidget& dialogue) { DialogueGuide::ChooseFile(dialogue, proposals.toStdString()); });
+    Click("btnProcess");
+    ClickRow("LvChanges", QStringLiteral("Coldharbor Fen"));
+    Picture(m_form, QStringLiteral("proposals"));
+    Click("cbCancel");
+    Click("cbClearSel");
+    m_guide.Next([](QWidget& dialogue) { DialogueGuide::Press(dialogue, "OK"); });
+    m_guide.Next([this](QWidget& dialogue) {
+        Picture(dialogue, QStringLiteral("ignored"));
+        DialogueGuide::Press(dialogue, "Close");
+    });
+    Click("cbApplyAll");
+    Picture(m_form, QStringLiteral("applied"));
+}
+
+void Tour::CheckWholeFile() {
+    m_guide.Next([this](QWidget& dialogue) {
+        Picture(dialogue, QStringLiteral("check"));
+        DialogueGuide::Press(dialogue, "Close");
+    });
+    Click("cbCompleteCheck");
+}
+
 void Tour::Filter() {
     ClickRow("lbComments", QStringLiteral("BOUNDARY"));
     Picture(m_form, QStringLiteral("filter"));
@@ -151,6 +179,8 @@ bool Tour::Play() {
     OpenPracticeFile();
     ShowDistrict();
     EditVariations();
+    ApplyProposals();
+    CheckWholeFile();
     Filter();
     Save();
     return m_guide.AllAnswered() && m_guide.Surprises() == 0;
