@@ -32,6 +32,7 @@ void SaveReport(const Report& report, const std::string& dataFile, Desktop& desk
     request.sFileName = ReportFileName(dataFile);
     request.sFolder = desktop.ProgramFolder();
     request.sDefaultExtension = "txt";
+    request.bAskBeforeReplacing = false; // a newer report takes the place of the one before
     const auto path = desktop.ChooseFileToSave(request);
     if (!path) {
         return;

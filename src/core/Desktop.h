@@ -32,6 +32,7 @@ struct FileRequest {
     std::string sFolder;
     std::string sFileName;
     std::string sDefaultExtension; // without the point; added to a name that has none
+    bool bAskBeforeReplacing = true;
 };
 
 class Desktop {
@@ -51,8 +52,8 @@ public:
     // Shows a report window and returns when it is closed.
     virtual void ShowReport(const Report& report) = 0;
 
-    // The full path chosen; nothing when the dialogue was cancelled. An existing file is replaced
-    // only after a question, a read-only one is refused.
+    // The full path chosen; nothing when the dialogue was cancelled. For saving, read-only files are
+    // refused.
     virtual std::optional<std::string> ChooseFileToOpen(const FileRequest& request) = 0;
     virtual std::optional<std::string> ChooseFileToSave(const FileRequest& request) = 0;
 

@@ -101,7 +101,7 @@ void CommitText(std::string_view text, Desktop& desktop) {
         RecordChange(UndoAdd, trimmed, "", desktop);
         VariationInCurrentDistrict(AddSlot()).Text = trimmed;
         iEditMode = DistrictIdle;
-    } else if (iEditMode == EditingVariation) {
+    } else if (iEditMode == EditingVariation && lEditIndex > 0) {
         VariationRecord& variation = VariationInCurrentDistrict(lEditIndex);
         RecordChange(UndoChange, trimmed, variation.Text, desktop);
         variation.Text = trimmed;

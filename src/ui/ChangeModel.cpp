@@ -18,6 +18,20 @@ VariationState StateOf(const ChangeRow& row) {
     return row.iTag == ChangeRow::Invalid ? VariationState::Invalid : VariationState::Plain;
 }
 
+QString StateInWords(const ChangeRow& row) {
+    QString words;
+    if (row.iTag == ChangeRow::Heading) {
+        words += QObject::tr(" - heading");
+    }
+    if (row.iTag == ChangeRow::Invalid) {
+        words += QObject::tr(" - invalid");
+    }
+    if (row.bWarning) {
+        words += QObject::tr(" - warning");
+    }
+    return words;
+}
+
 } // namespace
 
 void ChangeModel::SetRows(std::vector<ChangeRow> rows) {
@@ -53,8 +67,11 @@ QVariant ChangeModel::data(const QModelIndex& index, int role) const {
         return StateColours::InList(StateOf(row), QGuiApplication::palette());
     case Qt::CheckStateRole:
         return row.bChecked ? Qt::Checked : Qt::Unchecked;
-    case Qt::ToolTipRole:
-        return Text::ForToolTip(Text::ForList(row.sText));
+    case Qt::AccessibleTextRole:
+    case Qt::ToolTipRole: {
+        const QString words = Text::ForList(row.sText) + StateInWords(row);
+        return role == Qt::ToolTipRole ? Text::ForToolTip(words) : words;
+    }
     default:
         return {};
     }

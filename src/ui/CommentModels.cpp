@@ -52,6 +52,8 @@ QVariant CommentTypeModel::data(const QModelIndex& index, int role) const {
     switch (role) {
     case Qt::DisplayRole:
         return Text::ForList(item.sType);
+    case Qt::ToolTipRole:
+        return Text::ForToolTip(Text::ForList(item.sType));
     case Qt::UserRole:
         return item.lItemData;
     default:

@@ -142,6 +142,7 @@ void Form1::LoadForm() {
     bChanged = false;
     iEditMode = NothingOpen;
     ApplyWindowMode();
+    m_controls.cbOpen->setFocus();
 }
 
 void Form1::showEvent(QShowEvent* event) {
@@ -163,10 +164,10 @@ void Form1::ApplyWindowMode() {
         }
     }
     if (ModeClearsStatus(iEditMode)) {
-        m_controls.lbStatus->clear();
+        m_controls.lbStatus->ShowText({});
     }
     if (ModeClearsApplyTo(iEditMode)) {
-        m_controls.lbApplyTo->clear();
+        m_controls.lbApplyTo->ShowText({});
     }
 }
 
@@ -186,7 +187,7 @@ void Form1::FitWindowToScreen() {
 
 void Form1::ShowWhyError(std::string_view text, VariationState state) {
     m_controls.lbWhyError->SetTextColour(StateColours::OnLight(state));
-    m_controls.lbWhyError->setText(Text::ForBox(text));
+    m_controls.lbWhyError->ShowText(Text::ForBox(text));
 }
 
 void Form1::ClearWhyError() {

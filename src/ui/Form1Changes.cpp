@@ -50,7 +50,7 @@ void Form1::ProcessClicked() {
 
 void Form1::ShowChanges(std::vector<ChangeRow> rows) {
     m_changes->SetRows(std::move(rows));
-    m_controls.lbSelectCount->clear();
+    m_controls.lbSelectCount->ShowText({});
 }
 
 void Form1::ChangeTicked() {
@@ -82,7 +82,7 @@ void Form1::ChangeRowClicked(const QModelIndex& index) {
 void Form1::UpdateChangeSelection() {
     ClearWhyError();
     const ChangeSelection selection = DescribeChangeSelection(m_changes->Rows());
-    m_controls.lbSelectCount->setText(Text::ToQt(selection.count));
+    m_controls.lbSelectCount->ShowText(Text::ToQt(selection.count));
     if (m_changes->rowCount() == 0 || !IsDistrict(lCurrentDistrict)) {
         return;
     }
@@ -103,7 +103,7 @@ void Form1::Apply(bool selectedOnly, bool asSpelling) {
     ReportAppliedChanges(*applied, m_desktop);
     iEditMode = ChangesApplied;
     ApplyWindowMode();
-    m_controls.lbApplyTo->clear();
+    m_controls.lbApplyTo->ShowText({});
     ShowNextUndo(CurrentUndoStep().WhatAmI());
 }
 
@@ -124,7 +124,7 @@ void Form1::ClearSelClicked() {
     for (QPushButton* button : {m_controls.cbApplyAll, m_controls.cbApplyAllSpell}) {
         button->setEnabled(true);
     }
-    m_controls.lbSelectCount->clear();
+    m_controls.lbSelectCount->ShowText({});
 }
 
 void Form1::CompleteCheckClicked() {

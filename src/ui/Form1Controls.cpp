@@ -23,6 +23,16 @@ QString Name(const char* name) {
     return QString::fromLatin1(name);
 }
 
+// Makes a button wide enough for each of its captions, so that nothing moves when they change.
+void KeepWidthFor(QPushButton* button, const QStringList& captions) {
+    const QString present = button->text();
+    for (const QString& caption : captions) {
+        button->setText(caption);
+        button->setMinimumWidth(std::max(button->minimumWidth(), button->sizeHint().width()));
+    }
+    button->setText(present);
+}
+
 // A sub-layout inside another, without margins of its own.
 template <typename Layout>
 Layout* Inner(QWidget* of = nullptr) {
@@ -74,10 +84,10 @@ QCheckBox* Form1Controls::OptionBox(const char* name, const QString& caption, co
     return box;
 }
 
-PlainLabel* Form1Controls::Status(const char* name, const QString& accessibleName, int lines) {
+PlainLabel* Form1Controls::Status(const char* name, const QString& purpose, int lines) {
     auto* label = new PlainLabel(m_form);
     label->setObjectName(Name(name));
-    label->setAccessibleName(accessibleName);
+    label->SetPurpose(purpose);
     label->SetLineCount(lines);
     return label;
 }
@@ -158,6 +168,10 @@ void Form1Controls::CreateButtons() {
         Button("cbApplyAllSpell", QObject::tr("as Spelling"), QObject::tr("Add all proposals as spelling mistakes"));
     cbEditSel = Button("cbEditSel", QObject::tr("Edit"), QObject::tr("Take the ticked proposal into the edit box"));
     cbClearSel = Button("cbClearSel", QObject::tr("Clear"), QObject::tr("Untick all proposals"));
+    for (QPushButton* button : {cbShriek, cbDate}) {
+        KeepWidthFor(button, {QObject::tr("Add !"), QObject::tr("Remove !"), QObject::tr("Add Date%"),
+                              QObject::tr("Remove Date%")});
+    }
     // Two buttons have the same caption; a screen reader needs to tell them apart.
     cbApplySelSpell->setAccessibleName(QObject::tr("Apply Selected as Spelling"));
     cbApplyAllSpell->setAccessibleName(QObject::tr("Apply All as Spelling"));
@@ -175,10 +189,8 @@ void Form1Controls::CreateLabels() {
     lbWhyError->SetTextColour(StateColours::OnLight(CommonRoutines::VariationState::Plain));
     lbWhyError->SetBackground(StateColours::LightGrey);
     lbWhyError->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-    lbSelectCount = new QLabel(m_form);
-    lbSelectCount->setObjectName(Name("lbSelectCount"));
-    lbSelectCount->setAccessibleName(QObject::tr("Number of ticked proposals"));
-    lbSelectCount->setTextFormat(Qt::PlainText);
+    lbSelectCount = Status("lbSelectCount", QObject::tr("Ticked proposals"), 1);
+    lbSelectCount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 QWidget* Form1Controls::FileRow() {
@@ -246,8 +258,7 @@ QWidget* Form1Controls::ChangeHeading() {
     auto* heading = new QWidget(m_form);
     auto* layout = Inner<QHBoxLayout>(heading);
     layout->addWidget(Heading("Label3", QObject::tr("Change File"), LvChanges));
-    layout->addStretch();
-    layout->addWidget(count);
+    layout->addWidget(count, 1);
     return heading;
 }
 

@@ -58,7 +58,7 @@ public:
     QPushButton* cbApplyAllSpell = nullptr;
     QPushButton* cbEditSel = nullptr;
     QPushButton* cbClearSel = nullptr;
-    QLabel* lbSelectCount = nullptr;
+    PlainLabel* lbSelectCount = nullptr;
 
     PlainLabel* lbWhyError = nullptr;
     PlainLabel* lbApplyTo = nullptr;
@@ -67,7 +67,7 @@ private:
     RowList* List(const char* name, const QString& accessibleName);
     QPushButton* Button(const char* name, const QString& caption, const QString& toolTip);
     QCheckBox* OptionBox(const char* name, const QString& caption, const QString& toolTip);
-    PlainLabel* Status(const char* name, const QString& accessibleName, int lines);
+    PlainLabel* Status(const char* name, const QString& purpose, int lines);
     QFrame* Frame(const char* name, const QString& accessibleName);
     QLabel* Heading(const char* name, const QString& caption, QWidget* of);
 

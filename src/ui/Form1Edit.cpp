@@ -26,10 +26,10 @@ void Form1::EditTextChanged() {
     if (bIgnoreEvents) {
         return;
     }
-    m_controls.lbWhyError->clear();
+    m_controls.lbWhyError->ShowText({});
     const TextChange change = FollowText(Text::FromQt(m_controls.tbEdit->text()));
     if (change.status) {
-        m_controls.lbStatus->setText(Text::ForBox(*change.status));
+        m_controls.lbStatus->ShowText(Text::ForBox(*change.status));
     }
     iEditMode = change.editMode;
     ApplyWindowMode();
@@ -62,7 +62,7 @@ void Form1::ResetEditPanel() {
 }
 
 void Form1::AddClicked() {
-    m_controls.lbWhyError->clear();
+    m_controls.lbWhyError->ShowText({});
     iLastAction = AddStarted;
     PutIntoEditBox({});
     iEditMode = AddingUnacceptable;
@@ -90,6 +90,8 @@ void Form1::OkClicked() {
 void Form1::CancelClicked() {
     PutIntoEditBox({});
     ReturnToIdle();
+    // The button is disabled now; the focus must not fall just anywhere.
+    m_controls.lvAlpha->setFocus();
 }
 
 void Form1::ReturnToIdle() {
@@ -99,7 +101,7 @@ void Form1::ReturnToIdle() {
 }
 
 void Form1::DeleteClicked() {
-    m_controls.lbWhyError->clear();
+    m_controls.lbWhyError->ShowText({});
     iLastAction = VariationDeleted;
     const std::vector<VariationRow> rows = SelectedVariations();
     const bool confirmed =
@@ -141,7 +143,7 @@ void Form1::UndoClicked() {
     if (CurrentUndoStep().Count() == 0) {
         return;
     }
-    m_controls.lbWhyError->clear();
+    m_controls.lbWhyError->ShowText({});
     const UndoneItem undone = CurrentUndoStep().LastItem();
     if (undone.lDistrict != lCurrentDistrict && !GoToDistrict(undone.lDistrict)) {
         m_desktop.MsgBox("Undo crash - Failed to find District " + std::to_string(undone.lDistrict), BoxIcon::Critical);
@@ -152,6 +154,10 @@ void Form1::UndoClicked() {
     ShowNextUndo(DescribeNextUndo());
     FindDuplicateVariations(undone.lDistrict, false);
     RefreshVariationList();
+    // Where no variation is left, none is being edited any more.
+    if (iEditMode == EditingVariation) {
+        iEditMode = DistrictIdle;
+    }
     ApplyWindowMode();
 }
 
@@ -166,7 +172,7 @@ bool Form1::GoToDistrict(std::int32_t district) {
 }
 
 void Form1::ShowNextUndo(std::string_view description) {
-    m_controls.lbUndo->setText(Text::ForList(description));
+    m_controls.lbUndo->ShowText(Text::ForList(description));
 }
 
 // Proposals are applied with one of these two boxes ticked, which only makes sense while some are

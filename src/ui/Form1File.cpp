@@ -64,7 +64,7 @@ void Form1::RememberFolder(const std::string& path, std::string_view key) {
 void Form1::ResetWindow() {
     lCurrentDistrict = 0;
     lEditIndex = 0;
-    m_controls.lbApplyTo->clear();
+    m_controls.lbApplyTo->ShowText({});
     m_comments->SetRows({});
     SizeCommentColumn();
     ClearWhyError();
@@ -73,7 +73,7 @@ void Form1::ResetWindow() {
     m_commentTypes->Refresh();
     m_controls.lbComments->SelectRow(0);
     iEditMode = NothingOpen;
-    m_controls.lbUndo->clear();
+    m_controls.lbUndo->ShowText({});
     m_districts->SetDistricts({});
     m_variations->SetRows(0, {});
 }

@@ -37,7 +37,7 @@ void Form1::DistrictChosen() {
     RefreshVariationList();
     iEditMode = DistrictIdle;
     const DistrictRecord& record = Districts[static_cast<std::size_t>(lCurrentDistrict)];
-    m_controls.lbApplyTo->setText(Text::ForList(record.Name));
+    m_controls.lbApplyTo->ShowText(Text::ForList(record.Name));
     ApplyWindowMode();
     ResetEditPanel();
     ShowDistrictComments();
@@ -85,8 +85,8 @@ void Form1::CommentTypeChosen() {
     m_comments->SetRows({});
     // A filter change discards a loaded change file on purpose.
     ShowChanges({});
-    m_controls.lbApplyTo->clear();
-    m_controls.lbWhyError->clear();
+    m_controls.lbApplyTo->ShowText({});
+    m_controls.lbWhyError->ShowText({});
     // The columns are already as wide as the widest row of the whole file.
     const std::string& type = CommentTypes.Items()[static_cast<std::size_t>(rows.front())].sType;
     m_districts->SetDistricts(DistrictsOfType(m_districtsByName, type));

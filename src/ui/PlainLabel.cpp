@@ -1,5 +1,7 @@
 #include "ui/PlainLabel.h"
 
+#include "ui/Text.h"
+
 #include <QPainter>
 #include <QTextLayout>
 
@@ -36,6 +38,17 @@ PlainLabel::PlainLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void PlainLabel::SetPurpose(const QString& purpose) {
+    m_purpose = purpose;
+    ShowText(text());
+}
+
+void PlainLabel::ShowText(const QString& text) {
+    setText(text);
+    setToolTip(text.isEmpty() ? QString() : Text::ForToolTip(text));
+    setAccessibleName(text.isEmpty() ? m_purpose : m_purpose + QStringLiteral(": ") + text);
 }
 
 void PlainLabel::SetLineCount(int lines) {
@@ -90,8 +103,9 @@ void PlainLabel::paintEvent(QPaintEvent* /*event*/) {
             cutOff ? fontMetrics().elidedText(text().mid(lines[i].from).replace(QLatin1Char('\n'), QLatin1Char(' ')),
                                               Qt::ElideRight, room.width())
                    : text().mid(lines[i].from, lines[i].length);
-        painter.drawText(QRect(room.left(), top, room.width(), lineHeight),
-                         static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine), line);
+        painter.drawText(
+            QRect(room.left(), top, room.width(), lineHeight),
+            static_cast<int>((alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter | Qt::TextSingleLine), line);
         top += lineHeight;
     }
 }

@@ -9,6 +9,12 @@ class PlainLabel : public QLabel {
 public:
     explicit PlainLabel(QWidget* parent = nullptr);
 
+    // What the label is for. Screen readers read that and the text together.
+    void SetPurpose(const QString& purpose);
+
+    // Shows a text, whole also in the tooltip.
+    void ShowText(const QString& text);
+
     // Room for this many lines.
     void SetLineCount(int lines);
 
@@ -28,5 +34,6 @@ protected:
 private:
     void SetColour(QPalette::ColorRole role, const QColor& colour);
 
+    QString m_purpose;
     int m_lines = 1;
 };

@@ -176,6 +176,7 @@ std::optional<std::string> QtDesktop::ChooseFileToOpen(const FileRequest& reques
 std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& request) {
     QFileDialog dialog(m_window, QObject::tr("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.bAskBeforeReplacing);
     for (;;) {
         auto path = Choose(dialog, request);
         if (!path || !IsReadOnly(Text::PathToQt(*path))) {
@@ -257,11 +258,17 @@ bool QtDesktop::Print(std::span<const std::string> lines) {
 }
 
 std::string QtDesktop::Today() {
-    return Text::FromQt(QLocale().toString(QDate::currentDate(), QStringLiteral("dd MMM yyyy")));
+    const QString format = QStringLiteral("dd MMM yyyy");
+    const QDate today = QDate::currentDate();
+    std::string text = Text::FromQt(QLocale().toString(today, format));
+    // Not every language's months can be written in the code page.
+    return text.find('?') == std::string::npos ? text : Text::FromQt(QLocale::c().toString(today, format));
 }
 
 std::string QtDesktop::ShortTime() {
-    return Text::FromQt(QLocale().toString(QTime::currentTime(), QLocale::ShortFormat));
+    constexpr QChar narrowNoBreakSpace(0x202F);
+    return Text::FromQt(
+        QLocale().toString(QTime::currentTime(), QLocale::ShortFormat).replace(narrowNoBreakSpace, QLatin1Char(' ')));
 }
 
 void QtDesktop::Beep() {

@@ -68,7 +68,8 @@ void frmCustomMessageBox::BuildButtons(const MessageBoxLayout::Layout& layout, s
     row->setGeometry(Gap, top, layout.innerWidth - Gap, layout.buttonHeight);
     for (std::size_t i = 0; i < layout.buttons.size(); ++i) {
         const std::string& caption = captions[i];
-        auto* button = new QPushButton(Text::ToQt(layout.buttons[i].text), row);
+        QString text = Text::ToQt(layout.buttons[i].text);
+        auto* button = new QPushButton(text.replace(QLatin1Char('&'), QStringLiteral("&&")), row);
         button->setObjectName(QStringLiteral("cmdButton%1").arg(i));
         button->setAccessibleName(Text::ToQt(caption));
         button->setGeometry(layout.buttons[i].left, 0, layout.buttonWidth, layout.buttonHeight);
