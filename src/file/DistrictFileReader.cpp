@@ -261,6 +261,7 @@ void ReadDistrictFile(Desktop& desktop) {
     if (!content) {
         desktop.ShowBusy(false);
         desktop.MsgBox("The file cannot be read:\r\n" + Ansi::FromUtf8(sDataFileName), BoxIcon::Exclamation);
+        sDataFileName.clear();
         return;
     }
     Districts.reserve(static_cast<std::size_t>(std::count(content->begin(), content->end(), '\n')) + InitialUpperBound);

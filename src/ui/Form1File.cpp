@@ -42,6 +42,11 @@ void Form1::OpenClicked() {
     bChanged = false;
     m_districtsByName.clear();
     ReadDistrictFile(m_desktop);
+    if (sDataFileName.empty()) {
+        // Nothing is open, so nothing must be saved over the file that could not be read.
+        ApplyWindowMode();
+        return;
+    }
     m_commentTypes->Refresh();
     m_controls.lbComments->SelectRow(0);
     if (iRepairAction == Quit) {

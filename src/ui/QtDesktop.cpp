@@ -21,11 +21,16 @@
 #include <QStyle>
 #include <QTextDocument>
 
+#include <limits>
+
 namespace {
 
 constexpr QLatin1String ProgramTitle("Quexal Editor");
 constexpr QLatin1String SettingsOrganisation("Quexal");
 constexpr QLatin1String SettingsApplication("QXEdit");
+
+// Positions in a file are 32-bit numbers.
+constexpr qint64 LargestFile = std::numeric_limits<std::int32_t>::max();
 
 constexpr QMarginsF PageMargins(20, 20, 20, 20); // millimetres
 
@@ -189,7 +194,7 @@ std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& reques
 std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
     const QString name = Text::PathToQt(path);
     QFile file(name);
-    if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) {
+    if (!QFileInfo(name).isFile() || file.size() > LargestFile || !file.open(QIODevice::ReadOnly)) {
         return std::nullopt;
     }
     std::string content(static_cast<std::size_t>(file.size()), '\0');
@@ -258,17 +263,16 @@ bool QtDesktop::Print(std::span<const std::string> lines) {
 }
 
 std::string QtDesktop::Today() {
-    const QString format = QStringLiteral("dd MMM yyyy");
-    const QDate today = QDate::currentDate();
-    std::string text = Text::FromQt(QLocale().toString(today, format));
-    // Not every language's months can be written in the code page.
-    return text.find('?') == std::string::npos ? text : Text::FromQt(QLocale::c().toString(today, format));
+    return Text::FromQt(QLocale::c().toString(QDate::currentDate(), QStringLiteral("dd MMM yyyy")));
 }
 
 std::string QtDesktop::ShortTime() {
     constexpr QChar narrowNoBreakSpace(0x202F);
-    return Text::FromQt(
-        QLocale().toString(QTime::currentTime(), QLocale::ShortFormat).replace(narrowNoBreakSpace, QLatin1Char(' ')));
+    const QTime now = QTime::currentTime();
+    std::string text =
+        Text::FromQt(QLocale().toString(now, QLocale::ShortFormat).replace(narrowNoBreakSpace, QLatin1Char(' ')));
+    // Not every country's time can be written in the code page.
+    return text.find('?') == std::string::npos ? text : Text::FromQt(now.toString(QStringLiteral("HH:mm")));
 }
 
 void QtDesktop::Beep() {

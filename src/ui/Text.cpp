@@ -1,6 +1,7 @@
 #include "ui/Text.h"
 
 #include "core/Ansi.h"
+#include "core/Lines.h"
 
 #include <QFile>
 
@@ -10,7 +11,7 @@ namespace Text {
 
 namespace {
 
-constexpr std::size_t LongestShown = 4000;
+constexpr std::size_t LongestShown = 2000;
 constexpr QChar Ellipsis(0x2026);
 
 // What is shown for a tab and for the other control characters. (Unicode has a symbol for each of them,
@@ -39,7 +40,15 @@ std::string FromQt(const QString& text) {
 }
 
 QString ForBox(std::string_view text) {
-    return Shortened(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    QString result;
+    Lines lines(text);
+    for (auto line = lines.Next(); line; line = lines.Next()) {
+        result += Shortened(*line) + QLatin1Char('\n');
+    }
+    if (!text.ends_with('\n')) {
+        result.chop(1);
+    }
+    return result;
 }
 
 QString ForList(std::string_view text) {

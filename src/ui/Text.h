@@ -12,7 +12,7 @@ namespace Text {
 [[nodiscard]] QString ToQt(std::string_view text);
 [[nodiscard]] std::string FromQt(const QString& text);
 
-// For message boxes and labels: CR LF as the toolkit's line break, and a text of unreasonable length
+// For message boxes and labels: CR LF as the toolkit's line break, and a line of unreasonable length
 // cut off with an ellipsis.
 [[nodiscard]] QString ForBox(std::string_view text);
 

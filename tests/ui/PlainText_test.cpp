@@ -104,7 +104,16 @@ TEST(TextTest, ATextOfUnreasonableLengthIsCutOff) {
         EXPECT_LT(shown.size(), 5000);
         EXPECT_TRUE(shown.endsWith(QChar(0x2026)));
     }
-    EXPECT_EQ(Text::ForList(std::string(4000, 'x')), QString(4000, QLatin1Char('x')));
+    EXPECT_EQ(Text::ForList(std::string(2000, 'x')), QString(2000, QLatin1Char('x')));
+}
+
+// What follows a long line in a prompt tells the user what to do.
+TEST(TextTest, ALineOfUnreasonableLengthDoesNotTakeTheOthersWithIt) {
+    const QString shown = Text::ForBox("First\r\n" + std::string(100000, 'x') + "\r\nQuit = Stop\r\n");
+    EXPECT_TRUE(shown.startsWith(QStringLiteral("First\nxxx")));
+    EXPECT_TRUE(shown.endsWith(QStringLiteral("\u2026\nQuit = Stop\n")));
+    EXPECT_EQ(Text::ForBox("a\r\nb"), QStringLiteral("a\nb"));
+    EXPECT_EQ(Text::ForBox(""), QString());
 }
 
 TEST(TextTest, EveryByteComesBackFromTheToolkit) {
