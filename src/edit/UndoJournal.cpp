@@ -35,7 +35,7 @@ bool ChangeBack(const UndoItem& item, std::span<const VariationRow> rows) {
         return false;
     }
     VariationInCurrentDistrict(slot).Text = item.sOldName;
-    return true;
+    return item.sOldName != item.sNewName;
 }
 
 bool Restore(std::string_view text) {

@@ -1,0 +1,63 @@
+#include "edit/Variations.h"
+
+#include "edit/EditTest.h"
+
+using namespace CommonRoutines;
+
+namespace {
+
+using VariationsTest = EditTest;
+
+} // namespace
+
+TEST_F(VariationsTest, TheFirstSlotWithATextIsFound) {
+    Show("North", {"Ash", "\t", "Elm", "\t", "Elm"});
+    EXPECT_EQ(FirstSlotWith("Ash"), 1);
+    EXPECT_EQ(FirstSlotWith("\t"), 2);
+    EXPECT_EQ(FirstSlotWith("Elm"), 3);
+    EXPECT_EQ(FirstSlotWith("elm"), 0);
+    EXPECT_EQ(FirstSlotWith("El"), 0);
+}
+
+TEST_F(VariationsTest, ElementZeroIsNoSlot) {
+    Show("North", {"Ash", "Elm"});
+    VariationAt(1, 0).Text = "Elm";
+    EXPECT_EQ(FirstSlotWith("Elm"), 2);
+}
+
+TEST_F(VariationsTest, SlotsBeyondTheCountAreNotFound) {
+    Show("North");
+    VariationAt(1, 1).Text = "Ash";
+    EXPECT_EQ(FirstSlotWith("Ash"), 0);
+}
+
+TEST_F(VariationsTest, ASlotIsAddedBehindTheLast) {
+    Show("North", {"Ash", "Elm"});
+    EXPECT_EQ(AddSlot(), 3);
+    EXPECT_EQ(Slots(), (Texts{"Ash", "Elm", ""}));
+}
+
+TEST_F(VariationsTest, ANewSlotIsEmptyWhateverWasLeftInIt) {
+    Show("North", {"Ash", "Elm"});
+    VariationAt(1, 2) = {"left", true, 1, true};
+    DistrictAt(1).lVariationCount = 1;
+    ASSERT_EQ(AddSlot(), 2);
+    EXPECT_EQ(VariationAt(1, 2).Text, "");
+    EXPECT_FALSE(VariationAt(1, 2).bDuplicate);
+    EXPECT_EQ(VariationAt(1, 2).lDuplicateOf, 0);
+    EXPECT_FALSE(VariationAt(1, 2).bUnusualCaps);
+    EXPECT_EQ(DistrictAt(1).Variations.size(), 3U);
+}
+
+TEST_F(VariationsTest, TheArrayGrowsByASlotAndTheSpareOnesOnlyWhenItIsFull) {
+    Show("North", {"Ash"});
+    AddSlot(10);
+    EXPECT_EQ(DistrictAt(1).Variations.size(), 13U);
+    for (int i = 3; i <= 12; ++i) {
+        EXPECT_EQ(AddSlot(10), i);
+        EXPECT_EQ(DistrictAt(1).Variations.size(), 13U);
+    }
+    AddSlot();
+    EXPECT_EQ(DistrictAt(1).Variations.size(), 14U);
+    EXPECT_EQ(Slots()[0], "Ash");
+}
