@@ -44,37 +44,41 @@ const DistrictRecord& DistrictAt(std::int32_t index) {
     return Districts[static_cast<std::size_t>(index)];
 }
 
+bool Same(const Comparable& a, const Comparable& b, std::int32_t districtA, std::int32_t districtB) {
+    if (a.base == DeletedText || b.base == DeletedText) {
+        return false;
+    }
+    if (!Ansi::EqualIgnoringCase(a.base, b.base)) {
+        return false;
+    }
+    const bool equalSuffixes = a.suffix == b.suffix;
+    if (!equalSuffixes && !a.suffix.empty() && !b.suffix.empty()) {
+        return false;
+    }
+    if (a.hasDate != b.hasDate) {
+        return false;
+    }
+    if (a.hasDate && !LifetimesOverlap(DistrictAt(districtA), DistrictAt(districtB))) {
+        return false;
+    }
+    const bool volumeMatters = (a.hasVolume || b.hasVolume) && districtA != districtB;
+    return !volumeMatters || equalSuffixes;
+}
+
 } // namespace
 
 bool SameVariation(std::string_view a, std::string_view b, std::int32_t districtA, std::int32_t districtB) {
-    StripMarkers(b); // callers find the markers of the second text in the shared state
-    const Comparable first(a);
-    const Comparable second(b);
-    if (first.base == DeletedText || second.base == DeletedText) {
-        return false;
-    }
-    if (!Ansi::EqualIgnoringCase(first.base, second.base)) {
-        return false;
-    }
-    const bool equalSuffixes = first.suffix == second.suffix;
-    if (!equalSuffixes && !first.suffix.empty() && !second.suffix.empty()) {
-        return false;
-    }
-    if (first.hasDate != second.hasDate) {
-        return false;
-    }
-    if (first.hasDate && !LifetimesOverlap(DistrictAt(districtA), DistrictAt(districtB))) {
-        return false;
-    }
-    const bool volumeMatters = (first.hasVolume || second.hasVolume) && districtA != districtB;
-    return !volumeMatters || equalSuffixes;
+    StripMarkers(b); // the markers of the second text stay in the shared state
+    return Same(Comparable(a), Comparable(b), districtA, districtB);
 }
 
 bool FindVariationInDistrict(std::string_view v) {
     const DistrictRecord& district = DistrictAt(lCurrentDistrict);
+    const Comparable sought(v);
+    StripMarkers(v);
     for (std::int32_t i = 1; i <= district.lVariationCount; ++i) {
-        if (SameVariation(district.Variations[static_cast<std::size_t>(i)].Text, v, lCurrentDistrict,
-                          lCurrentDistrict)) {
+        const Comparable stored(district.Variations[static_cast<std::size_t>(i)].Text);
+        if (Same(stored, sought, lCurrentDistrict, lCurrentDistrict)) {
             lFoundVariation = i;
             return true;
         }
