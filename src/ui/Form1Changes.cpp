@@ -95,6 +95,10 @@ void Form1::UpdateChangeSelection() {
 }
 
 void Form1::Apply(bool selectedOnly, bool asSpelling) {
+    // The buttons stay enabled when opening a file is cancelled, which leaves no district chosen.
+    if (!IsDistrict(lCurrentDistrict)) {
+        return;
+    }
     const auto applied = ApplyChanges(m_changes->Rows(), selectedOnly, asSpelling, m_desktop);
     if (!applied) {
         return;

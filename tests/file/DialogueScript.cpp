@@ -13,8 +13,10 @@ namespace {
 
 constexpr std::string_view CrLf = "\r\n";
 
-const std::map<std::string, BoxIcon> Icons{
-    {"critical", BoxIcon::Critical}, {"exclamation", BoxIcon::Exclamation}, {"information", BoxIcon::Information}};
+const std::map<std::string, BoxIcon> Icons{{"critical", BoxIcon::Critical},
+                                           {"question", BoxIcon::Question},
+                                           {"exclamation", BoxIcon::Exclamation},
+                                           {"information", BoxIcon::Information}};
 
 // A text of the script with its "\xHH" and "\\" replaced by what they stand for.
 std::string Unescape(std::string_view text) {
@@ -69,6 +71,8 @@ private:
             for (const std::string_view caption : Ansi::Split(rest, ',')) {
                 m_captions.emplace_back(Ansi::Trim(caption));
             }
+        } else if (line == "printable" && m_open && m_kind == "report") {
+            m_printable = true;
         } else if (line == "no prompts" && m_prompts == 0) {
             m_isSilent = true;
         } else {
@@ -86,6 +90,7 @@ private:
         m_detail = detail;
         m_texts.clear();
         m_captions.clear();
+        m_printable = false;
     }
 
     // Every "-" begins a new text, a ">" goes on with the last one in a new line.
@@ -101,6 +106,9 @@ private:
         m_texts.resize(m_kind == "report" ? m_texts.size() : 1);
         if (m_open && m_kind == "box" && answer == "ok") {
             m_desktop.ExpectBox(m_texts.front(), Icons.at(m_detail));
+        } else if (m_open && m_kind == "box" && (answer == "yes" || answer == "no")) {
+            m_desktop.ExpectBox(m_texts.front(), Icons.at(m_detail), BoxButtons::YesNo,
+                                answer == "yes" ? BoxAnswer::Yes : BoxAnswer::No);
         } else if (m_open && m_kind == "choice" && (answer == "press" || answer == "leave")) {
             m_desktop.ExpectChoice(m_texts.front(), m_captions, detail);
         } else if (m_open && m_kind == "input" && answer == "type") {
@@ -108,7 +116,7 @@ private:
         } else if (m_open && m_kind == "input" && answer == "cancel") {
             m_desktop.ExpectInput(m_texts.front(), std::nullopt);
         } else if (m_open && m_kind == "report" && answer == "close") {
-            m_desktop.ExpectReport(m_detail, m_texts, false);
+            m_desktop.ExpectReport(m_detail, m_texts, m_printable);
         } else {
             throw std::runtime_error("out of place: " + answer + ' ' + detail);
         }
@@ -123,6 +131,7 @@ private:
     std::string m_detail; // the icon of a box, the caption of a report
     std::vector<std::string> m_texts;
     std::vector<std::string> m_captions;
+    bool m_printable = false; // the report can be printed and saved
 };
 
 } // namespace

@@ -44,3 +44,19 @@ TEST(DialogueScript, EveryKindOfPromptIsPlayed) {
     EXPECT_EQ(desktop.InputBox("what"), std::nullopt);
     desktop.ShowReport({"The Report", {"one\r\nmore", "two"}, false});
 }
+
+TEST(DialogueScript, QuestionsAreAnsweredWithYesOrNo) {
+    ScriptedDesktop desktop;
+    EXPECT_EQ(ExpectDialogue("box question\n> sure\nyes\n\nbox question\n> sure\nno\n", desktop), "");
+    EXPECT_EQ(desktop.MsgBox("sure", BoxIcon::Question, BoxButtons::YesNo), BoxAnswer::Yes);
+    EXPECT_EQ(desktop.MsgBox("sure", BoxIcon::Question, BoxButtons::YesNo), BoxAnswer::No);
+    EXPECT_EQ(Problem("input\n> what\nyes\n"), "out of place: yes ");
+}
+
+TEST(DialogueScript, AReportMayBePrintable) {
+    ScriptedDesktop desktop;
+    EXPECT_EQ(ExpectDialogue("report One\n- item\nprintable\nclose\n\nreport Two\n- item\nclose\n", desktop), "");
+    desktop.ShowReport({"One", {"item"}, true});
+    desktop.ShowReport({"Two", {"item"}, false});
+    EXPECT_EQ(Problem("input\nprintable\n"), "out of place: printable ");
+}

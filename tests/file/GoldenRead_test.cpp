@@ -2,46 +2,12 @@
 #include "file/DistrictFileReader.h"
 #include "file/DistrictFileWriter.h"
 #include "rules/Capitals.h"
+#include "support/GoldenFolder.h"
 #include "support/ScriptedDesktop.h"
-#include "support/Table.h"
-
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <optional>
 
 using namespace CommonRoutines;
-namespace fs = std::filesystem;
 
 namespace {
-
-std::optional<std::string> ContentOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        return std::nullopt;
-    }
-    return std::string(std::istreambuf_iterator<char>(file), {});
-}
-
-std::vector<std::string> CaseNames() {
-    std::vector<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(QUEXAL_GOLDEN_DIR "/read")) {
-        if (entry.is_directory()) {
-            names.push_back(entry.path().filename().string());
-        }
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-std::string TestName(const testing::TestParamInfo<std::string>& info) {
-    std::string name = info.param;
-    std::replace_if(
-        name.begin(), name.end(), [](char c) { return std::string_view("-. ").find(c) != std::string_view::npos; },
-        '_');
-    return name;
-}
 
 std::string Counts() {
     return "lines " + std::to_string(lLineCount) + "\ndistricts " + std::to_string(lDistrictTotal) + "\ninvalid " +
@@ -49,10 +15,9 @@ std::string Counts() {
            (bChanged ? "yes" : "no") + "\nlast repair " + std::to_string(iRepairAction) + "\n";
 }
 
-class GoldenReadTest : public StateTest, public testing::WithParamInterface<std::string> {
+class GoldenReadTest : public Golden::Test {
 protected:
-    [[nodiscard]] fs::path Folder() const { return fs::path(QUEXAL_GOLDEN_DIR "/read") / GetParam(); }
-    [[nodiscard]] std::optional<std::string> Content(const char* name) const { return ContentOf(Folder() / name); }
+    GoldenReadTest() : Test("read") {}
 
     ScriptedDesktop m_desktop;
 };
@@ -85,4 +50,4 @@ TEST_P(GoldenReadTest, IsAskedReportedAndWrittenBackAsRecorded) {
     EXPECT_EQ(DistrictFileContent(), *saved);
 }
 
-INSTANTIATE_TEST_SUITE_P(Read, GoldenReadTest, testing::ValuesIn(CaseNames()), TestName);
+INSTANTIATE_TEST_SUITE_P(Read, GoldenReadTest, testing::ValuesIn(Golden::CaseNames("read")), Golden::TestName);

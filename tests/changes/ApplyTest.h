@@ -1,0 +1,78 @@
+#pragma once
+
+#include "changes/ApplyChanges.h"
+#include "edit/UndoJournal.h"
+#include "support/ScriptedDesktop.h"
+#include "support/Table.h"
+
+// A current district and an empty journal, and short ways to apply proposals to the one and look at
+// the other.
+class ApplyTest : public StateTest {
+protected:
+    using Rows = std::vector<CommonRoutines::ChangeRow>;
+    using Texts = std::vector<std::string>;
+
+    ApplyTest() {
+        CommonRoutines::ClearUndoRing();
+        CommonRoutines::iUndoStep = 1;
+        CommonRoutines::iEditMode = CommonRoutines::DistrictIdle;
+    }
+
+    // Makes a district and the one that proposals are applied to.
+    static void Choose(const std::string& name, const Texts& variations) {
+        CommonRoutines::lCurrentDistrict = AddDistrict(name, variations);
+    }
+
+    static CommonRoutines::ChangeRow Valid(std::string text) {
+        return {std::move(text), CommonRoutines::ChangeRow::Valid, false, false};
+    }
+    static CommonRoutines::ChangeRow Ticked(std::string text) {
+        return {std::move(text), CommonRoutines::ChangeRow::Valid, false, true};
+    }
+    static CommonRoutines::ChangeRow Invalid(std::string text) {
+        return {std::move(text), CommonRoutines::ChangeRow::Invalid, false, false};
+    }
+    static CommonRoutines::ChangeRow Heading(std::string text) {
+        return {std::move(text), CommonRoutines::ChangeRow::Heading, false, false};
+    }
+    // "Name 1", "Name 2" and so on, all of them valid.
+    static Rows Numbered(int count) {
+        Rows rows;
+        for (int i = 1; i <= count; ++i) {
+            rows.push_back(Valid("Name " + std::to_string(i)));
+        }
+        return rows;
+    }
+
+    // Applies all rows as they are.
+    CommonRoutines::AppliedChanges Apply(const Rows& rows) { return Apply(rows, false, false); }
+    CommonRoutines::AppliedChanges Apply(const Rows& rows, bool selectedOnly, bool asSpelling) {
+        const auto applied = CommonRoutines::ApplyChanges(rows, selectedOnly, asSpelling, desktop);
+        EXPECT_TRUE(applied.has_value());
+        return applied.value_or(CommonRoutines::AppliedChanges{});
+    }
+    void ExpectQuestion(int count, BoxAnswer answer) {
+        desktop.ExpectBox("Warning - That will add approximately " + std::to_string(count) +
+                              " Variations\r\nIs that what you want to do?",
+                          BoxIcon::Question, BoxButtons::YesNo, answer);
+    }
+
+    // The variations of the current district.
+    static Texts Variations() {
+        Texts texts;
+        for (std::int32_t i = 1; i <= DistrictAt(CommonRoutines::lCurrentDistrict).lVariationCount; ++i) {
+            texts.push_back(VariationAt(CommonRoutines::lCurrentDistrict, i).Text);
+        }
+        return texts;
+    }
+    // The duplicate pairs, each as "first = second".
+    static Texts Pairs() {
+        Texts pairs;
+        for (std::size_t i = 1; i <= static_cast<std::size_t>(CommonRoutines::lDupePairCount); ++i) {
+            pairs.push_back(CommonRoutines::DupePairs[i].First + " = " + CommonRoutines::DupePairs[i].Second);
+        }
+        return pairs;
+    }
+
+    ScriptedDesktop desktop;
+};

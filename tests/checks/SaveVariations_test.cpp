@@ -1,0 +1,69 @@
+#include "checks/SaveVariations.h"
+#include "support/ScriptedDesktop.h"
+
+#include <gtest/gtest.h>
+
+using namespace CommonRoutines;
+
+namespace {
+
+class SaveVariationsTest : public testing::Test {
+protected:
+    void Save(const std::vector<std::string>& variations) { SaveSelectedVariations(variations, desktop); }
+
+    ScriptedDesktop desktop;
+    const std::string path = "/data/chosen.txt";
+};
+
+} // namespace
+
+TEST_F(SaveVariationsTest, EveryVariationIsALineInTheOrderGiven) {
+    desktop.ExpectSave(path);
+    desktop.ExpectBox("3 Variations Saved to /data/chosen.txt", BoxIcon::Information);
+    Save({"Zeta", "!%Alfa%12", "Beta"});
+    EXPECT_EQ(desktop.files[path], "Zeta\r\n!%Alfa%12\r\nBeta\r\n");
+}
+
+TEST_F(SaveVariationsTest, TextsAreWrittenAsTheyAre) {
+    desktop.ExpectSave(path);
+    desktop.ExpectBox("2 Variations Saved to /data/chosen.txt", BoxIcon::Information);
+    Save({" blanks ", "caf\xE9\x80"});
+    EXPECT_EQ(desktop.files[path], " blanks \r\ncaf\xE9\x80\r\n");
+}
+
+TEST_F(SaveVariationsTest, WithoutVariationsAnEmptyFileIsWritten) {
+    desktop.files[path] = "old";
+    desktop.ExpectSave(path);
+    desktop.ExpectBox("0 Variations Saved to /data/chosen.txt", BoxIcon::Information);
+    Save({});
+    EXPECT_EQ(desktop.files[path], "");
+}
+
+TEST_F(SaveVariationsTest, TheDialogueProposesNoNameButAnExtension) {
+    desktop.ExpectSave(std::nullopt);
+    Save({"Elm"});
+    EXPECT_EQ(desktop.lastRequest.sTitle, "Open Variation Save File");
+    EXPECT_EQ(desktop.lastRequest.sFileName, "");
+    EXPECT_EQ(desktop.lastRequest.sDefaultExtension, "txt");
+}
+
+TEST_F(SaveVariationsTest, ACancelledDialogueWritesAndSaysNothing) {
+    desktop.ExpectSave(std::nullopt);
+    Save({"Elm"});
+    EXPECT_TRUE(desktop.files.empty());
+}
+
+TEST_F(SaveVariationsTest, AFileThatCannotBeWrittenIsNotSaidToBeSaved) {
+    desktop.canWrite = false;
+    desktop.ExpectSave(path);
+    desktop.ExpectBox("The file cannot be written:\r\n/data/chosen.txt", BoxIcon::Exclamation);
+    Save({"Elm"});
+    EXPECT_TRUE(desktop.files.empty());
+}
+
+TEST_F(SaveVariationsTest, AForeignFileNameIsShownInTheCodePage) {
+    desktop.ExpectSave("/data/\xC3\xA9t\xC3\xA9-\xE2\x82\xAC-\xCE\xA9.txt");
+    desktop.ExpectBox("1 Variations Saved to /data/\xE9t\xE9-\x80-?.txt", BoxIcon::Information);
+    Save({"Elm"});
+    EXPECT_EQ(desktop.files.count("/data/\xC3\xA9t\xC3\xA9-\xE2\x82\xAC-\xCE\xA9.txt"), 1U);
+}
