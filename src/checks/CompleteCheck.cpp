@@ -12,7 +12,7 @@ namespace {
 
 // Adds the district's name and all its slots to the keys.
 void AddKeys(std::int32_t lDistrict, std::vector<VariationKey>& keys) {
-    const DistrictRecord& record = Districts[static_cast<std::size_t>(lDistrict)];
+    const DistrictRecord& record = RecordOf(lDistrict);
     VariationKey name;
     name.Text = Ansi::Upper(record.Name);
     name.Key = name.Text;

@@ -35,8 +35,12 @@ bool bIgnoreEvents = false;
 std::int32_t lEditIndex = 0;
 std::int16_t iLastAction = NoAction;
 
+DistrictRecord& RecordOf(std::int32_t line) {
+    return Districts[static_cast<std::size_t>(line)];
+}
+
 bool IsDistrict(std::int32_t lDistrict) {
-    return lDistrict >= 1 && lDistrict <= lLineCount && !Districts[static_cast<std::size_t>(lDistrict)].bRetained;
+    return lDistrict >= 1 && lDistrict <= lLineCount && !RecordOf(lDistrict).bRetained;
 }
 
 void ResetState() {

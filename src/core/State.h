@@ -77,6 +77,9 @@ extern std::int32_t lEditIndex; // variation being edited, 0 for none
 enum PanelAction : std::int16_t { NoAction = 0, VariationSelected = 1, VariationDeleted = 2, AddStarted = 3 };
 extern std::int16_t iLastAction;
 
+// The record of a line, 1 to lLineCount.
+[[nodiscard]] DistrictRecord& RecordOf(std::int32_t line);
+
 // True when `lDistrict` names a district of the table (not a retained line, not beyond its end).
 [[nodiscard]] bool IsDistrict(std::int32_t lDistrict);
 

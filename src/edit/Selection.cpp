@@ -1,16 +1,13 @@
 #include "edit/Selection.h"
 
 #include "core/State.h"
+#include "edit/Variations.h"
 #include "rules/Capitals.h"
 #include "rules/Validation.h"
 
 namespace CommonRoutines {
 
 namespace {
-
-const VariationRecord& VariationAt(std::int32_t index) {
-    return Districts[static_cast<std::size_t>(lCurrentDistrict)].Variations[static_cast<std::size_t>(index)];
-}
 
 std::string ReasonFor(const VariationRecord& variation) {
     sInvalidReason.clear();
@@ -20,7 +17,7 @@ std::string ReasonFor(const VariationRecord& variation) {
         if (HasUnusualCapitals(variation.Text)) {
             sInvalidReason = "Unusual Capitals";
         } else if (variation.bDuplicate) {
-            sInvalidReason = "Duplicates " + VariationAt(variation.lDuplicateOf).Text;
+            sInvalidReason = "Duplicates " + VariationInCurrentDistrict(variation.lDuplicateOf).Text;
         }
     }
     return sInvalidReason.empty() ? sWarningReason : sInvalidReason;
@@ -33,7 +30,7 @@ SelectionView DescribeSelection(std::span<const VariationRow> selected) {
     bool other = false;
     bool date = false;
     for (const VariationRow& row : selected) {
-        const std::string_view text = VariationAt(row.lIndex).Text;
+        const std::string_view text = VariationInCurrentDistrict(row.lIndex).Text;
         const bool isSpelling = text.starts_with('!');
         spelling = spelling || isSpelling;
         other = other || !isSpelling;
@@ -41,7 +38,7 @@ SelectionView DescribeSelection(std::span<const VariationRow> selected) {
     }
     SelectionView view;
     if (!selected.empty()) {
-        view.reason = ReasonFor(VariationAt(selected.back().lIndex));
+        view.reason = ReasonFor(VariationInCurrentDistrict(selected.back().lIndex));
         view.reasonState = selected.back().state;
     }
     if (spelling && other) {

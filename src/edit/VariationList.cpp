@@ -46,7 +46,7 @@ VariationState StateOfVariation(const VariationRecord& variation, std::int32_t l
 }
 
 VariationList ListVariations(std::int32_t lDistrict) {
-    DistrictRecord& record = Districts[static_cast<std::size_t>(lDistrict)];
+    DistrictRecord& record = RecordOf(lDistrict);
     record.iQuestionCount = 0;
     record.lInvalidCount = 0;
     record.lWarningCount = 0;

@@ -5,7 +5,7 @@
 namespace CommonRoutines {
 
 DistrictRecord& CurrentDistrict() {
-    return Districts[static_cast<std::size_t>(lCurrentDistrict)];
+    return RecordOf(lCurrentDistrict);
 }
 
 VariationRecord& VariationInCurrentDistrict(std::int32_t slot) {

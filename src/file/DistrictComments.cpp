@@ -15,14 +15,10 @@ constexpr auto None = std::string_view::npos;
 // A break this close to the beginning of a row is none.
 constexpr std::size_t EarliestBreak = 4;
 
-const DistrictRecord& RecordAt(std::int32_t index) {
-    return Districts[static_cast<std::size_t>(index)];
-}
-
 // The retained lines directly above a district are its comment lines: the index of the first of them.
 std::int32_t FirstCommentLine(std::int32_t lDistrict) {
     std::int32_t line = lDistrict;
-    while (line > 1 && RecordAt(line - 1).bRetained) {
+    while (line > 1 && RecordOf(line - 1).bRetained) {
         --line;
     }
     return line;
@@ -60,7 +56,7 @@ std::size_t LastFittingBlank(std::string_view text, double room, const MeasureTe
 
 bool DistrictHasCommentType(std::int32_t lDistrict, std::string_view sType) {
     for (std::int32_t i = FirstCommentLine(lDistrict); i < lDistrict; ++i) {
-        const std::string_view line = RecordAt(i).Name;
+        const std::string_view line = RecordOf(i).Name;
         if (!Ansi::EqualIgnoringCase(line.substr(0, CommentMarker.size()), CommentMarker)) {
             continue;
         }
@@ -78,7 +74,7 @@ std::vector<CommentRow> CommentRows(std::int32_t lDistrict, double available, co
         return rows;
     }
     for (std::int32_t i = FirstCommentLine(lDistrict); i < lDistrict; ++i) {
-        const std::string_view line = RecordAt(i).Name;
+        const std::string_view line = RecordOf(i).Name;
         const std::size_t marker = FindMarker(line);
         if (marker == None) {
             continue;

@@ -75,7 +75,7 @@ DistrictRecord& FileRead::AddRecord() {
     if (lLineCount >= std::ssize(Districts)) {
         Districts.resize(static_cast<std::size_t>(lLineCount) + TableStep + 1);
     }
-    return Districts[static_cast<std::size_t>(lLineCount)];
+    return RecordOf(lLineCount);
 }
 
 void FileRead::Run(std::string_view content) {
@@ -219,7 +219,7 @@ void FileRead::RepairVariation(DistrictRecord& record, std::int32_t k) {
 }
 
 void FileRead::ReportLine() {
-    const std::string& name = Districts[static_cast<std::size_t>(lLineCount)].Name;
+    const std::string& name = RecordOf(lLineCount).Name;
     std::string message;
     // The count is the whole file's so far: once a blank variation has been met, every later line
     // repeats the sentence with its own name.

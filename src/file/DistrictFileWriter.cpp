@@ -10,7 +10,7 @@ namespace CommonRoutines {
 std::string DistrictFileContent() {
     std::string content;
     for (std::int32_t i = 1; i <= lLineCount; ++i) {
-        const DistrictRecord& record = Districts[static_cast<std::size_t>(i)];
+        const DistrictRecord& record = RecordOf(i);
         content += record.HeaderText;
         for (std::int32_t k = 1; k <= record.lVariationCount; ++k) {
             const VariationRecord& variation = record.Variations[static_cast<std::size_t>(k)];

@@ -12,14 +12,6 @@
 
 namespace CommonRoutines {
 
-namespace {
-
-const DistrictRecord& RecordAt(std::int32_t index) {
-    return Districts[static_cast<std::size_t>(index)];
-}
-
-} // namespace
-
 std::string DistrictCell(const DistrictRecord& record, std::size_t column) {
     switch (column) {
     case 0:
@@ -50,7 +42,7 @@ std::vector<std::int32_t> DistrictsByName() {
     std::vector<std::pair<std::string, std::int32_t>> keys;
     for (std::int32_t i = 1; i <= lLineCount; ++i) {
         if (IsDistrict(i)) {
-            keys.emplace_back(Ansi::Upper(RecordAt(i).Name), i);
+            keys.emplace_back(Ansi::Upper(RecordOf(i).Name), i);
         }
     }
     std::sort(keys.begin(), keys.end());
@@ -69,7 +61,7 @@ std::vector<std::int32_t> DistrictsOfType(std::span<const std::int32_t> district
 }
 
 void ReportDuplicatedDistricts(std::span<const std::int32_t> districts, Desktop& desktop) {
-    const auto baseName = [](std::int32_t district) { return Ansi::Trim(StripMarkers(RecordAt(district).Name)); };
+    const auto baseName = [](std::int32_t district) { return Ansi::Trim(StripMarkers(RecordOf(district).Name)); };
     for (std::size_t row = 1; row < districts.size(); ++row) {
         const std::string_view name = baseName(districts[row - 1]);
         if (!Ansi::EqualIgnoringCase(name, baseName(districts[row]))) {

@@ -91,7 +91,7 @@ bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPa
     if (bKeepPairs == false) {
         EmptyDupePairs();
     }
-    DistrictRecord& district = Districts[static_cast<std::size_t>(lDistrict)];
+    DistrictRecord& district = RecordOf(lDistrict);
     for (VariationRecord& variation : district.Variations) {
         variation.bDuplicate = false;
     }

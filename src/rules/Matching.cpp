@@ -40,10 +40,6 @@ bool LifetimesOverlap(const DistrictRecord& a, const DistrictRecord& b) {
     return true;
 }
 
-const DistrictRecord& DistrictAt(std::int32_t index) {
-    return Districts[static_cast<std::size_t>(index)];
-}
-
 bool Same(const Comparable& a, const Comparable& b, std::int32_t districtA, std::int32_t districtB) {
     if (a.base == DeletedText || b.base == DeletedText) {
         return false;
@@ -58,7 +54,7 @@ bool Same(const Comparable& a, const Comparable& b, std::int32_t districtA, std:
     if (a.hasDate != b.hasDate) {
         return false;
     }
-    if (a.hasDate && !LifetimesOverlap(DistrictAt(districtA), DistrictAt(districtB))) {
+    if (a.hasDate && !LifetimesOverlap(RecordOf(districtA), RecordOf(districtB))) {
         return false;
     }
     const bool volumeMatters = (a.hasVolume || b.hasVolume) && districtA != districtB;
@@ -73,7 +69,7 @@ bool SameVariation(std::string_view a, std::string_view b, std::int32_t district
 }
 
 bool FindVariationInDistrict(std::string_view v) {
-    const DistrictRecord& district = DistrictAt(lCurrentDistrict);
+    const DistrictRecord& district = RecordOf(lCurrentDistrict);
     const Comparable sought(v);
     StripMarkers(v);
     for (std::int32_t i = 1; i <= district.lVariationCount; ++i) {

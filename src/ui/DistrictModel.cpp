@@ -37,7 +37,7 @@ int DistrictModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant DistrictModel::data(const QModelIndex& index, int role) const {
-    const DistrictRecord& record = Districts[static_cast<std::size_t>(DistrictAt(index.row()))];
+    const DistrictRecord& record = RecordOf(DistrictAt(index.row()));
     const QString text = Text::ForList(DistrictCell(record, static_cast<std::size_t>(index.column())));
     const bool problem = DistrictHasProblem(record);
     switch (role) {

@@ -93,7 +93,7 @@ void Form1::FillDistrictList() {
     DistrictColumns columns(m_controls.lvAlpha->font());
     m_districtsByName = DistrictsByName();
     for (const std::int32_t district : m_districtsByName) {
-        columns.AddDistrictRow(Districts[static_cast<std::size_t>(district)]);
+        columns.AddDistrictRow(RecordOf(district));
     }
     m_districts->SetDistricts(m_districtsByName);
     ReportDuplicatedDistricts(m_districtsByName, m_desktop);

@@ -3,6 +3,7 @@
 #include "core/State.h"
 #include "edit/Selection.h"
 #include "edit/VariationList.h"
+#include "edit/Variations.h"
 #include "file/CommentTypes.h"
 #include "file/DistrictComments.h"
 #include "file/DistrictList.h"
@@ -36,7 +37,7 @@ void Form1::DistrictChosen() {
     lEditIndex = 0;
     RefreshVariationList();
     iEditMode = DistrictIdle;
-    const DistrictRecord& record = Districts[static_cast<std::size_t>(lCurrentDistrict)];
+    const DistrictRecord& record = RecordOf(lCurrentDistrict);
     m_controls.lbApplyTo->ShowText(Text::ForList(record.Name));
     ApplyWindowMode();
     ResetEditPanel();
@@ -58,8 +59,7 @@ void Form1::VariationsChosen() {
     lEditIndex = view.editIndex;
     if (lEditIndex > 0) {
         iLastAction = VariationSelected;
-        const DistrictRecord& record = Districts[static_cast<std::size_t>(lCurrentDistrict)];
-        PutIntoEditBox(Text::ToQt(record.Variations[static_cast<std::size_t>(lEditIndex)].Text));
+        PutIntoEditBox(Text::ToQt(VariationInCurrentDistrict(lEditIndex).Text));
     } else {
         PutIntoEditBox({});
     }

@@ -42,7 +42,7 @@ void VariationModel::RefreshRow(int row) {
 
 const VariationRecord& VariationModel::VariationAt(int row) const {
     const auto slot = static_cast<std::size_t>(m_rows[static_cast<std::size_t>(row)].lIndex);
-    return Districts[static_cast<std::size_t>(m_district)].Variations[slot];
+    return RecordOf(m_district).Variations[slot];
 }
 
 int VariationModel::rowCount(const QModelIndex& parent) const {
