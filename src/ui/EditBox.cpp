@@ -7,10 +7,23 @@
 
 #include <limits>
 
+namespace {
+
+// The text as the data file can hold it, in one line.
+QString Allowed(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    text.replace(QLatin1Char('\r'), QLatin1Char(' '));
+    text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return Text::ToQt(Text::FromQt(text));
+}
+
+} // namespace
+
 EditBox::EditBox(QWidget* parent) : QLineEdit(parent) {
     // A text of the file is never cut off, however long it is.
     setMaxLength(std::numeric_limits<int>::max());
     connect(this, &QLineEdit::textEdited, this, &EditBox::ReplaceForeignCharacters);
+    connect(this, &QLineEdit::textChanged, this, [this] { m_lastText = text(); });
 }
 
 bool EditBox::MayInsert(const QString& typed) const {
@@ -37,14 +50,18 @@ void EditBox::keyPressEvent(QKeyEvent* event) {
 }
 
 void EditBox::ReplaceForeignCharacters() {
-    QString allowed = text();
-    allowed.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
-    allowed.replace(QLatin1Char('\r'), QLatin1Char(' '));
-    allowed.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    allowed = Text::ToQt(Text::FromQt(allowed));
-    if (allowed != text()) {
-        const int caret = cursorPosition();
-        setText(allowed);
-        setCursorPosition(caret);
+    const QString allowed = Allowed(text());
+    if (allowed == text()) {
+        return;
     }
+    const qsizetype caret = Allowed(text().left(cursorPosition())).size();
+    // Setting a text forgets the typing. It is put back in two insertions, so that undo still finds
+    // something to take back here and does not reach past the box.
+    blockSignals(true);
+    setText({});
+    insert(m_lastText);
+    selectAll();
+    blockSignals(false);
+    insert(allowed);
+    setCursorPosition(static_cast<int>(caret));
 }

@@ -22,4 +22,6 @@ protected:
 private:
     [[nodiscard]] bool MayInsert(const QString& typed) const;
     void ReplaceForeignCharacters();
+
+    QString m_lastText; // the text before the edit being handled
 };

@@ -57,7 +57,8 @@ void Form1::ResetEditPanel() {
          {m_controls.cbSpelling, m_controls.cbVariation, m_controls.cbValidinyears, m_controls.cbVNF}) {
         box->setChecked(false);
     }
-    m_controls.tbEdit->clear();
+    // Clearing could be undone, which would bring a text back that was given up.
+    m_controls.tbEdit->setText({});
     bIgnoreEvents = false;
 }
 
@@ -150,12 +151,17 @@ void Form1::UndoClicked() {
         m_desktop.MsgBox("Please save your work and exit", BoxIcon::Critical);
         return;
     }
+    const bool boxShowsSelection = iEditMode == OneSelected;
     TakeBack(undone.item, m_variations->Rows());
     ShowNextUndo(DescribeNextUndo());
     FindDuplicateVariations(undone.lDistrict, false);
     RefreshVariationList();
-    // Where no variation is left, none is being edited any more.
-    if (iEditMode == EditingVariation) {
+    // The selection has gone with the old rows; a text that is being typed stays.
+    if (boxShowsSelection) {
+        ResetEditPanel();
+    }
+    // Where no variation is left, none is selected or edited any more.
+    if (iEditMode == OneSelected || iEditMode == SeveralSelected || iEditMode == EditingVariation) {
         iEditMode = DistrictIdle;
     }
     ApplyWindowMode();

@@ -82,6 +82,7 @@ void Form1::CommentTypeChosen() {
     }
     m_districts->SetDistricts({});
     m_variations->SetRows(0, {});
+    lEditIndex = 0;
     m_comments->SetRows({});
     // A filter change discards a loaded change file on purpose.
     ShowChanges({});
