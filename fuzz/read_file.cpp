@@ -1,0 +1,72 @@
+// Reads any bytes as a data file with any answers to its questions, then looks at everything that the
+// window would show of it. What is saved must come back the same when it is read and saved again.
+
+#include "QuietDesktop.h"
+
+#include "checks/CompleteCheck.h"
+#include "core/Ansi.h"
+#include "core/Lines.h"
+#include "core/State.h"
+#include "edit/VariationList.h"
+#include "file/CommentTypes.h"
+#include "file/DistrictComments.h"
+#include "file/DistrictFileReader.h"
+#include "file/DistrictFileWriter.h"
+#include "file/DistrictList.h"
+
+#include <cstdlib>
+
+using namespace CommonRoutines;
+
+namespace {
+
+std::string ReadAndSave(const std::string& content, std::string_view answers) {
+    ResetState();
+    CommentTypes.Reset();
+    QuietDesktop desktop(content, answers);
+    ReadDistrictFile(desktop);
+    return DistrictFileContent();
+}
+
+void LookAtEverything() {
+    QuietDesktop desktop("", "");
+    const std::vector<std::int32_t> districts = DistrictsByName();
+    ReportDuplicatedDistricts(districts, desktop);
+    for (const CommentType& type : CommentTypes.Items()) {
+        static_cast<void>(DistrictsOfType(districts, type.sType));
+    }
+    for (const std::int32_t district : districts) {
+        static_cast<void>(
+            CommentRows(district, 40, [](std::string_view text) { return static_cast<double>(text.size()); }));
+        static_cast<void>(ListVariations(district));
+    }
+    static_cast<void>(CompleteVariationCheck());
+}
+
+// Dropping an empty field at the end of a line may leave a blank there, which the next read trims.
+std::string LinesTrimmed(const std::string& content) {
+    std::string trimmed;
+    Lines lines(content);
+    while (const auto line = lines.Next()) {
+        trimmed += std::string(Ansi::Trim(*line)) + "\r\n";
+    }
+    return trimmed;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+    constexpr std::size_t answerCount = 4;
+    if (size < answerCount) {
+        return 0;
+    }
+    const std::string_view input(reinterpret_cast<const char*>(data), size);
+    const std::string saved = ReadAndSave(std::string(input.substr(answerCount)), input.substr(0, answerCount));
+    LookAtEverything();
+    const bool repaired = bChanged;
+    const std::string again = ReadAndSave(saved, "");
+    if (!repaired && !bChanged && again != LinesTrimmed(saved)) {
+        std::abort();
+    }
+    return 0;
+}
