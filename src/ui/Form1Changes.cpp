@@ -51,6 +51,7 @@ void Form1::ProcessClicked() {
 void Form1::ShowChanges(std::vector<ChangeRow> rows) {
     m_changes->SetRows(std::move(rows));
     m_controls.lbSelectCount->ShowText({});
+    m_controls.cbEditSel->setEnabled(false);
 }
 
 void Form1::ChangeTicked() {
@@ -122,7 +123,8 @@ void Form1::EditSelClicked() {
 
 void Form1::ClearSelClicked() {
     m_changes->UncheckAll();
-    for (QPushButton* button : {m_controls.cbClearSel, m_controls.cbApplySelected, m_controls.cbApplySelSpell}) {
+    for (QPushButton* button :
+         {m_controls.cbClearSel, m_controls.cbApplySelected, m_controls.cbApplySelSpell, m_controls.cbEditSel}) {
         button->setEnabled(false);
     }
     for (QPushButton* button : {m_controls.cbApplyAll, m_controls.cbApplyAllSpell}) {

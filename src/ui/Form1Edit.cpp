@@ -27,6 +27,11 @@ void Form1::EditTextChanged() {
         return;
     }
     m_controls.lbWhyError->ShowText({});
+    if (!IsDistrict(lCurrentDistrict)) {
+        // The controls stay as they are: a file whose reopening was cancelled can still be saved.
+        UpdateMarkerOptions();
+        return;
+    }
     const TextChange change = FollowText(Text::FromQt(m_controls.tbEdit->text()));
     if (change.status) {
         m_controls.lbStatus->ShowText(Text::ForBox(*change.status));
@@ -89,6 +94,7 @@ void Form1::OkClicked() {
 }
 
 void Form1::CancelClicked() {
+    m_controls.lbWhyError->ShowText({});
     PutIntoEditBox({});
     ReturnToIdle();
     // The button is disabled now; the focus must not fall just anywhere.
@@ -149,9 +155,13 @@ void Form1::UndoClicked() {
     if (undone.lDistrict != lCurrentDistrict && !GoToDistrict(undone.lDistrict)) {
         m_desktop.MsgBox("Undo crash - Failed to find District " + std::to_string(undone.lDistrict), BoxIcon::Critical);
         m_desktop.MsgBox("Please save your work and exit", BoxIcon::Critical);
+        ShowNextUndo(DescribeNextUndo());
         return;
     }
-    const bool boxShowsSelection = iEditMode == OneSelected;
+    const bool boxShowsSelection = iEditMode == OneSelected || (iEditMode == DistrictIdle && lEditIndex > 0);
+    if (m_variations->rowCount() == 0) {
+        RefreshVariationList(); // a filter may have cleared the list, in which the change is looked for
+    }
     TakeBack(undone.item, m_variations->Rows());
     ShowNextUndo(DescribeNextUndo());
     FindDuplicateVariations(undone.lDistrict, false);

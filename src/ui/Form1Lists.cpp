@@ -86,6 +86,9 @@ void Form1::CommentTypeChosen() {
     m_comments->SetRows({});
     // A filter change discards a loaded change file on purpose.
     ShowChanges({});
+    if (iEditMode == DistrictIdle) {
+        ApplyWindowMode(); // its commands go with it
+    }
     m_controls.lbApplyTo->ShowText({});
     m_controls.lbWhyError->ShowText({});
     // The columns are already as wide as the widest row of the whole file.

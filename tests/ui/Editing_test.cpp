@@ -68,15 +68,20 @@ TEST_F(EditingTest, TypingWhileNothingIsSelectedAnyMoreStartsAnAdd) {
     EXPECT_EQ(Slots(), "|Alfa|Betta|Gamma");
 }
 
+// The controls stay as they were, too: what is in memory can still be saved.
 TEST_F(EditingTest, WithoutADistrictTypingStartsNothing) {
     OpenDistrict();
+    Add(QStringLiteral("Gamma"));
+    desktop.ExpectBox("This will loose your changes.\r\nAre you sure you want to do this?", BoxIcon::Question,
+                      BoxButtons::YesNo, BoxAnswer::Yes);
     desktop.ExpectOpen(std::nullopt);
     Click("cbOpen");
     ASSERT_EQ(lCurrentDistrict, 0);
     ASSERT_TRUE(Enabled("tbEdit"));
     Type(QStringLiteral("G"));
     EXPECT_EQ(iEditMode, NothingOpen);
-    ExpectEnabled("cbOpen");
+    EXPECT_TRUE(Enabled("cbSave"));
+    EXPECT_FALSE(Enabled("cbOk"));
 }
 
 TEST_F(EditingTest, ASpellingOfTheDistrictIsNamedAndCannotBeStored) {

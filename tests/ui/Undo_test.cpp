@@ -170,6 +170,24 @@ TEST_F(UndoTest, ATextBeingTypedOutlivesAnUndo) {
     EXPECT_EQ(Box().text(), QStringLiteral("Delta"));
 }
 
+TEST_F(UndoTest, AChangeIsTakenBackAlsoWhenAFilterHasClearedTheList) {
+    Edit(QStringLiteral("Alfa"), QStringLiteral("Alpho"));
+    ClickRow("lbComments", QStringLiteral(" All"));
+    ASSERT_EQ(Column("lvVariations"), QStringList());
+    Click("cbUndo");
+    EXPECT_TRUE(Column("lvVariations").contains(QStringLiteral("Alfa")));
+    EXPECT_FALSE(Column("lvVariations").contains(QStringLiteral("Alpho")));
+}
+
+TEST_F(UndoTest, TheBoxForgetsAMarkedVariationWhenTheMarkIsTakenBack) {
+    Select(QStringLiteral("Alfa"));
+    Click("cbShriek");
+    ASSERT_EQ(Box().text(), QStringLiteral("!Alfa"));
+    Click("cbUndo");
+    EXPECT_EQ(Box().text(), QString());
+    EXPECT_EQ(lEditIndex, 0);
+}
+
 TEST_F(UndoTest, AChangeOfADistrictThatIsFilteredAwayIsLostWithTwoBoxes) {
     Add(QStringLiteral("Gamma"));
     Edit(QStringLiteral("Betta"), QStringLiteral("Gamma"));
