@@ -79,7 +79,6 @@ void Form1::AddClicked() {
 void Form1::OkClicked() {
     CommitText(Text::FromQt(m_controls.tbEdit->text()), m_desktop);
     ShowNextUndo(CurrentUndoStep().WhatAmI());
-    PutIntoEditBox({});
     if (bWarning) {
         m_desktop.Beep();
         m_controls.lbWhyError->SetBackground(StateColours::BlueGreen);
@@ -95,7 +94,6 @@ void Form1::OkClicked() {
 
 void Form1::CancelClicked() {
     m_controls.lbWhyError->ShowText({});
-    PutIntoEditBox({});
     ReturnToIdle();
     // The button is disabled now; the focus must not fall just anywhere.
     m_controls.lvAlpha->setFocus();
@@ -116,7 +114,6 @@ void Form1::DeleteClicked() {
     if (confirmed) {
         DeleteVariations(rows, m_desktop);
         ShowNextUndo(CurrentUndoStep().WhatAmI());
-        PutIntoEditBox({});
         RefreshVariationList();
     }
     ReturnToIdle();
