@@ -40,8 +40,8 @@ bool AddProposal(std::string_view proposal, bool asSpelling, Desktop& desktop) {
         return false;
     }
     const bool needsShriek = asSpelling && !proposal.starts_with('!');
-    std::string& text = VariationInCurrentDistrict(AddSlot(SpareSlots)).Text;
-    text = (needsShriek ? "!" : "") + std::string(proposal);
+    const std::string text = (needsShriek ? "!" : "") + std::string(proposal);
+    AddSlot(text, SpareSlots);
     CurrentUndoStep().NewItem({text, UndoAdd, ""}, lCurrentDistrict, desktop);
     return true;
 }

@@ -1,59 +1,51 @@
 #include "checks/CompleteCheck.h"
 
-#include "core/Ansi.h"
 #include "core/State.h"
-#include "rules/Duplicates.h"
-#include "rules/Markers.h"
-#include "rules/Matching.h"
+#include "rules/VariationKeys.h"
+
+#include <vector>
 
 namespace CommonRoutines {
 
 namespace {
 
-// Adds the district's name and all its slots to the keys.
-void AddKeys(std::int32_t lDistrict, std::vector<VariationKey>& keys) {
-    const DistrictRecord& record = RecordOf(lDistrict);
-    VariationKey name;
-    name.Text = Ansi::Upper(record.Name);
-    name.Key = name.Text;
-    name.DistrictName = record.Name;
-    name.lDistrict = lDistrict;
-    name.bIsName = true;
-    keys.push_back(std::move(name));
-    for (std::int32_t k = 1; k <= record.lVariationCount; ++k) {
-        VariationKey key;
-        key.Text = record.Variations[static_cast<std::size_t>(k)].Text;
-        key.Key = Ansi::Upper(StripMarkers(key.Text));
-        key.DistrictName = record.Name;
-        key.lIndex = k;
-        key.lDistrict = lDistrict;
-        keys.push_back(std::move(key));
+// The names and all slots of all districts, sorted, behind an element that is never used.
+std::vector<VariationKey> SortedKeys() {
+    std::size_t count = 1;
+    for (std::int32_t i = 1; i <= lLineCount; ++i) {
+        count += IsDistrict(i) ? static_cast<std::size_t>(RecordOf(i).lVariationCount) + 1 : 0;
     }
+    std::vector<VariationKey> keys(1);
+    keys.reserve(count);
+    for (std::int32_t i = 1; i <= lLineCount; ++i) {
+        if (!IsDistrict(i)) {
+            continue;
+        }
+        keys.push_back(KeyOfName(i));
+        for (std::int32_t k = 1; k <= RecordOf(i).lVariationCount; ++k) {
+            keys.push_back(KeyOfVariation(i, k));
+        }
+    }
+    SortVariationKeys(keys, 1, static_cast<std::int32_t>(std::ssize(keys)) - 1);
+    return keys;
 }
 
 std::string Finding(const VariationKey& key, const VariationKey& next) {
-    if (key.DistrictName == next.DistrictName) {
-        return key.DistrictName + " contains a duplicate variation - " + key.Text;
+    const std::string name(key.DistrictName());
+    if (name == next.DistrictName()) {
+        return name + " contains a duplicate variation - " + key.Text();
     }
-    return key.DistrictName + " and " + next.DistrictName + " both use the variation " + key.Text;
+    return name + " and " + std::string(next.DistrictName()) + " both use the variation " + key.Text();
 }
 
 } // namespace
 
 Report CompleteVariationCheck() {
-    std::vector<VariationKey> keys(1); // element 0 is never used
-    for (std::int32_t i = 1; i <= lLineCount; ++i) {
-        if (IsDistrict(i)) {
-            AddKeys(i, keys);
-        }
-    }
-    SortVariationKeys(keys, 1, static_cast<std::int32_t>(std::ssize(keys)) - 1);
+    const std::vector<VariationKey> keys = SortedKeys();
     Report report;
     for (std::size_t j = 1; j + 1 < keys.size(); ++j) {
-        const VariationKey& key = keys[j];
-        const VariationKey& next = keys[j + 1];
-        if (SameVariation(key.Text, next.Text, key.lDistrict, next.lDistrict)) {
-            report.Items.push_back(Finding(key, next));
+        if (SameSpelling(keys[j], keys[j + 1])) {
+            report.Items.push_back(Finding(keys[j], keys[j + 1]));
         }
     }
     if (report.Items.empty()) {

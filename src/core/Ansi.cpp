@@ -121,13 +121,17 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
 }
 
 std::string_view TrimLeft(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string_view::npos ? text.substr(text.size()) : text.substr(first);
+    while (text.starts_with(' ')) {
+        text.remove_prefix(1);
+    }
+    return text;
 }
 
 std::string_view Trim(std::string_view text) {
-    text = TrimLeft(text);
-    return text.substr(0, text.find_last_not_of(' ') + 1);
+    while (text.ends_with(' ')) {
+        text.remove_suffix(1);
+    }
+    return TrimLeft(text);
 }
 
 std::string_view FirstWord(std::string_view text) {
@@ -136,14 +140,17 @@ std::string_view FirstWord(std::string_view text) {
 
 std::vector<std::string_view> Split(std::string_view text, char separator) {
     std::vector<std::string_view> pieces;
-    for (;;) {
-        const auto end = text.find(separator);
+    SplitInto(pieces, text, separator);
+    return pieces;
+}
+
+void SplitInto(std::vector<std::string_view>& pieces, std::string_view text, char separator) {
+    pieces.clear();
+    for (auto end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
         pieces.push_back(text.substr(0, end));
-        if (end == std::string_view::npos) {
-            return pieces;
-        }
         text.remove_prefix(end + 1);
     }
+    pieces.push_back(text);
 }
 
 char16_t ToUnicode(char c) {

@@ -3,6 +3,7 @@
 namespace CommonRoutines {
 
 std::vector<DistrictRecord> Districts;
+std::int32_t lTableNumber = 0;
 std::int32_t lLineCount = 0;
 std::string sDataFileName;
 bool bChanged = false;
@@ -27,6 +28,7 @@ std::string sMarkerSuffix;
 std::int32_t lFoundVariation = 0;
 
 std::vector<std::string> LowerCaseWords;
+std::unordered_set<std::string> LowerCaseWordSet;
 std::int32_t lLowerCaseWordCount = 0;
 
 std::int16_t iEditMode = NothingOpen;
@@ -45,6 +47,7 @@ bool IsDistrict(std::int32_t lDistrict) {
 
 void ResetState() {
     Districts.clear();
+    ++lTableNumber;
     lLineCount = 0;
     sDataFileName.clear();
     bChanged = false;
@@ -60,6 +63,7 @@ void ResetState() {
     sMarkerSuffix.clear();
     lFoundVariation = 0;
     LowerCaseWords.clear();
+    LowerCaseWordSet.clear();
     lLowerCaseWordCount = 0;
     iEditMode = NothingOpen;
     bIgnoreEvents = false;

@@ -8,12 +8,14 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace CommonRoutines {
 
 // The table and its file.
 extern std::vector<DistrictRecord> Districts; // filled by ReadDistrictFile, changed by every edit
+extern std::int32_t lTableNumber;             // raised when the table is filled anew; what is kept about it ends then
 extern std::int32_t lLineCount;               // lines in use; written by ReadDistrictFile, dropped to 0 after Quit
 extern std::string sDataFileName;             // full path, in the machine's own encoding; written by "Open File"
 extern bool bChanged;                 // unsaved changes; set by every edit and repair, cleared by opening and saving
@@ -54,6 +56,7 @@ extern std::int32_t lFoundVariation;
 
 // Words that need no capital, 1 to lLowerCaseWordCount; written by LoadLowerCaseWords.
 extern std::vector<std::string> LowerCaseWords;
+extern std::unordered_set<std::string> LowerCaseWordSet; // the same words, to be looked up
 extern std::int32_t lLowerCaseWordCount;
 
 // What the main window is doing; written by its handlers, read by ApplyWindowMode and ValidateVariation.

@@ -99,12 +99,11 @@ void CommitText(std::string_view text, Desktop& desktop) {
     const std::string trimmed(Ansi::Trim(text));
     if (iEditMode == AddingAcceptable) {
         RecordChange(UndoAdd, trimmed, "", desktop);
-        VariationInCurrentDistrict(AddSlot()).Text = trimmed;
+        AddSlot(trimmed);
         iEditMode = DistrictIdle;
     } else if (iEditMode == EditingVariation && lEditIndex > 0) {
-        VariationRecord& variation = VariationInCurrentDistrict(lEditIndex);
-        RecordChange(UndoChange, trimmed, variation.Text, desktop);
-        variation.Text = trimmed;
+        RecordChange(UndoChange, trimmed, VariationInCurrentDistrict(lEditIndex).Text, desktop);
+        StoreText(lEditIndex, trimmed);
         iEditMode = DistrictIdle;
     }
     bWarning = false;
@@ -115,7 +114,7 @@ void CommitText(std::string_view text, Desktop& desktop) {
 
 std::string DeleteQuestion(std::span<const VariationRow> rows) {
     if (rows.size() == 1) {
-        const std::string& text = VariationInCurrentDistrict(rows.front().lIndex).Text;
+        const std::string_view text = VariationInCurrentDistrict(rows.front().lIndex).Text;
         return "Are you sure you want to delete variation " + std::string(Ansi::Trim(text));
     }
     return "Are you sure you want to delete these " + std::to_string(rows.size()) + " variations?";
@@ -123,9 +122,8 @@ std::string DeleteQuestion(std::span<const VariationRow> rows) {
 
 void DeleteVariations(std::span<const VariationRow> rows, Desktop& desktop) {
     for (const VariationRow& row : rows) {
-        std::string& text = VariationInCurrentDistrict(row.lIndex).Text;
-        RecordChange(UndoDelete, text, "", desktop);
-        text = DeletedText;
+        RecordChange(UndoDelete, VariationInCurrentDistrict(row.lIndex).Text, "", desktop);
+        StoreText(row.lIndex, DeletedText);
     }
     bChanged = true;
     lEditIndex = 0;

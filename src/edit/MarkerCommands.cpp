@@ -47,11 +47,11 @@ std::string WithMarker(MarkerCommand command, std::string_view text) {
 
 void ChangeMarkers(MarkerCommand command, std::span<const VariationRow> rows, Desktop& desktop) {
     for (const VariationRow& row : rows) {
-        std::string& text = VariationInCurrentDistrict(row.lIndex).Text;
+        const std::string_view text = VariationInCurrentDistrict(row.lIndex).Text;
         const std::string changed = WithMarker(command, text);
         // The journal has the text without blanks at its ends although the table keeps them.
         RecordChange(UndoChange, Ansi::Trim(changed), text, desktop);
-        text = changed;
+        StoreText(row.lIndex, changed);
         bChanged = true;
     }
 }

@@ -15,11 +15,9 @@ namespace {
 // Takes back an add: all equal texts go, since the item does not say which one was added.
 bool FreeSlotsWith(std::string_view text) {
     bool changed = false;
-    DistrictRecord& district = CurrentDistrict();
-    for (std::int32_t i = 1; i <= district.lVariationCount; ++i) {
-        VariationRecord& variation = district.Variations[static_cast<std::size_t>(i)];
-        if (variation.Text == text) {
-            variation.Text = DeletedText;
+    for (std::int32_t slot = 1; slot <= CurrentDistrict().lVariationCount; ++slot) {
+        if (VariationInCurrentDistrict(slot).Text == text) {
+            StoreText(slot, DeletedText);
             changed = true;
         }
     }
@@ -34,13 +32,16 @@ bool ChangeBack(const UndoItem& item, std::span<const VariationRow> rows) {
     if (slot == 0) {
         return false;
     }
-    VariationInCurrentDistrict(slot).Text = item.sOldName;
+    StoreText(slot, item.sOldName);
     return item.sOldName != item.sNewName;
 }
 
 bool Restore(std::string_view text) {
-    const std::int32_t freeSlot = FirstSlotWith(DeletedText);
-    VariationInCurrentDistrict(freeSlot > 0 ? freeSlot : AddSlot()).Text = text;
+    if (const std::int32_t freeSlot = FirstSlotWith(DeletedText); freeSlot > 0) {
+        StoreText(freeSlot, text);
+    } else {
+        AddSlot(text);
+    }
     return true;
 }
 

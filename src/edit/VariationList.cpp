@@ -1,20 +1,13 @@
 #include "edit/VariationList.h"
 
-#include "core/Ansi.h"
 #include "core/State.h"
+#include "core/UpperCase.h"
 #include "rules/Capitals.h"
 #include "rules/Validation.h"
-
-#include <algorithm>
 
 namespace CommonRoutines {
 
 namespace {
-
-struct SortedRow {
-    std::string upperText;
-    VariationRow row;
-};
 
 std::string Summary(const DistrictRecord& record) {
     std::string summary;
@@ -51,24 +44,21 @@ VariationList ListVariations(std::int32_t lDistrict) {
     record.lInvalidCount = 0;
     record.lWarningCount = 0;
 
-    std::vector<SortedRow> sorted;
+    const auto variationAt = [&](std::int32_t i) -> const VariationRecord& {
+        return record.Variations[static_cast<std::size_t>(i)];
+    };
+    VariationList list;
     for (std::int32_t i = 1; i <= record.lVariationCount; ++i) {
-        const VariationRecord& variation = record.Variations[static_cast<std::size_t>(i)];
-        if (variation.IsDeleted()) {
+        if (variationAt(i).IsDeleted()) {
             continue;
         }
-        const VariationState state = StateOfVariation(variation, lDistrict);
+        const VariationState state = StateOfVariation(variationAt(i), lDistrict);
         record.lInvalidCount += state == VariationState::Invalid ? 1 : 0;
         record.lWarningCount += state == VariationState::Warning ? 1 : 0;
-        sorted.push_back({Ansi::Upper(variation.Text), {i, state}});
+        list.rows.push_back({i, state});
     }
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const SortedRow& a, const SortedRow& b) { return a.upperText < b.upperText; });
-
-    VariationList list;
-    list.rows.reserve(sorted.size());
-    std::transform(sorted.begin(), sorted.end(), std::back_inserter(list.rows),
-                   [](const SortedRow& row) { return row.row; });
+    Ansi::SortByUpperCase(list.rows,
+                          [&](const VariationRow& row) -> std::string_view { return variationAt(row.lIndex).Text; });
     list.summary = Summary(record);
     return list;
 }

@@ -1,6 +1,9 @@
 #include "edit/Variations.h"
 
 #include "core/State.h"
+#include "rules/SpellingIndex.h"
+
+#include <utility>
 
 namespace CommonRoutines {
 
@@ -22,16 +25,23 @@ std::int32_t FirstSlotWith(std::string_view text) {
     return 0;
 }
 
-std::int32_t AddSlot(std::int32_t spare) {
+void StoreText(std::int32_t slot, std::string_view text) {
+    Ansi::String& stored = VariationInCurrentDistrict(slot).Text;
+    const Ansi::String before = std::exchange(stored, text);
+    SpellingChanged(lCurrentDistrict, slot, before, stored);
+}
+
+std::int32_t AddSlot(std::string_view text, std::int32_t spare) {
     DistrictRecord& district = CurrentDistrict();
     ++district.lVariationCount;
     if (district.lVariationCount >= std::ssize(district.Variations)) {
         district.Variations.resize(static_cast<std::size_t>(district.lVariationCount) + 1 +
                                    static_cast<std::size_t>(spare));
     }
-    // A slot left from before may hold anything.
-    VariationInCurrentDistrict(district.lVariationCount) = {};
-    return district.lVariationCount;
+    const std::int32_t slot = district.lVariationCount;
+    VariationInCurrentDistrict(slot) = {}; // one left from before may hold anything
+    StoreText(slot, text);
+    return slot;
 }
 
 } // namespace CommonRoutines

@@ -16,8 +16,12 @@ namespace CommonRoutines {
 // The first slot with exactly this text; 0 when there is none.
 [[nodiscard]] std::int32_t FirstSlotWith(std::string_view text);
 
-// Adds an empty slot behind the last one and returns it, making room for `spare` more when the array
-// has to grow.
-std::int32_t AddSlot(std::int32_t spare = 0);
+// Gives the variation in a slot another text. Everything that changes a variation after reading comes
+// through here or through AddSlot, so that what is kept about the texts follows.
+void StoreText(std::int32_t slot, std::string_view text);
+
+// Adds a slot with a text behind the last one and returns it, making room for `spare` more when the
+// array has to grow.
+std::int32_t AddSlot(std::string_view text, std::int32_t spare = 0);
 
 } // namespace CommonRoutines

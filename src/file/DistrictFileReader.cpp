@@ -46,14 +46,18 @@ private:
     void ReadVariations(DistrictRecord& record);
     void ReadVariation(DistrictRecord& record, std::int32_t k);
     void RepairVariation(DistrictRecord& record, std::int32_t k);
+    void SetField(std::int32_t k, std::string text);
     void ReportLine();
     void ShowReport();
 
-    std::string& Field(std::int32_t k) { return m_fields[static_cast<std::size_t>(k)]; }
+    std::string_view& Field(std::int32_t k) { return m_fields[static_cast<std::size_t>(k)]; }
     void Complain(std::string_view text) { m_desktop.MsgBox(text, BoxIcon::Exclamation); }
 
     Desktop& m_desktop;
-    std::vector<std::string> m_fields; // of the line being read
+    // The fields of the line being read, as parts of the file's content; once a repair has changed one
+    // of them, as parts of texts of their own.
+    std::vector<std::string_view> m_fields;
+    std::vector<std::string> m_repairedFields; // empty until then
     Report m_report{"Read File Results", {}, false};
     bool m_hasMessages = false;
     bool m_stopped = false; // the user quit the repair dialogue
@@ -67,7 +71,9 @@ VariationRecord& VariationOf(DistrictRecord& record, std::int32_t k) {
 }
 
 VariationRecord DeletedSlot() {
-    return {std::string(DeletedText), false, 0, false};
+    VariationRecord slot;
+    slot.Text = DeletedText;
+    return slot;
 }
 
 DistrictRecord& FileRead::AddRecord() {
@@ -119,7 +125,8 @@ void FileRead::ReadComment(std::string_view line, DistrictRecord& record) {
 }
 
 void FileRead::ReadDistrict(std::string_view line, DistrictRecord& record) {
-    SplitFields(line, m_fields);
+    Ansi::SplitInto(m_fields, line, '|');
+    m_repairedFields.clear();
     if (FillHeader(record, Field(0), MaxDistrictParts) != HeaderResult::Filled) {
         Complain("Line " + Number(lLineCount) +
                  " is incomplete but has been retained in the file.  It will not be available for editing.\r\n" +
@@ -147,7 +154,7 @@ void FileRead::ReadLineWithoutHeader(std::string_view line, DistrictRecord& reco
     Retain(record, line);
     if (header == HeaderResult::WrongPartCount) {
         // Saving is expected to turn such a line into an empty one.
-        record.HeaderText.clear();
+        record.HeaderText = "";
     }
 }
 
@@ -168,11 +175,11 @@ void FileRead::ReadVariation(DistrictRecord& record, std::int32_t k) {
         return;
     }
     variation.Text = Field(k);
-    if (!CheckQuestionMark(variation.Text)) {
+    if (Field(k).find('?') != std::string_view::npos && !CheckQuestionMark(Field(k))) {
         ++record.iQuestionCount;
     }
     bool bNullDistrict = false;
-    if (!ValidateVariation(variation.Text, lLineCount, &bNullDistrict)) {
+    if (!ValidateVariation(Field(k), lLineCount, &bNullDistrict)) {
         ++lInvalidTotal;
         ++record.lInvalidCount;
         if (bNullDistrict) {
@@ -193,10 +200,14 @@ void FileRead::ReadVariation(DistrictRecord& record, std::int32_t k) {
 }
 
 void FileRead::RepairVariation(DistrictRecord& record, std::int32_t k) {
-    if (!RepairNullVariation(record, m_fields, k, lLineCount, m_desktop)) {
+    if (m_repairedFields.empty()) {
+        m_repairedFields.assign(m_fields.begin(), m_fields.end());
+    }
+    if (!RepairNullVariation(record, m_repairedFields, k, lLineCount, m_desktop)) {
         m_stopped = true;
         return;
     }
+    SetField(k, m_repairedFields[static_cast<std::size_t>(k)]);
     --record.lInvalidCount;
     switch (iRepairAction) {
     case CombinePrevious:
@@ -204,7 +215,7 @@ void FileRead::RepairVariation(DistrictRecord& record, std::int32_t k) {
         VariationOf(record, k) = DeletedSlot();
         break;
     case CombineNext:
-        Field(k + 1) = Field(k); // read again as the next variation
+        SetField(k + 1, std::string(Field(k))); // read again as the next variation
         VariationOf(record, k).Text = DeletedText;
         break;
     case Remove:
@@ -218,8 +229,14 @@ void FileRead::RepairVariation(DistrictRecord& record, std::int32_t k) {
     }
 }
 
+void FileRead::SetField(std::int32_t k, std::string text) {
+    std::string& field = m_repairedFields[static_cast<std::size_t>(k)];
+    field = std::move(text);
+    Field(k) = field;
+}
+
 void FileRead::ReportLine() {
-    const std::string& name = RecordOf(lLineCount).Name;
+    const Ansi::String& name = RecordOf(lLineCount).Name;
     std::string message;
     // The count is the whole file's so far: once a blank variation has been met, every later line
     // repeats the sentence with its own name.
@@ -252,9 +269,10 @@ void FileRead::ShowReport() {
 void ReadDistrictFile(Desktop& desktop) {
     desktop.ShowBusy(true);
     desktop.EnterProgramFolder();
-    const auto content = desktop.ReadFile(sDataFileName);
-    Districts.clear();
+    Districts = {}; // before the file is read, so that two files are never in memory at once
+    ++lTableNumber;
     lLineCount = 0;
+    const auto content = desktop.ReadFile(sDataFileName);
     lDistrictTotal = lInvalidTotal = lCapsOkTotal = 0;
     bChanged = false;
     iRepairAction = NoRepair;

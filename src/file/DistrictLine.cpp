@@ -31,18 +31,9 @@ bool IsSpecialQuarter(std::int16_t quarter) {
 
 } // namespace
 
-void SplitFields(std::string_view line, std::vector<std::string>& fields) {
-    const std::size_t count = 1 + static_cast<std::size_t>(std::count(line.begin(), line.end(), '|'));
-    fields.resize(count);
-    for (std::string& field : fields) {
-        const auto end = std::min(line.find('|'), line.size());
-        field.assign(line.substr(0, end));
-        line.remove_prefix(std::min(end + 1, line.size()));
-    }
-}
-
 HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size_t maxParts) {
-    const std::vector<std::string_view> parts = Ansi::Split(text, '+');
+    static std::vector<std::string_view> parts; // kept for its memory
+    Ansi::SplitInto(parts, text, '+');
     if (parts.size() < MinHeaderParts || parts.size() > maxParts) {
         return HeaderResult::WrongPartCount;
     }
@@ -61,25 +52,26 @@ HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size
     record.Abolished = *abolished;
     record.QtrA = *quarterAbolished;
     record.HeaderText = text;
-    for (std::size_t part = FirstExtraPart; part < parts.size(); ++part) {
-        record.Extra[part - FirstExtraPart + 1] = parts[part];
-    }
+    record.Extra.Assign(text.substr(static_cast<std::size_t>(parts[FirstExtraPart].data() - text.data())));
     return HeaderResult::Filled;
 }
 
 std::vector<std::string> QuarterComplaints(const DistrictRecord& record) {
-    const std::string district = "District " + record.Name;
-    const std::string abolishedAndQuarter =
-        std::to_string(record.Abolished) + " with an invalid quarter=" + std::to_string(record.QtrA);
     std::vector<std::string> complaints;
+    const auto complain = [&](const std::string& about) {
+        complaints.push_back("District " + record.Name + " has " + about);
+    };
+    const auto abolishedAndQuarter = [&] {
+        return std::to_string(record.Abolished) + " with an invalid quarter=" + std::to_string(record.QtrA);
+    };
     if (record.QtrA == AbandonedQuarter && record.Abolished == NoYear) {
-        complaints.push_back(district + " has a abandoned Quarter of 5 with a non-abandoned year");
+        complain("a abandoned Quarter of 5 with a non-abandoned year");
     }
     if (IsSpecialQuarter(record.QtrA) && record.Abolished != NoYear) {
-        complaints.push_back(district + " has an abandoned year of " + abolishedAndQuarter);
+        complain("an abandoned year of " + abolishedAndQuarter());
     }
     if (IsSpecialQuarter(record.QtrF) && record.Founded != NoYear) {
-        complaints.push_back(district + " has a founded year of " + abolishedAndQuarter);
+        complain("a founded year of " + abolishedAndQuarter());
     }
     return complaints;
 }

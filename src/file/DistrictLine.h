@@ -8,9 +8,6 @@
 
 namespace CommonRoutines {
 
-// Cuts a line at its "|" into texts of their own, reusing those already in `fields`.
-void SplitFields(std::string_view line, std::vector<std::string>& fields);
-
 enum class HeaderResult { Filled, WrongPartCount, NotANumber };
 
 // Fills the header fields of a record from the "+"-separated header of a district. `text` must have

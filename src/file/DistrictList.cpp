@@ -3,12 +3,12 @@
 #include "core/Ansi.h"
 #include "core/Desktop.h"
 #include "core/State.h"
+#include "core/UpperCase.h"
 #include "file/DistrictComments.h"
 #include "rules/Markers.h"
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 namespace CommonRoutines {
 
@@ -39,16 +39,14 @@ bool DistrictHasProblem(const DistrictRecord& record) {
 }
 
 std::vector<std::int32_t> DistrictsByName() {
-    std::vector<std::pair<std::string, std::int32_t>> keys;
+    std::vector<std::int32_t> districts;
+    districts.reserve(static_cast<std::size_t>(lDistrictTotal));
     for (std::int32_t i = 1; i <= lLineCount; ++i) {
         if (IsDistrict(i)) {
-            keys.emplace_back(Ansi::Upper(RecordOf(i).Name), i);
+            districts.push_back(i);
         }
     }
-    std::sort(keys.begin(), keys.end());
-    std::vector<std::int32_t> districts;
-    districts.reserve(keys.size());
-    std::transform(keys.begin(), keys.end(), std::back_inserter(districts), [](const auto& key) { return key.second; });
+    Ansi::SortByUpperCase(districts, [](std::int32_t i) -> std::string_view { return RecordOf(i).Name; });
     return districts;
 }
 
@@ -61,16 +59,16 @@ std::vector<std::int32_t> DistrictsOfType(std::span<const std::int32_t> district
 }
 
 void ReportDuplicatedDistricts(std::span<const std::int32_t> districts, Desktop& desktop) {
-    const auto baseName = [](std::int32_t district) { return Ansi::Trim(StripMarkers(RecordOf(district).Name)); };
-    for (std::size_t row = 1; row < districts.size(); ++row) {
-        const std::string_view name = baseName(districts[row - 1]);
-        if (!Ansi::EqualIgnoringCase(name, baseName(districts[row]))) {
-            continue;
+    std::string_view nameBefore;
+    for (std::size_t row = 0; row < districts.size(); ++row) {
+        const std::string_view name = Ansi::Trim(StripMarkers(RecordOf(districts[row]).Name));
+        if (row > 0 && Ansi::EqualIgnoringCase(nameBefore, name)) {
+            const std::string text = "District " + std::string(nameBefore) + " is duplicated in that file";
+            if (desktop.MsgBox(text, BoxIcon::Critical, BoxButtons::OkCancel) == BoxAnswer::Cancel) {
+                return;
+            }
         }
-        const std::string text = "District " + std::string(name) + " is duplicated in that file";
-        if (desktop.MsgBox(text, BoxIcon::Critical, BoxButtons::OkCancel) == BoxAnswer::Cancel) {
-            return;
-        }
+        nameBefore = name;
     }
 }
 

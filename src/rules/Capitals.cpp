@@ -7,6 +7,7 @@
 #include "rules/Markers.h"
 
 #include <algorithm>
+#include <array>
 
 namespace CommonRoutines {
 
@@ -20,11 +21,31 @@ void AddLowerCaseWord(std::string_view word) {
         LowerCaseWords.resize(static_cast<std::size_t>(lLowerCaseWordCount) + WordListStep + 1);
     }
     LowerCaseWords[static_cast<std::size_t>(lLowerCaseWordCount)] = Ansi::Lower(word);
+    LowerCaseWordSet.insert(Ansi::Lower(word));
 }
 
-// A closing parenthesis is no separator: it stays at the end of its word, where it does no harm.
-bool IsSeparator(char c) {
-    return std::string_view("\t -.,(/'").find(c) != std::string_view::npos;
+// What a character means to the check. A closing parenthesis is no separator: it stays at the end of
+// its word, where it does no harm.
+enum CharacterKind : std::uint8_t { KindOther = 0, KindSeparator = 1, KindCapital = 2, KindSmall = 4 };
+
+const std::array<std::uint8_t, 256> KindTable = [] {
+    std::array<std::uint8_t, 256> table{};
+    for (std::size_t code = 0; code < table.size(); ++code) {
+        const char c = static_cast<char>(code);
+        table[code] = Ansi::Lower(c) != c ? KindCapital : Ansi::Upper(c) != c ? KindSmall : KindOther;
+    }
+    for (const char c : std::string_view("\t -.,(/'")) {
+        table[static_cast<unsigned char>(c)] = KindSeparator;
+    }
+    return table;
+}();
+
+unsigned KindOf(char c) {
+    return KindTable[static_cast<unsigned char>(c)];
+}
+
+bool Holds(std::string_view text, CharacterKind kind) {
+    return std::any_of(text.begin(), text.end(), [=](char c) { return (KindOf(c) & kind) != 0; });
 }
 
 // How many characters at the front of a word are expected in capitals: the first one, or a whole
@@ -34,18 +55,12 @@ std::size_t ExpectedCapitals(std::string_view word) {
 }
 
 bool IsExpectedForm(std::string_view word) {
-    const auto split = word.begin() + static_cast<std::ptrdiff_t>(ExpectedCapitals(word));
-    return std::all_of(word.begin(), split, [](char c) { return Ansi::Upper(c) == c; }) &&
-           std::all_of(split, word.end(), [](char c) { return Ansi::Lower(c) == c; });
+    const std::size_t capitals = ExpectedCapitals(word);
+    return !Holds(word.substr(0, capitals), KindSmall) && !Holds(word.substr(capitals), KindCapital);
 }
 
 bool IsLowerCaseWord(std::string_view word) {
-    if (lLowerCaseWordCount == 0) {
-        return false;
-    }
-    const auto first = LowerCaseWords.begin() + 1;
-    const auto end = first + lLowerCaseWordCount;
-    return std::find(first, end, Ansi::Lower(word)) != end;
+    return !LowerCaseWordSet.empty() && LowerCaseWordSet.contains(Ansi::Lower(word));
 }
 
 } // namespace
@@ -53,6 +68,7 @@ bool IsLowerCaseWord(std::string_view word) {
 void LoadLowerCaseWords(Desktop& desktop) {
     desktop.EnterProgramFolder();
     LowerCaseWords.clear();
+    LowerCaseWordSet.clear();
     lLowerCaseWordCount = 0;
     const auto content = desktop.ReadFile(desktop.ProgramFolder() + "/qx_lower.txt");
     if (!content) {
@@ -73,9 +89,11 @@ void LoadLowerCaseWords(Desktop& desktop) {
 
 bool HasUnusualCapitals(std::string_view variation) {
     std::string_view name = Ansi::Trim(StripMarkers(variation));
-    name.remove_prefix(std::min(name.find_first_not_of("!%"), name.size()));
+    while (name.starts_with('!') || name.starts_with('%')) {
+        name.remove_prefix(1);
+    }
     for (auto from = name.begin(); from != name.end();) {
-        const auto to = std::find_if(from, name.end(), IsSeparator);
+        const auto to = std::find_if(from, name.end(), [](char c) { return KindOf(c) == KindSeparator; });
         const std::string_view word(from, to);
         if (!word.empty() && !IsExpectedForm(word) && !IsLowerCaseWord(word)) {
             return true;

@@ -2,10 +2,13 @@
 
 #include "core/Ansi.h"
 #include "core/State.h"
+#include "core/UpperCase.h"
 #include "rules/Markers.h"
-#include "rules/Matching.h"
+#include "rules/VariationKeys.h"
 
-#include <utility>
+#include <algorithm>
+#include <cstdint>
+#include <vector>
 
 namespace CommonRoutines {
 
@@ -13,66 +16,44 @@ namespace {
 
 constexpr std::size_t DupePairStep = 5;
 
-using Keys = std::vector<VariationKey>;
+// Up to this many texts, comparing each with each is faster than sorting them.
+constexpr std::size_t FewTexts = 48;
 
-VariationKey& At(Keys& keys, std::int32_t index) {
-    return keys[static_cast<std::size_t>(index)];
-}
-
-struct Partition {
-    std::int32_t lowerEnd;   // the lower part is from the low end to here
-    std::int32_t upperBegin; // the upper part is from here to the high end
-};
-
-Partition PartitionByMiddle(Keys& keys, std::int32_t low, std::int32_t high) {
-    const std::string pivot = At(keys, (low + high) / 2).Key;
-    std::int32_t i = low;
-    std::int32_t j = high;
-    while (i <= j) {
-        while (At(keys, i).Key < pivot && i != high) {
-            ++i;
-        }
-        while (pivot < At(keys, j).Key && j != low) {
-            --j;
-        }
-        if (i > j) {
-            break;
-        }
-        std::swap(At(keys, i), At(keys, j));
-        ++i;
-        --j;
+bool AnyTwoAreEqual(std::vector<std::uint64_t>& numbers) {
+    if (numbers.size() > FewTexts) {
+        std::sort(numbers.begin(), numbers.end());
+        return std::adjacent_find(numbers.begin(), numbers.end()) != numbers.end();
     }
-    return {j, i};
+    for (auto number = numbers.begin(); number != numbers.end(); ++number) {
+        if (std::find(number + 1, numbers.end(), *number) != numbers.end()) {
+            return true;
+        }
+    }
+    return false;
 }
 
-Keys KeysOfDistrict(const DistrictRecord& district, std::int32_t lDistrict) {
-    Keys keys(static_cast<std::size_t>(district.lVariationCount) + 1);
+// Whether two variations have the same base name, case and blanks around it aside. Without that no two
+// can be the same spelling, and most districts need not be sorted.
+bool RepeatsABaseName(const DistrictRecord& district) {
+    static std::vector<std::uint64_t> hashes; // kept for its memory
+    hashes.clear();
     for (std::int32_t i = 1; i <= district.lVariationCount; ++i) {
-        VariationKey& key = At(keys, i);
-        key.lIndex = i;
-        key.Text = district.Variations[static_cast<std::size_t>(i)].Text;
-        key.Key = Ansi::Upper(StripMarkers(key.Text));
-        key.lDistrict = lDistrict;
+        const MarkerParts parts = SplitMarkers(district.Variations[static_cast<std::size_t>(i)].Text);
+        hashes.push_back(Ansi::HashUpper(Ansi::Trim(parts.base)));
     }
+    return AnyTwoAreEqual(hashes);
+}
+
+std::vector<VariationKey> SortedKeys(std::int32_t lDistrict, std::int32_t count) {
+    std::vector<VariationKey> keys(1); // element 0 is never used
+    for (std::int32_t i = 1; i <= count; ++i) {
+        keys.push_back(KeyOfVariation(lDistrict, i));
+    }
+    SortVariationKeys(keys, 1, count);
     return keys;
 }
 
 } // namespace
-
-void SortVariationKeys(std::vector<VariationKey>& Keys, std::int32_t lLow, std::int32_t lHigh) {
-    // The two parts do not touch each other, so the smaller one may go first: the stack then never
-    // grows deeper than the logarithm of the length, however unlucky the pivots are.
-    while (lLow < lHigh) {
-        const Partition parts = PartitionByMiddle(Keys, lLow, lHigh);
-        if (parts.lowerEnd - lLow < lHigh - parts.upperBegin) {
-            SortVariationKeys(Keys, lLow, parts.lowerEnd);
-            lLow = parts.upperBegin;
-        } else {
-            SortVariationKeys(Keys, parts.upperBegin, lHigh);
-            lHigh = parts.lowerEnd;
-        }
-    }
-}
 
 void EmptyDupePairs() {
     DupePairs.assign(DupePairStep + 1, {});
@@ -84,7 +65,7 @@ void AddDupePair(std::string_view first, std::string_view second) {
     if (lDupePairCount >= std::ssize(DupePairs)) {
         DupePairs.resize(static_cast<std::size_t>(lDupePairCount) + DupePairStep + 1);
     }
-    DupePairs[static_cast<std::size_t>(lDupePairCount)] = {std::string(first), std::string(second)};
+    DupePairs[static_cast<std::size_t>(lDupePairCount)] = {first, second};
 }
 
 bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPairs) {
@@ -96,25 +77,23 @@ bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPa
         variation.bDuplicate = false;
     }
     district.iDuplicateCount = 0;
-    if (district.lVariationCount < 2) {
+    if (district.lVariationCount < 2 || !RepeatsABaseName(district)) {
         return false;
     }
-    Keys keys = KeysOfDistrict(district, lDistrict);
-    SortVariationKeys(keys, 1, district.lVariationCount);
-
+    const std::vector<VariationKey> keys = SortedKeys(lDistrict, district.lVariationCount);
     const auto markDuplicate = [&](const VariationKey& of, const VariationKey& partner) {
         VariationRecord& variation = district.Variations[static_cast<std::size_t>(of.lIndex)];
         variation.bDuplicate = true;
         variation.lDuplicateOf = partner.lIndex;
     };
-    for (std::int32_t j = 1; j < district.lVariationCount; ++j) {
-        const VariationKey& key = At(keys, j);
-        const VariationKey& next = At(keys, j + 1);
-        if (SameVariation(key.Text, next.Text, key.lDistrict, next.lDistrict)) {
+    for (std::size_t j = 1; j + 1 < keys.size(); ++j) {
+        const VariationKey& key = keys[j];
+        const VariationKey& next = keys[j + 1];
+        if (SameSpelling(key, next)) {
             ++district.iDuplicateCount;
             markDuplicate(key, next);
             markDuplicate(next, key);
-            AddDupePair(key.Text, next.Text);
+            AddDupePair(key.Text(), next.Text());
         }
     }
     return district.iDuplicateCount >= 1;

@@ -9,26 +9,33 @@ namespace CommonRoutines {
 
 namespace {
 
-constexpr std::string_view MarkerCharacters = "!%";
-
+bool IsMarker(char c) {
+    return c == '!' || c == '%';
 }
 
+} // namespace
+
+// Runs several times for every variation of a file. Texts are short, so plain loops beat searches.
 MarkerParts SplitMarkers(std::string_view variation) {
     const std::string_view text = Ansi::Trim(variation);
-    const auto afterRun = std::min(text.find_first_not_of(MarkerCharacters), text.size());
+    const auto afterRun = static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), IsMarker) - text.begin());
     const std::string_view rest = Ansi::TrimLeft(text.substr(afterRun));
 
     // A marker that opens the rest (behind a blank) belongs to the base name.
-    const auto marker = rest.find_first_of(MarkerCharacters);
-    const auto suffixAt = marker == std::string_view::npos || marker == 0 ? rest.size() : marker;
+    const auto marker = static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), IsMarker) - rest.begin());
+    const std::size_t suffixAt = marker == 0 ? rest.size() : marker;
     return {text.substr(0, afterRun), rest.substr(0, suffixAt), rest.substr(suffixAt)};
 }
 
-std::string_view StripMarkers(std::string_view variation) {
+MarkerParts LeaveMarkers(std::string_view variation) {
     const MarkerParts parts = SplitMarkers(variation);
     sMarkerPrefix = parts.prefix;
     sMarkerSuffix = parts.suffix;
-    return parts.base;
+    return parts;
+}
+
+std::string_view StripMarkers(std::string_view variation) {
+    return LeaveMarkers(variation).base;
 }
 
 MarkerOptions MarkerOptionsOf(std::string_view text) {

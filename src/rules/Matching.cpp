@@ -3,27 +3,14 @@
 #include "core/Ansi.h"
 #include "core/State.h"
 #include "rules/Markers.h"
+#include "rules/Spelling.h"
+#include "rules/SpellingIndex.h"
 
 namespace CommonRoutines {
 
 namespace {
 
 constexpr auto None = std::string_view::npos;
-
-struct Comparable {
-    std::string_view base;
-    std::string_view suffix;
-    bool hasDate;
-    bool hasVolume;
-
-    explicit Comparable(std::string_view variation) {
-        const MarkerParts parts = SplitMarkers(variation);
-        base = Ansi::Trim(parts.base);
-        suffix = Ansi::Trim(parts.suffix);
-        hasDate = parts.prefix.find('%') != None;
-        hasVolume = suffix.find('%') != None;
-    }
-};
 
 // Whether the years of the two districts overlap. Where one begins in the year that the other ends,
 // the quarters decide; only one of the two such cases is looked at, also when both hold.
@@ -40,8 +27,22 @@ bool LifetimesOverlap(const DistrictRecord& a, const DistrictRecord& b) {
     return true;
 }
 
-bool Same(const Comparable& a, const Comparable& b, std::int32_t districtA, std::int32_t districtB) {
-    if (a.base == DeletedText || b.base == DeletedText) {
+} // namespace
+
+Spelling::Spelling(std::string_view variation) {
+    const MarkerParts parts = SplitMarkers(variation);
+    base = Ansi::Trim(parts.base);
+    suffix = Ansi::Trim(parts.suffix);
+    hasDate = parts.prefix.find('%') != None;
+    hasVolume = suffix.find('%') != None;
+}
+
+bool Spelling::IsDeleted() const {
+    return base == DeletedText;
+}
+
+bool SameSpelling(const Spelling& a, const Spelling& b, std::int32_t districtA, std::int32_t districtB) {
+    if (a.IsDeleted() || b.IsDeleted()) {
         return false;
     }
     if (!Ansi::EqualIgnoringCase(a.base, b.base)) {
@@ -61,25 +62,18 @@ bool Same(const Comparable& a, const Comparable& b, std::int32_t districtA, std:
     return !volumeMatters || equalSuffixes;
 }
 
-} // namespace
-
 bool SameVariation(std::string_view a, std::string_view b, std::int32_t districtA, std::int32_t districtB) {
     StripMarkers(b); // the markers of the second text stay in the shared state
-    return Same(Comparable(a), Comparable(b), districtA, districtB);
+    return SameSpelling(Spelling(a), Spelling(b), districtA, districtB);
 }
 
 bool FindVariationInDistrict(std::string_view v) {
-    const DistrictRecord& district = RecordOf(lCurrentDistrict);
-    const Comparable sought(v);
     StripMarkers(v);
-    for (std::int32_t i = 1; i <= district.lVariationCount; ++i) {
-        const Comparable stored(district.Variations[static_cast<std::size_t>(i)].Text);
-        if (Same(stored, sought, lCurrentDistrict, lCurrentDistrict)) {
-            lFoundVariation = i;
-            return true;
-        }
+    if (const std::int32_t slot = CurrentSpellings().FirstSlotWith(Spelling(v)); slot > 0) {
+        lFoundVariation = slot;
+        return true;
     }
-    return SameVariation(v, district.Name, lCurrentDistrict, lCurrentDistrict);
+    return SameVariation(v, RecordOf(lCurrentDistrict).Name, lCurrentDistrict, lCurrentDistrict);
 }
 
 } // namespace CommonRoutines

@@ -2,6 +2,7 @@
 
 #include "core/Ansi.h"
 #include "core/State.h"
+#include "rules/CharacterClasses.h"
 #include "rules/Markers.h"
 
 #include <string>
@@ -64,22 +65,26 @@ bool RefuseNullDistrict(bool* bNullDistrict) {
 }
 
 // The rules that only note a failure, so that the last one that fails gives the reason.
-bool CheckPunctuation(std::string_view variation, std::string_view trimmed) {
+bool CheckPunctuation(std::string_view variation, std::string_view trimmed, unsigned classes) {
     bool valid = true;
-    const auto shriek = trimmed.find('!');
-    if (trimmed.rfind('!') != shriek) {
-        valid = Refuse("Multiple !'s");
+    if ((classes & ClassShriek) != 0) {
+        const auto shriek = trimmed.find('!');
+        if (trimmed.rfind('!') != shriek) {
+            valid = Refuse("Multiple !'s");
+        }
+        // The position is that in the trimmed text, the character that of the untrimmed one: behind a
+        // leading blank, which is refused below anyway, this looks one character early.
+        if (IsBlankAt(variation, shriek + 1)) {
+            valid = Refuse("Space after !");
+        }
     }
-    // The position is that in the trimmed text, the character that of the untrimmed one: behind a
-    // leading blank, which is refused below anyway, this looks one character early.
-    if (shriek != None && IsBlankAt(variation, shriek + 1)) {
-        valid = Refuse("Space after !");
-    }
-    if (variation.find("% ") != None) {
-        valid = Refuse("Space after %");
-    }
-    if (variation.find(" %") != None) {
-        valid = Refuse("Space before %");
+    if ((classes & ClassPercent) != 0) {
+        if (variation.find("% ") != None) {
+            valid = Refuse("Space after %");
+        }
+        if (variation.find(" %") != None) {
+            valid = Refuse("Space before %");
+        }
     }
     if (variation.starts_with(' ')) {
         valid = Refuse("Leading space");
@@ -90,12 +95,16 @@ bool CheckPunctuation(std::string_view variation, std::string_view trimmed) {
     return valid;
 }
 
+bool HasBadQuestionMark(std::string_view base) {
+    return base.find('?') != None && Ansi::Trim(base).size() > 1;
+}
+
 // Characters of a name that somebody could not read belong into a spelling mistake.
-void WarnOfMissingShriek(std::string_view variation) {
+void WarnOfMissingShriek(const MarkerParts& parts, unsigned classes) {
     bWarning = false;
     sWarningReason.clear();
-    const std::string_view base = StripMarkers(variation);
-    if (base.find_first_of("_*[]{}") != None && sMarkerPrefix.find('!') == None) {
+    const bool doubtful = (classes & ClassDoubtful) != 0 && parts.base.find_first_of("_*[]{}") != None;
+    if (doubtful && parts.prefix.find('!') == None) {
         bWarning = true;
         sWarningReason = "Should have !";
     }
@@ -126,38 +135,38 @@ bool CheckCharacters(std::string_view variation) {
 } // namespace
 
 bool CheckQuestionMark(std::string_view variation) {
-    const std::string_view base = StripMarkers(variation);
-    if (base.find('?') != None && Ansi::Trim(base).size() > 1) {
-        return Refuse("Question Mark");
-    }
-    return true;
+    return !HasBadQuestionMark(StripMarkers(variation)) || Refuse("Question Mark");
 }
 
 bool ValidateVariation(std::string_view variation, [[maybe_unused]] std::int32_t position, bool* bNullDistrict) {
     if (bNullDistrict != nullptr) {
         *bNullDistrict = false;
     }
-    if (variation.find('|') != None) {
+    const unsigned classes = CharacterClassesIn(variation);
+    if ((classes & ClassPipe) != 0) {
         return Refuse("Invalid Char - |");
     }
     const std::string_view trimmed = Ansi::Trim(variation);
-    const PercentSigns percent(trimmed);
-    if (IsPercentWithoutName(trimmed, percent)) {
-        return RefuseNullDistrict(bNullDistrict);
-    }
-    if (IsBadDependency(trimmed, percent)) {
-        return Refuse("Invalid VNF dependency format");
+    if ((classes & ClassPercent) != 0) {
+        const PercentSigns percent(trimmed);
+        if (IsPercentWithoutName(trimmed, percent)) {
+            return RefuseNullDistrict(bNullDistrict);
+        }
+        if (IsBadDependency(trimmed, percent)) {
+            return Refuse("Invalid VNF dependency format");
+        }
     }
     const bool endsInOnlyShriek = trimmed.ends_with('!') && trimmed.find('!') + 1 == trimmed.size();
     if (endsInOnlyShriek) {
         return RefuseNullDistrict(bNullDistrict);
     }
-    bool valid = CheckPunctuation(variation, trimmed);
-    if (valid) {
-        valid = CheckQuestionMark(variation);
+    bool valid = CheckPunctuation(variation, trimmed, classes);
+    const MarkerParts parts = LeaveMarkers(variation);
+    if (valid && (classes & ClassQuestion) != 0 && HasBadQuestionMark(parts.base)) {
+        valid = Refuse("Question Mark");
     }
-    WarnOfMissingShriek(variation);
-    return CheckCharacters(variation) && valid;
+    WarnOfMissingShriek(parts, classes);
+    return ((classes & (ClassControl | ClassUnusual)) == 0 || CheckCharacters(variation)) && valid;
 }
 
 } // namespace CommonRoutines

@@ -231,7 +231,7 @@ TEST_F(ApplyChangesTest, AFullArrayGrowsWithRoomForFiftyMore) {
 TEST_F(ApplyChangesTest, ADistrictWithoutVariationsUsesItsFirstSlot) {
     Choose("Alpha", {});
     ASSERT_EQ(DistrictAt(lCurrentDistrict).Variations.size(), 2U);
-    VariationAt(lCurrentDistrict, 1) = {"left over", true, 7, true};
+    VariationAt(lCurrentDistrict, 1) = {"left over", true, true, 7};
     Apply({Valid("Elm")});
     EXPECT_EQ(DistrictAt(lCurrentDistrict).Variations.size(), 2U);
     EXPECT_EQ(Variations(), Texts{"Elm"});

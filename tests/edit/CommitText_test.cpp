@@ -60,7 +60,7 @@ TEST_F(CommitTextTest, ANewVariationDoesNotTouchTheOneAtTheEditIndex) {
 
 TEST_F(CommitTextTest, ADistrictWithoutVariationsGetsItsFirstInSlotOne) {
     Show("Empty");
-    VariationAt(lCurrentDistrict, 1) = {"left from before", true, 9, true};
+    VariationAt(lCurrentDistrict, 1) = {"left from before", true, true, 9};
     Add("Yew");
     EXPECT_EQ(Slots(), Texts{"Yew"});
     EXPECT_EQ(DistrictAt(lCurrentDistrict).Variations.size(), 2U);

@@ -1,5 +1,6 @@
 #include "edit/VariationList.h"
 
+#include "support/LowerCaseWords.h"
 #include "support/Table.h"
 
 using namespace CommonRoutines;
@@ -75,8 +76,7 @@ TEST_F(VariationListTest, AnUnusualCapitalIsFound) {
 }
 
 TEST_F(VariationListTest, AListedWordNeedsNoCapital) {
-    LowerCaseWords = {"", "upon"};
-    lLowerCaseWordCount = 1;
+    UseLowerCaseWords({"upon"});
     EXPECT_EQ(StateOf("Stoke-upon-Trent"), VariationState::Plain);
     EXPECT_EQ(StateOf("Stoke-near-Trent"), VariationState::UnusualCaps);
 }

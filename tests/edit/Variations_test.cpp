@@ -33,16 +33,16 @@ TEST_F(VariationsTest, SlotsBeyondTheCountAreNotFound) {
 
 TEST_F(VariationsTest, ASlotIsAddedBehindTheLast) {
     Show("North", {"Ash", "Elm"});
-    EXPECT_EQ(AddSlot(), 3);
-    EXPECT_EQ(Slots(), (Texts{"Ash", "Elm", ""}));
+    EXPECT_EQ(AddSlot("Fir"), 3);
+    EXPECT_EQ(Slots(), (Texts{"Ash", "Elm", "Fir"}));
 }
 
-TEST_F(VariationsTest, ANewSlotIsEmptyWhateverWasLeftInIt) {
+TEST_F(VariationsTest, ANewSlotHasNoFindingsWhateverWasLeftInIt) {
     Show("North", {"Ash", "Elm"});
-    VariationAt(1, 2) = {"left", true, 1, true};
+    VariationAt(1, 2) = {"left", true, true, 1};
     DistrictAt(1).lVariationCount = 1;
-    ASSERT_EQ(AddSlot(), 2);
-    EXPECT_EQ(VariationAt(1, 2).Text, "");
+    ASSERT_EQ(AddSlot("Fir"), 2);
+    EXPECT_EQ(VariationAt(1, 2).Text, "Fir");
     EXPECT_FALSE(VariationAt(1, 2).bDuplicate);
     EXPECT_EQ(VariationAt(1, 2).lDuplicateOf, 0);
     EXPECT_FALSE(VariationAt(1, 2).bUnusualCaps);
@@ -51,13 +51,13 @@ TEST_F(VariationsTest, ANewSlotIsEmptyWhateverWasLeftInIt) {
 
 TEST_F(VariationsTest, TheArrayGrowsByASlotAndTheSpareOnesOnlyWhenItIsFull) {
     Show("North", {"Ash"});
-    AddSlot(10);
+    AddSlot("Fir", 10);
     EXPECT_EQ(DistrictAt(1).Variations.size(), 13U);
     for (int i = 3; i <= 12; ++i) {
-        EXPECT_EQ(AddSlot(10), i);
+        EXPECT_EQ(AddSlot("Fir", 10), i);
         EXPECT_EQ(DistrictAt(1).Variations.size(), 13U);
     }
-    AddSlot();
+    AddSlot("Fir");
     EXPECT_EQ(DistrictAt(1).Variations.size(), 14U);
     EXPECT_EQ(Slots()[0], "Ash");
 }

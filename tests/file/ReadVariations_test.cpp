@@ -1,3 +1,4 @@
+#include "support/LowerCaseWords.h"
 #include "support/Reading.h"
 #include "support/Table.h"
 
@@ -112,8 +113,7 @@ TEST_F(ReadVariationsTest, UnusualCapitalsAreMarkedCountedAndReported) {
 }
 
 TEST_F(ReadVariationsTest, WordsOfTheListNeedNoCapital) {
-    LowerCaseWords = {"", "upon"};
-    lLowerCaseWordCount = 1;
+    UseLowerCaseWords({"upon"});
     Read(HeaderOf("Ash") + "|Elm upon Oak\n");
     EXPECT_EQ(lCapsOkTotal, 1);
 }

@@ -1,20 +1,14 @@
 #include "rules/Capitals.h"
 
 #include "rules/SlowRules.h"
+#include "support/LowerCaseWords.h"
 #include "support/Table.h"
 
 using namespace CommonRoutines;
 
 namespace {
 
-class Capitals : public StateTest {
-protected:
-    static void List(std::vector<std::string> words) {
-        lLowerCaseWordCount = static_cast<std::int32_t>(std::ssize(words));
-        words.insert(words.begin(), "");
-        LowerCaseWords = std::move(words);
-    }
-};
+class Capitals : public StateTest {};
 
 TEST_F(Capitals, OneCapitalPerWordIsUsual) {
     for (const char* text : {"Smithton", "Upper Smithton", "S", "A B", "Stoke-Upon-Trent", "St. Smith, Nr/Trent",
@@ -36,40 +30,35 @@ TEST_F(Capitals, CapitalsInsideAWordAreUnusual) {
 }
 
 TEST_F(Capitals, AListedWordNeedsNone) {
-    List({"upper", "mcdonald"});
+    UseLowerCaseWords({"upper", "mcdonald"});
     EXPECT_FALSE(HasUnusualCapitals("upper Smithton"));
     EXPECT_FALSE(HasUnusualCapitals("McDonald"));
     EXPECT_TRUE(HasUnusualCapitals("lower Smithton"));
 }
 
 TEST_F(Capitals, AnyCasingOfAListedWordPasses) {
-    List({"of", "\xE9lan"});
+    UseLowerCaseWords({"of", "\xE9lan"});
     for (const char* text : {"of", "Of", "OF", "oF", "\xC9LAN", "\xE9lAn"}) {
         EXPECT_FALSE(HasUnusualCapitals(text)) << text;
     }
 }
 
 TEST_F(Capitals, AListedWordIsAWholeWord) {
-    List({"of"});
+    UseLowerCaseWords({"of"});
     EXPECT_TRUE(HasUnusualCapitals("off"));
     EXPECT_TRUE(HasUnusualCapitals("o"));
 }
 
-TEST_F(Capitals, ListedWordsAreComparedInTheSmallLettersOfTheList) {
-    List({"Of"});
-    EXPECT_TRUE(HasUnusualCapitals("oF"));
-}
-
-TEST_F(Capitals, OnlyTheWordsCountedAreListed) {
-    List({"of", "the"});
-    lLowerCaseWordCount = 1;
-    EXPECT_FALSE(HasUnusualCapitals("of"));
-    EXPECT_TRUE(HasUnusualCapitals("the"));
+TEST_F(Capitals, ANewListTakesThePlaceOfTheOneBefore) {
+    UseLowerCaseWords({"of", "the"});
+    UseLowerCaseWords({"upon"});
+    EXPECT_TRUE(HasUnusualCapitals("of"));
+    EXPECT_FALSE(HasUnusualCapitals("upon"));
 }
 
 TEST_F(Capitals, EveryPartOfAHyphenatedNameIsAWord) {
     EXPECT_TRUE(HasUnusualCapitals("Stoke-upon-Trent"));
-    List({"upon"});
+    UseLowerCaseWords({"upon"});
     EXPECT_FALSE(HasUnusualCapitals("Stoke-upon-Trent"));
 }
 
@@ -95,7 +84,7 @@ TEST_F(Capitals, EmptyWordsPass) {
 TEST_F(Capitals, AClosingParenthesisBelongsToItsWord) {
     EXPECT_FALSE(HasUnusualCapitals("(Smithton)"));
     EXPECT_TRUE(HasUnusualCapitals("(smithton)"));
-    List({"north", "south)"});
+    UseLowerCaseWords({"north", "south)"});
     EXPECT_TRUE(HasUnusualCapitals("Smithton (north)"));
     EXPECT_FALSE(HasUnusualCapitals("Smithton (SOUTH)"));
 }
@@ -157,7 +146,7 @@ TEST_F(Capitals, TheMarkersAreLeftBehind) {
 TEST_F(Capitals, AgreeWithTheSlowRulesOnRandomTexts) {
     constexpr std::string_view alphabets[] = {"!%? \t-[](ABab_|\xE9\xC9\x80\x9A\x8A", "ABabb [](A-", "AAabbbbb  ')"};
     const std::vector<std::string> words = {"ab", "b", "\xE9", "a)", "[a]b"};
-    List(words);
+    UseLowerCaseWords(words);
     std::mt19937 random(3);
     int unusual = 0;
     constexpr int rounds = 150'000;

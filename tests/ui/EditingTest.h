@@ -59,7 +59,7 @@ protected:
         const CommonRoutines::DistrictRecord& record = DistrictAt(district);
         std::string slots;
         for (std::int32_t i = 1; i <= record.lVariationCount; ++i) {
-            slots += '|' + VariationAt(district, i).Text;
+            slots += "|" + VariationAt(district, i).Text;
         }
         return slots;
     }

@@ -1,0 +1,75 @@
+#pragma once
+
+// Comparing, sorting and hashing texts by their upper-case forms without making the forms.
+
+#include <algorithm>
+#include <compare>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Ansi {
+
+// The order of the upper-case forms of two texts, by character code.
+[[nodiscard]] std::strong_ordering CompareUpper(std::string_view a, std::string_view b);
+
+// A number that is the same for texts with the same upper-case form, and hardly ever for others.
+[[nodiscard]] std::uint64_t HashUpper(std::string_view text);
+
+// The first 24 characters of the upper-case form of a text, so packed that comparing two of them takes
+// a few instructions. Where two differ, their order is that of the forms; where they are equal, only
+// CompareUpper of the texts can tell.
+class UpperPrefix {
+public:
+    static constexpr std::size_t Length = 24;
+
+    UpperPrefix() = default;
+    explicit UpperPrefix(std::string_view text);
+
+    friend bool operator==(const UpperPrefix&, const UpperPrefix&) = default;
+    friend std::strong_ordering operator<=>(const UpperPrefix&, const UpperPrefix&) = default;
+
+    // The characters at the first place where two different prefixes differ, NUL behind the end of a text.
+    struct Difference {
+        char a;
+        char b;
+    };
+    [[nodiscard]] static Difference FirstDifference(const UpperPrefix& a, const UpperPrefix& b);
+
+private:
+    // Eight characters each, the first one in the highest byte.
+    std::uint64_t m_first = 0;
+    std::uint64_t m_second = 0;
+    std::uint64_t m_third = 0;
+};
+
+// Sorts items by the upper-case forms of their texts, equal forms in the order in which they came.
+template <typename Item, typename TextOf>
+void SortByUpperCase(std::vector<Item>& items, TextOf textOf) {
+    struct Key {
+        UpperPrefix text;
+        std::uint32_t place;
+    };
+    std::vector<Key> keys;
+    keys.reserve(items.size());
+    for (const Item& item : items) {
+        keys.push_back({UpperPrefix(textOf(item)), static_cast<std::uint32_t>(keys.size())});
+    }
+    std::sort(keys.begin(), keys.end(), [&](const Key& a, const Key& b) {
+        if (a.text != b.text) {
+            return a.text < b.text;
+        }
+        const auto order = CompareUpper(textOf(items[a.place]), textOf(items[b.place]));
+        return order != 0 ? order < 0 : a.place < b.place;
+    });
+    std::vector<Item> sorted;
+    sorted.reserve(items.size());
+    for (const Key& key : keys) {
+        sorted.push_back(items[key.place]);
+    }
+    items = std::move(sorted);
+}
+
+} // namespace Ansi

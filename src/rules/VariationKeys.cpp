@@ -1,0 +1,74 @@
+#include "rules/VariationKeys.h"
+
+#include "core/Ansi.h"
+#include "core/State.h"
+#include "rules/Markers.h"
+#include "rules/Matching.h"
+#include "rules/MiddlePivotSort.h"
+
+#include <span>
+
+namespace CommonRoutines {
+
+namespace {
+
+std::string_view VariationText(std::int32_t lDistrict, std::int32_t lIndex) {
+    return RecordOf(lDistrict).Variations[static_cast<std::size_t>(lIndex)].Text;
+}
+
+// The text whose upper-case form a key stands for.
+std::string_view KeyText(const VariationKey& key) {
+    return key.bIsName() ? key.DistrictName() : SplitMarkers(VariationText(key.lDistrict, key.lIndex)).base;
+}
+
+// Blanks behind a base name and the markers around a district's name stand in a key although they do
+// not count. Keys that first differ in other characters are different spellings whatever follows; this
+// spares a look at the texts of nearly all neighbours.
+bool CannotBeSame(const VariationKey& a, const VariationKey& b) {
+    if (a.Key == b.Key) {
+        return false;
+    }
+    const auto counts = [](char c) { return static_cast<unsigned char>(c) > '%'; }; // behind NUL, blank, "!" and "%"
+    const auto [ofA, ofB] = Ansi::UpperPrefix::FirstDifference(a.Key, b.Key);
+    return counts(ofA) && counts(ofB);
+}
+
+} // namespace
+
+std::string VariationKey::Text() const {
+    return bIsName() ? Ansi::Upper(DistrictName()) : std::string(VariationText(lDistrict, lIndex));
+}
+
+std::string_view VariationKey::DistrictName() const {
+    return RecordOf(lDistrict).Name;
+}
+
+VariationKey KeyOfVariation(std::int32_t lDistrict, std::int32_t lIndex) {
+    return {Ansi::UpperPrefix(SplitMarkers(VariationText(lDistrict, lIndex)).base), lIndex, lDistrict};
+}
+
+VariationKey KeyOfName(std::int32_t lDistrict) {
+    return {Ansi::UpperPrefix(RecordOf(lDistrict).Name), 0, lDistrict};
+}
+
+bool KeyPrecedes(const VariationKey& a, const VariationKey& b) {
+    if (a.Key != b.Key) {
+        return a.Key < b.Key;
+    }
+    return Ansi::CompareUpper(KeyText(a), KeyText(b)) < 0;
+}
+
+bool SameSpelling(const VariationKey& a, const VariationKey& b) {
+    return !CannotBeSame(a, b) && SameVariation(a.Text(), b.Text(), a.lDistrict, b.lDistrict);
+}
+
+void SortVariationKeys(std::vector<VariationKey>& Keys, std::int32_t lLow, std::int32_t lHigh) {
+    if (lLow >= lHigh) {
+        return;
+    }
+    const auto first = static_cast<std::size_t>(lLow);
+    const auto count = static_cast<std::size_t>(lHigh - lLow) + 1;
+    MiddlePivotSort::Sort(std::span(Keys).subspan(first, count), KeyPrecedes);
+}
+
+} // namespace CommonRoutines
