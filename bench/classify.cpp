@@ -33,7 +33,7 @@ void FillDistrict() {
     district.Abolished = NoYear;
     district.Variations.resize(VariationCount + 1);
     for (std::size_t i = 1; i <= VariationCount; ++i) {
-        district.Variations[i].Text = VariationText(i);
+        district.Variations[i].Text = std::string_view(VariationText(i));
     }
     district.lVariationCount = VariationCount;
     Districts.resize(1);

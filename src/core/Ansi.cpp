@@ -8,55 +8,9 @@ namespace Ansi {
 
 namespace {
 
-using CaseTable = std::array<unsigned char, 256>;
-
 constexpr unsigned char Code(char c) {
     return static_cast<unsigned char>(c);
 }
-
-struct CasePair {
-    unsigned char capital;
-    unsigned char small;
-};
-
-// The letters whose two forms do not stand 32 apart.
-constexpr std::array<CasePair, 4> IrregularPairs{{
-    {0x8A, 0x9A}, // S with caron
-    {0x8C, 0x9C}, // OE
-    {0x8E, 0x9E}, // Z with caron
-    {0x9F, 0xFF}, // Y with diaeresis
-}};
-
-constexpr bool IsRegularCapital(int code) {
-    constexpr int multiplicationSign = 0xD7;
-    return (code >= 'A' && code <= 'Z') || (code >= 0xC0 && code <= 0xDE && code != multiplicationSign);
-}
-
-constexpr CaseTable MakeCaseTable(bool toUpper) {
-    CaseTable table{};
-    for (int code = 0; code < 256; ++code) {
-        table[static_cast<std::size_t>(code)] = static_cast<unsigned char>(code);
-    }
-    const auto add = [&](unsigned char capital, unsigned char small) {
-        if (toUpper) {
-            table[small] = capital;
-        } else {
-            table[capital] = small;
-        }
-    };
-    for (int code = 0; code < 256; ++code) {
-        if (IsRegularCapital(code)) {
-            add(static_cast<unsigned char>(code), static_cast<unsigned char>(code + 32));
-        }
-    }
-    for (const CasePair& pair : IrregularPairs) {
-        add(pair.capital, pair.small);
-    }
-    return table;
-}
-
-constexpr CaseTable UpperTable = MakeCaseTable(true);
-constexpr CaseTable LowerTable = MakeCaseTable(false);
 
 // Bytes 80 to 9F hexadecimal; all others are the code point of the same number.
 constexpr std::array<char16_t, 32> UpperControls{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
@@ -100,14 +54,6 @@ std::string Changed(std::string_view text, Change change) {
 
 } // namespace
 
-char Upper(char c) {
-    return static_cast<char>(UpperTable[Code(c)]);
-}
-
-char Lower(char c) {
-    return static_cast<char>(LowerTable[Code(c)]);
-}
-
 std::string Upper(std::string_view text) {
     return Changed(text, [](char c) { return Upper(c); });
 }
@@ -118,20 +64,6 @@ std::string Lower(std::string_view text) {
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return Upper(x) == Upper(y); });
-}
-
-std::string_view TrimLeft(std::string_view text) {
-    while (text.starts_with(' ')) {
-        text.remove_prefix(1);
-    }
-    return text;
-}
-
-std::string_view Trim(std::string_view text) {
-    while (text.ends_with(' ')) {
-        text.remove_suffix(1);
-    }
-    return TrimLeft(text);
 }
 
 std::string_view FirstWord(std::string_view text) {

@@ -4,17 +4,15 @@
 // text is kept as the bytes that were read; nothing here decodes a text to look at it, so positions
 // and lengths are bytes. Conversion to Unicode is for the windows and for file names.
 
+#include "core/AnsiCase.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Ansi {
 
-// The capital or small form of one character; characters without a counterpart in the code page
-// (among them the sharp s and the micro sign) are their own.
-[[nodiscard]] char Upper(char c);
-[[nodiscard]] char Lower(char c);
-
+// The text in capital or in small letters.
 [[nodiscard]] std::string Upper(std::string_view text);
 [[nodiscard]] std::string Lower(std::string_view text);
 
@@ -22,8 +20,18 @@ namespace Ansi {
 [[nodiscard]] bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
 // The text without blanks (the space character, nothing else) at either end, or at the left end.
-[[nodiscard]] std::string_view Trim(std::string_view text);
-[[nodiscard]] std::string_view TrimLeft(std::string_view text);
+[[nodiscard]] constexpr std::string_view TrimLeft(std::string_view text) {
+    while (text.starts_with(' ')) {
+        text.remove_prefix(1);
+    }
+    return text;
+}
+[[nodiscard]] constexpr std::string_view Trim(std::string_view text) {
+    while (text.ends_with(' ')) {
+        text.remove_suffix(1);
+    }
+    return TrimLeft(text);
+}
 
 // The text before the first blank, or all of it when it has none.
 [[nodiscard]] std::string_view FirstWord(std::string_view text);

@@ -49,7 +49,8 @@ std::uint64_t HashUpper(std::string_view text) {
 }
 
 UpperPrefix::UpperPrefix(std::string_view text)
-    : m_first(PackUpper(text, 0)), m_second(PackUpper(text, WordLength)), m_third(PackUpper(text, 2 * WordLength)) {}
+    : m_first(PackUpper(text, 0)), m_second(PackUpper(text, WordLength)),
+      m_third((PackUpper(text, 2 * WordLength) & ~LengthMask) | std::min(text.size(), Length + 1)) {}
 
 UpperPrefix::Difference UpperPrefix::FirstDifference(const UpperPrefix& a, const UpperPrefix& b) {
     const auto in = [](std::uint64_t wordOfA, std::uint64_t wordOfB) {

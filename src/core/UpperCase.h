@@ -18,20 +18,22 @@ namespace Ansi {
 // A number that is the same for texts with the same upper-case form, and hardly ever for others.
 [[nodiscard]] std::uint64_t HashUpper(std::string_view text);
 
-// The first 24 characters of the upper-case form of a text, so packed that comparing two of them takes
-// a few instructions. Where two differ, their order is that of the forms; where they are equal, only
-// CompareUpper of the texts can tell.
+// The beginning of the upper-case form of a text, so packed that comparing two of them takes a few
+// instructions. Where two differ, their order is that of the forms. Where they are equal, so are the
+// forms if they are whole; otherwise only CompareUpper of the texts can tell.
 class UpperPrefix {
 public:
-    static constexpr std::size_t Length = 24;
-
     UpperPrefix() = default;
     explicit UpperPrefix(std::string_view text);
+
+    // Whether the text ends within the prefix.
+    [[nodiscard]] bool IsWhole() const { return (m_third & LengthMask) <= Length; }
 
     friend bool operator==(const UpperPrefix&, const UpperPrefix&) = default;
     friend std::strong_ordering operator<=>(const UpperPrefix&, const UpperPrefix&) = default;
 
     // The characters at the first place where two different prefixes differ, NUL behind the end of a text.
+    // Of texts that differ only in the NULs at their ends, it is two small numbers.
     struct Difference {
         char a;
         char b;
@@ -39,7 +41,11 @@ public:
     [[nodiscard]] static Difference FirstDifference(const UpperPrefix& a, const UpperPrefix& b);
 
 private:
-    // Eight characters each, the first one in the highest byte.
+    static constexpr std::size_t Length = 23;
+    static constexpr std::uint64_t LengthMask = 0xFF;
+
+    // Eight characters each, the first one in the highest byte; the last byte is the length of the text,
+    // 24 for any longer one, so that a text comes before those that go on with NUL.
     std::uint64_t m_first = 0;
     std::uint64_t m_second = 0;
     std::uint64_t m_third = 0;
@@ -58,10 +64,10 @@ void SortByUpperCase(std::vector<Item>& items, TextOf textOf) {
         keys.push_back({UpperPrefix(textOf(item)), static_cast<std::uint32_t>(keys.size())});
     }
     std::sort(keys.begin(), keys.end(), [&](const Key& a, const Key& b) {
-        if (a.text != b.text) {
-            return a.text < b.text;
+        auto order = a.text <=> b.text;
+        if (order == 0 && !a.text.IsWhole()) {
+            order = CompareUpper(textOf(items[a.place]), textOf(items[b.place]));
         }
-        const auto order = CompareUpper(textOf(items[a.place]), textOf(items[b.place]));
         return order != 0 ? order < 0 : a.place < b.place;
     });
     std::vector<Item> sorted;

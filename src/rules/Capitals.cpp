@@ -28,7 +28,7 @@ void AddLowerCaseWord(std::string_view word) {
 // its word, where it does no harm.
 enum CharacterKind : std::uint8_t { KindOther = 0, KindSeparator = 1, KindCapital = 2, KindSmall = 4 };
 
-const std::array<std::uint8_t, 256> KindTable = [] {
+constexpr std::array<std::uint8_t, 256> KindTable = [] {
     std::array<std::uint8_t, 256> table{};
     for (std::size_t code = 0; code < table.size(); ++code) {
         const char c = static_cast<char>(code);

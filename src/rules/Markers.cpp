@@ -13,6 +13,13 @@ bool IsMarker(char c) {
     return c == '!' || c == '%';
 }
 
+// Most variations have no markers, like the one before.
+void Leave(std::string& markers, std::string_view found) {
+    if (!found.empty() || !markers.empty()) {
+        markers = found;
+    }
+}
+
 } // namespace
 
 // Runs several times for every variation of a file. Texts are short, so plain loops beat searches.
@@ -29,8 +36,8 @@ MarkerParts SplitMarkers(std::string_view variation) {
 
 MarkerParts LeaveMarkers(std::string_view variation) {
     const MarkerParts parts = SplitMarkers(variation);
-    sMarkerPrefix = parts.prefix;
-    sMarkerSuffix = parts.suffix;
+    Leave(sMarkerPrefix, parts.prefix);
+    Leave(sMarkerSuffix, parts.suffix);
     return parts;
 }
 

@@ -22,15 +22,16 @@ std::string_view KeyText(const VariationKey& key) {
 }
 
 // Blanks behind a base name and the markers around a district's name stand in a key although they do
-// not count. Keys that first differ in other characters are different spellings whatever follows; this
+// not count. Keys that first differ in anything else are different spellings whatever follows; this
 // spares a look at the texts of nearly all neighbours.
 bool CannotBeSame(const VariationKey& a, const VariationKey& b) {
     if (a.Key == b.Key) {
         return false;
     }
-    const auto counts = [](char c) { return static_cast<unsigned char>(c) > '%'; }; // behind NUL, blank, "!" and "%"
+    const auto overlooked = [](char c) { return c == ' ' || c == '!' || c == '%'; };
+    const auto certain = [](char c) { return static_cast<unsigned char>(c) > '%'; }; // not the end of a text either
     const auto [ofA, ofB] = Ansi::UpperPrefix::FirstDifference(a.Key, b.Key);
-    return counts(ofA) && counts(ofB);
+    return (certain(ofA) || certain(ofB)) && !overlooked(ofA) && !overlooked(ofB);
 }
 
 } // namespace
@@ -52,7 +53,7 @@ VariationKey KeyOfName(std::int32_t lDistrict) {
 }
 
 bool KeyPrecedes(const VariationKey& a, const VariationKey& b) {
-    if (a.Key != b.Key) {
+    if (a.Key != b.Key || a.Key.IsWhole()) {
         return a.Key < b.Key;
     }
     return Ansi::CompareUpper(KeyText(a), KeyText(b)) < 0;

@@ -3,13 +3,14 @@
 #include "file/DistrictList.h"
 #include "ui/Text.h"
 
-#include <charconv>
+#include <string>
 
 using namespace CommonRoutines;
 
 namespace {
 
 constexpr std::size_t CharacterCount = 256;
+constexpr std::size_t NumberCount = 65536;
 
 // Shaping may round differently within a text than in its pairs.
 constexpr double Slack = 2;
@@ -31,12 +32,19 @@ void DistrictColumns::AddDistrictRow(const DistrictRecord& record) {
     Widen(0, record.Name, "W");
     Widen(1, record.Volume, "WW");
     Widen(2, record.County, "WW");
-    std::size_t column = 3;
-    for (const std::int16_t number : {record.Founded, record.QtrF, record.Abolished, record.QtrA}) {
-        std::array<char, 8> digits{};
-        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-        Widen(column, {digits.data(), end}, "WW");
-        ++column;
+    WidenForNumber(3, record.Founded);
+    WidenForNumber(4, record.QtrF);
+    WidenForNumber(5, record.Abolished);
+    WidenForNumber(6, record.QtrA);
+}
+
+void DistrictColumns::WidenForNumber(std::size_t column, std::int16_t number) {
+    std::vector<bool>& measured = m_measuredNumbers[column];
+    measured.resize(NumberCount);
+    const auto place = static_cast<std::uint16_t>(number);
+    if (!measured[place]) {
+        measured[place] = true;
+        Widen(column, std::to_string(number), "WW");
     }
 }
 

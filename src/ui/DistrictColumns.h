@@ -27,10 +27,12 @@ private:
     static constexpr std::size_t ColumnCount = 7;
 
     void Widen(std::size_t column, std::string_view text, std::string_view padding);
+    void WidenForNumber(std::size_t column, std::int16_t number);
     double UpperBound(std::string_view text);
     double PairAdvance(char first, char second);
 
     QFontMetricsF m_metrics;
     std::array<int, ColumnCount> m_widths{};
     std::vector<float> m_pairAdvances; // by first and second character; negative until measured
+    std::array<std::vector<bool>, ColumnCount> m_measuredNumbers; // by the number's unsigned form
 };

@@ -92,8 +92,10 @@ void Form1::SaveClicked() {
 void Form1::FillDistrictList() {
     DistrictColumns columns(m_controls.lvAlpha->font());
     m_districtsByName = DistrictsByName();
-    for (const std::int32_t district : m_districtsByName) {
-        columns.AddDistrictRow(RecordOf(district));
+    for (std::int32_t line = 1; line <= lLineCount; ++line) {
+        if (IsDistrict(line)) {
+            columns.AddDistrictRow(RecordOf(line));
+        }
     }
     m_districts->SetDistricts(m_districtsByName);
     ReportDuplicatedDistricts(m_districtsByName, m_desktop);
