@@ -59,16 +59,28 @@ std::vector<std::int32_t> DistrictsOfType(std::span<const std::int32_t> district
 }
 
 void ReportDuplicatedDistricts(std::span<const std::int32_t> districts, Desktop& desktop) {
-    std::string_view nameBefore;
-    for (std::size_t row = 0; row < districts.size(); ++row) {
-        const std::string_view name = Ansi::Trim(StripMarkers(RecordOf(districts[row]).Name));
-        if (row > 0 && Ansi::EqualIgnoringCase(nameBefore, name)) {
-            const std::string text = "District " + std::string(nameBefore) + " is duplicated in that file";
-            if (desktop.MsgBox(text, BoxIcon::Critical, BoxButtons::OkCancel) == BoxAnswer::Cancel) {
-                return;
-            }
+    const auto baseName = [](std::int32_t district) { return Ansi::Trim(StripMarkers(RecordOf(district).Name)); };
+    // Hashes are made line by line, as the records lie in memory; in the order of the list, only the
+    // records of neighbours with equal ones need to be visited.
+    std::vector<std::uint64_t> hashes(static_cast<std::size_t>(lLineCount) + 1);
+    for (std::int32_t line = 1; line <= lLineCount; ++line) {
+        if (IsDistrict(line)) {
+            hashes[static_cast<std::size_t>(line)] = Ansi::HashUpper(baseName(line));
         }
-        nameBefore = name;
+    }
+    const auto hashAt = [&](std::size_t row) { return hashes[static_cast<std::size_t>(districts[row])]; };
+    for (std::size_t row = 1; row < districts.size(); ++row) {
+        if (hashAt(row - 1) != hashAt(row)) {
+            continue;
+        }
+        const std::string_view name = baseName(districts[row - 1]);
+        if (!Ansi::EqualIgnoringCase(name, baseName(districts[row]))) {
+            continue;
+        }
+        const std::string text = "District " + std::string(name) + " is duplicated in that file";
+        if (desktop.MsgBox(text, BoxIcon::Critical, BoxButtons::OkCancel) == BoxAnswer::Cancel) {
+            return;
+        }
     }
 }
 

@@ -26,7 +26,13 @@ void AddLowerCaseWord(std::string_view word) {
 
 // What a character means to the check. A closing parenthesis is no separator: it stays at the end of
 // its word, where it does no harm.
-enum CharacterKind : std::uint8_t { KindOther = 0, KindSeparator = 1, KindCapital = 2, KindSmall = 4 };
+enum CharacterKind : std::uint8_t {
+    KindOther = 0,
+    KindSeparator = 1,
+    KindCapital = 2,
+    KindSmall = 4,
+    KindBracket = 8, // opens a group
+};
 
 constexpr std::array<std::uint8_t, 256> KindTable = [] {
     std::array<std::uint8_t, 256> table{};
@@ -37,11 +43,25 @@ constexpr std::array<std::uint8_t, 256> KindTable = [] {
     for (const char c : std::string_view("\t -.,(/'")) {
         table[static_cast<unsigned char>(c)] = KindSeparator;
     }
+    table['['] = KindBracket;
     return table;
 }();
 
 unsigned KindOf(char c) {
     return KindTable[static_cast<unsigned char>(c)];
+}
+
+// Whether every word has the usual form, in one pass: a capital (or anything else that is no small
+// letter) at its beginning and none behind. False also where a closer look is needed.
+bool LooksUsual(std::string_view name) {
+    unsigned before = KindSeparator;
+    unsigned offending = KindOther;
+    for (const char c : name) {
+        const unsigned kind = KindOf(c);
+        offending |= kind & (before == KindSeparator ? KindSmall | KindBracket : +KindCapital);
+        before = kind;
+    }
+    return offending == KindOther;
 }
 
 bool Holds(std::string_view text, CharacterKind kind) {
@@ -91,6 +111,9 @@ bool HasUnusualCapitals(std::string_view variation) {
     std::string_view name = Ansi::Trim(StripMarkers(variation));
     while (name.starts_with('!') || name.starts_with('%')) {
         name.remove_prefix(1);
+    }
+    if (LooksUsual(name)) {
+        return false;
     }
     for (auto from = name.begin(); from != name.end();) {
         const auto to = std::find_if(from, name.end(), [](char c) { return KindOf(c) == KindSeparator; });

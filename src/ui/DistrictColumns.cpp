@@ -39,18 +39,19 @@ void DistrictColumns::AddDistrictRow(const DistrictRecord& record) {
 }
 
 void DistrictColumns::WidenForNumber(std::size_t column, std::int16_t number) {
-    std::vector<bool>& measured = m_measuredNumbers[column];
-    measured.resize(NumberCount);
+    std::vector<bool>& seen = m_seenNumbers[column];
+    seen.resize(NumberCount);
     const auto place = static_cast<std::uint16_t>(number);
-    if (!measured[place]) {
-        measured[place] = true;
+    if (!seen[place]) {
+        seen[place] = true;
         Widen(column, std::to_string(number), "WW");
     }
 }
 
 void DistrictColumns::Widen(std::size_t column, std::string_view text, std::string_view padding) {
     // Measuring a text is a hundred times as dear as adding up its letters, and hardly ever needed.
-    if (UpperBound(text) + UpperBound(padding) + Slack > m_widths[column]) {
+    if (UpperBound(text) + UpperBound(padding) + Slack > m_widths[column] &&
+        m_measuredTexts[column].insert(std::string(text)).second) {
         m_widths[column] = MeasureTextWidth(std::string(text) + std::string(padding), m_widths[column]);
     }
 }

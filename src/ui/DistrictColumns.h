@@ -6,7 +6,9 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 // The widths of the columns of the districts list, in pixels of a font: every column as wide as its
@@ -34,5 +36,8 @@ private:
     QFontMetricsF m_metrics;
     std::array<int, ColumnCount> m_widths{};
     std::vector<float> m_pairAdvances; // by first and second character; negative until measured
-    std::array<std::vector<bool>, ColumnCount> m_measuredNumbers; // by the number's unsigned form
+    // What need not be looked at again: numbers, by their unsigned form, and the texts that were wide enough
+    // to be measured.
+    std::array<std::vector<bool>, ColumnCount> m_seenNumbers;
+    std::array<std::unordered_set<std::string>, ColumnCount> m_measuredTexts;
 };

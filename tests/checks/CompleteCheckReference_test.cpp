@@ -3,7 +3,7 @@
 
 #include "checks/CompleteCheck.h"
 #include "core/Ansi.h"
-#include "rules/SlowRules.h"
+#include "rules/SlowMatching.h"
 #include "support/Table.h"
 
 using namespace CommonRoutines;
@@ -28,10 +28,10 @@ public:
             }
         }
         const int count = static_cast<int>(m_entries.size()) - 1;
-        Sort(1, count);
+        Slow::Sort(m_entries, 1, count, [](const Entry& a, const Entry& b) { return a.key < b.key; });
         std::vector<std::string> lines;
         for (int j = 1; j <= count - 1; ++j) {
-            if (Same(At(j), At(j + 1))) {
+            if (Slow::Same(At(j).text, At(j + 1).text, At(j).district, At(j + 1).district)) {
                 lines.push_back(Line(At(j), At(j + 1)));
             }
         }
@@ -54,75 +54,6 @@ private:
         return a.districtName == b.districtName
                    ? a.districtName + " contains a duplicate variation - " + a.text
                    : a.districtName + " and " + b.districtName + " both use the variation " + a.text;
-    }
-
-    void Sort(int lo, int hi) {
-        if (hi <= lo) {
-            return;
-        }
-        const std::string pivot = At((lo + hi) / 2).key;
-        int i = lo;
-        int j = hi;
-        while (i <= j) {
-            while (At(i).key < pivot && i != hi) {
-                i += 1;
-            }
-            while (pivot < At(j).key && j != lo) {
-                j -= 1;
-            }
-            if (i > j) {
-                break;
-            }
-            const Entry held = At(i);
-            At(i) = At(j);
-            At(j) = held;
-            i += 1;
-            j -= 1;
-        }
-        if (lo < j) {
-            Sort(lo, j);
-        }
-        if (i < hi) {
-            Sort(i, hi);
-        }
-    }
-
-    static bool Overlap(const DistrictRecord& a, const DistrictRecord& b) {
-        if (b.Founded > a.Abolished || a.Founded > b.Abolished) {
-            return false;
-        }
-        if (a.Founded == b.Abolished) {
-            return a.QtrF <= b.QtrA;
-        }
-        return b.Founded != a.Abolished || b.QtrF <= a.QtrA;
-    }
-
-    static bool Same(const Entry& a, const Entry& b) {
-        const Slow::Split first = Slow::SplitAtMarkers(a.text);
-        const Slow::Split second = Slow::SplitAtMarkers(b.text);
-        const std::string firstBase = Slow::Trimmed(first.base);
-        const std::string secondBase = Slow::Trimmed(second.base);
-        const std::string firstSuffix = Slow::Trimmed(first.suffix);
-        const std::string secondSuffix = Slow::Trimmed(second.suffix);
-        const bool firstDated = Slow::InStr(first.prefix, "%") > 0;
-        const bool secondDated = Slow::InStr(second.prefix, "%") > 0;
-        if (firstBase == "\t" || secondBase == "\t") {
-            return false;
-        }
-        if (Ansi::Upper(firstBase) != Ansi::Upper(secondBase)) {
-            return false;
-        }
-        if (firstSuffix != secondSuffix && !firstSuffix.empty() && !secondSuffix.empty()) {
-            return false;
-        }
-        if (firstDated != secondDated) {
-            return false;
-        }
-        if (firstDated && !Overlap(DistrictAt(a.district), DistrictAt(b.district))) {
-            return false;
-        }
-        const bool volume = Slow::InStr(firstSuffix, "%") > 0 || Slow::InStr(secondSuffix, "%") > 0;
-        return !volume || a.district == b.district || firstSuffix == secondSuffix;
     }
 
     Entries m_entries;
@@ -186,6 +117,25 @@ TEST_F(CompleteCheckReference, AgreesLineByLineOnRandomTables) {
         found += lines.size();
     }
     EXPECT_GT(found, 20000U);
+}
+
+TEST_F(CompleteCheckReference, AgreesLineByLineOnLongTextsThatShareTheirBeginnings) {
+    std::mt19937 random(29);
+    std::size_t found = 0;
+    for (int round = 0; round < 300; ++round) {
+        ResetState();
+        for (auto districts = 1 + random() % 6; districts > 0; --districts) {
+            std::vector<std::string> variations(random() % 40);
+            for (std::string& variation : variations) {
+                variation = Slow::SimilarText(random);
+            }
+            AddDistrict(Slow::SimilarText(random), variations);
+        }
+        const std::vector<std::string> lines = CompleteVariationCheck().Items;
+        ASSERT_EQ(lines, SlowCheck().Lines()) << "round " << round;
+        found += lines.size();
+    }
+    EXPECT_GT(found, 1000U);
 }
 
 TEST_F(CompleteCheckReference, AgreesLineByLineOnALargeTable) {

@@ -1,5 +1,5 @@
 #include "rules/Matching.h"
-#include "rules/SlowRules.h"
+#include "rules/SlowMatching.h"
 #include "support/Table.h"
 
 using namespace CommonRoutines;
@@ -86,51 +86,6 @@ TEST_F(Lifetimes, AndVolumesMustBothAgree) {
     EXPECT_FALSE(SameVariation("%Abc%12", "%Abc%13", early, late));
 }
 
-bool SlowOverlap(const DistrictRecord& a, const DistrictRecord& b) {
-    if (b.Founded > a.Abolished) {
-        return false;
-    }
-    if (a.Founded > b.Abolished) {
-        return false;
-    }
-    if (a.Founded == b.Abolished) {
-        if (a.QtrF > b.QtrA) {
-            return false;
-        }
-    } else if (b.Founded == a.Abolished) {
-        if (b.QtrF > a.QtrA) {
-            return false;
-        }
-    }
-    return true;
-}
-
-bool SlowSame(const std::string& a, const std::string& b, std::int32_t districtA, std::int32_t districtB) {
-    const Slow::Split first = Slow::SplitAtMarkers(a);
-    const Slow::Split second = Slow::SplitAtMarkers(b);
-    const std::string firstBase = Slow::Trimmed(first.base);
-    const std::string secondBase = Slow::Trimmed(second.base);
-    if (firstBase == "\t" || secondBase == "\t" || Ansi::Upper(firstBase) != Ansi::Upper(secondBase)) {
-        return false;
-    }
-    const std::string firstSuffix = Slow::Trimmed(first.suffix);
-    const std::string secondSuffix = Slow::Trimmed(second.suffix);
-    const bool oneIsEmpty = firstSuffix.empty() != secondSuffix.empty();
-    if (firstSuffix != secondSuffix && !oneIsEmpty) {
-        return false;
-    }
-    const bool firstDate = Slow::InStr(first.prefix, "%") > 0;
-    const bool secondDate = Slow::InStr(second.prefix, "%") > 0;
-    if (firstDate != secondDate) {
-        return false;
-    }
-    if (firstDate && secondDate && !SlowOverlap(DistrictAt(districtA), DistrictAt(districtB))) {
-        return false;
-    }
-    const bool someVolume = Slow::InStr(firstSuffix, "%") > 0 || Slow::InStr(secondSuffix, "%") > 0;
-    return !(someVolume && districtA != districtB && firstSuffix != secondSuffix);
-}
-
 // A text that is often the same as `text` to the rule: another case, a marker or a blank more or less.
 std::string Varied(std::string text, std::mt19937& random) {
     for (char& c : text) {
@@ -163,7 +118,7 @@ TEST_F(Lifetimes, MatchingAgreesWithTheSlowRulesOnRandomTexts) {
         const std::string b = random() % 4 == 0 ? Slow::RandomText(random, nasty, 3) : Varied(a, random);
         const auto districtA = anyDistrict();
         const auto districtB = random() % 3 == 0 ? districtA : anyDistrict();
-        const bool expected = SlowSame(a, b, districtA, districtB);
+        const bool expected = Slow::Same(a, b, districtA, districtB);
         ASSERT_EQ(SameVariation(a, b, districtA, districtB), expected) << '[' << a << "] [" << b << ']';
         matches += expected ? 1 : 0;
     }

@@ -1,5 +1,7 @@
 #include "rules/MiddlePivotSort.h"
 
+#include "rules/SlowMatching.h"
+
 #include <gtest/gtest.h>
 #include <pthread.h>
 
@@ -37,44 +39,9 @@ Elements ElementsOf(const std::vector<std::size_t>& keys) {
     return elements;
 }
 
-// The same sort with both parts sorted by recursion, the lower one first, and every scan step by step.
-void SlowSort(Elements& a, std::ptrdiff_t lo, std::ptrdiff_t hi) {
-    if (hi <= lo) {
-        return;
-    }
-    const auto at = [&](std::ptrdiff_t index) -> Element& { return a[static_cast<std::size_t>(index)]; };
-    const Element pivot = at((lo + hi) / 2);
-    std::ptrdiff_t i = lo;
-    std::ptrdiff_t j = hi;
-    while (i <= j) {
-        while (at(i).key < pivot.key && i != hi) {
-            i += 1;
-        }
-        while (pivot.key < at(j).key && j != lo) {
-            j -= 1;
-        }
-        if (i > j) {
-            break;
-        }
-        const Element held = at(i);
-        at(i) = at(j);
-        at(j) = held;
-        i += 1;
-        j -= 1;
-    }
-    if (lo < j) {
-        SlowSort(a, lo, j);
-        if (i < hi) {
-            SlowSort(a, i, hi);
-        }
-    } else if (i < hi) {
-        SlowSort(a, i, hi);
-    }
-}
-
 void ExpectTheSameOrder(const Elements& elements) {
     Elements expected = elements;
-    SlowSort(expected, 0, std::ssize(expected) - 1);
+    Slow::Sort(expected, 0, std::ssize(expected) - 1, ByKey());
     Elements sorted = elements;
     MiddlePivotSort::Sort(std::span(sorted), ByKey());
     ASSERT_TRUE(sorted == expected);

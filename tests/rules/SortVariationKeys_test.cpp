@@ -1,7 +1,7 @@
 #include "rules/VariationKeys.h"
 
 #include "core/Ansi.h"
-#include "rules/SlowRules.h"
+#include "rules/SlowMatching.h"
 #include "support/Table.h"
 
 #include <algorithm>
@@ -86,20 +86,12 @@ TEST_F(SortVariationKeysTest, RecordsMoveAsAWhole) {
     EXPECT_FALSE(keys[2].bIsName());
 }
 
-// Texts that share their beginnings, also beyond the part of them that stands in the key.
-std::string SimilarText(std::mt19937& random) {
-    static const std::string beginning = "Stoke-upon-the-Marsh-by-Upper-Wendle";
-    const std::size_t length = random() % 3 == 0 ? beginning.size() : random() % beginning.size();
-    return (random() % 4 == 0 ? "!" : "") + beginning.substr(0, length) +
-           Slow::RandomText(random, std::string_view("aAbB \0\xE9\xC9", 8), 3) + (random() % 6 == 0 ? "%12" : "");
-}
-
 TEST_F(SortVariationKeysTest, TheOrderIsThatOfTheWholeTexts) {
     std::mt19937 random(5);
     for (int round = 0; round < 300; ++round) {
         ResetState();
         Texts texts(random() % 60);
-        std::generate(texts.begin(), texts.end(), [&] { return SimilarText(random); });
+        std::generate(texts.begin(), texts.end(), [&] { return Slow::SimilarText(random); });
         Keys keys = KeysOf(texts);
         for (std::size_t i = 1; i < keys.size(); ++i) {
             for (std::size_t j = 1; j < keys.size(); ++j) {
