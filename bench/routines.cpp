@@ -2,7 +2,7 @@
 // cannot be done without: copying the same texts, and upper-casing them.
 
 #include "AnsweringDesktop.h"
-#include "data/DistrictFile.h"
+#include "DistrictFile.h"
 
 #include "core/Ansi.h"
 #include "core/State.h"

@@ -1,7 +1,7 @@
 // The generated data files that measurements are made with: they must open without a question and
 // hold what they are said to hold, or the measurements would be of something else.
 
-#include "data/DistrictFile.h"
+#include "DistrictFile.h"
 #include "file/CommentTypes.h"
 #include "file/DistrictFileWriter.h"
 #include "file/DistrictList.h"
