@@ -4,13 +4,11 @@
 Reads a data file, checks the form and the capitals of every variation, and looks for
 spellings that are used twice, within a district or by two. The counts are printed as one
 line of JSON; the spellings that are used twice go to the second file.
-
-    peer_check.py FILE [FINDINGS [WORDS]]
 """
+import argparse
 import json
 import os
 import re
-import sys
 from collections import Counter, defaultdict
 
 ENCODING = "cp1252"
@@ -136,17 +134,26 @@ class Check:
         self.counts.update(pairs_in_districts=self.pairs_in_districts, groups=groups, pairs=pairs)
 
 
-def main(path, findings, words=None):
+def arguments():
+    """The files named on the command line."""
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("file")
+    parser.add_argument("findings", nargs="?", default=os.devnull)
+    parser.add_argument("words", nargs="?", help="the words that need no capital")
+    return parser.parse_args()
+
+
+def main():
     """Checks the file."""
-    check = Check(read_words(words) if words else set())
-    with open(path, encoding=ENCODING, newline="\n") as lines:
+    files = arguments()
+    check = Check(read_words(files.words) if files.words else set())
+    with open(files.file, encoding=ENCODING, newline="\n") as lines:
         for line in lines:
             check.add_line(line.rstrip("\r\n").strip(" "))
-    with open(findings, "w", encoding=ENCODING) as out:
+    with open(files.findings, "w", encoding=ENCODING) as out:
         check.write_findings(out)
     print(json.dumps(check.counts))
 
 
 if __name__ == "__main__":
-    DATA_FILE, *MORE = sys.argv[1:]
-    main(DATA_FILE, *(MORE or [os.devnull]))
+    main()
