@@ -2,11 +2,17 @@
 
 #include "ui/QtDesktop.h"
 
+#include <functional>
+
 // The real desktop with every dialogue answered at once, so that a measurement holds only the
 // program's own time.
 class AnsweringDesktop : public QtDesktop {
 public:
-    explicit AnsweringDesktop(std::string path) : m_path(std::move(path)) {}
+    // The file that the next dialogue for opening chooses, with its full path.
+    std::string fileToOpen;
+    std::string fileToSave;
+    // What becomes of a report; nothing when it is not set.
+    std::function<void(const Report&)> onReport;
 
     BoxAnswer MsgBox(std::string_view /*text*/, BoxIcon /*icon*/, BoxButtons buttons) override {
         return buttons == BoxButtons::YesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
@@ -15,12 +21,14 @@ public:
                          std::span<const std::string> /*ButtonCaptions*/) override {
         return "Remove";
     }
-    void ShowReport(const Report& report) override { reportLines = report.Items.size(); }
-    std::optional<std::string> ChooseFileToOpen(const FileRequest& /*request*/) override { return m_path; }
-    std::optional<std::string> ChooseFileToSave(const FileRequest& /*request*/) override { return m_path + ".saved"; }
-
-    std::size_t reportLines = 0;
-
-private:
-    std::string m_path;
+    void ShowReport(const Report& report) override {
+        if (onReport) {
+            onReport(report);
+        }
+    }
+    std::optional<std::string> ChooseFileToOpen(const FileRequest& /*request*/) override { return fileToOpen; }
+    std::optional<std::string> ChooseFileToSave(const FileRequest& /*request*/) override { return fileToSave; }
+    // The word list is there; without it every small word would be a finding.
+    std::string ProgramFolder() override { return QUEXAL_DATA_DIR; }
+    void Beep() override {}
 };

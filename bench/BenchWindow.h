@@ -1,0 +1,70 @@
+#pragma once
+
+#include "AnsweringDesktop.h"
+#include "PaintWatch.h"
+#include "ui/Form1.h"
+#include "ui/RowList.h"
+
+#include <QTemporaryDir>
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+// The settings of a measurement must not become those of the user.
+class PrivateSettings {
+public:
+    PrivateSettings();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+// The main window as a user sees it, and what a user does to it. What is done is timed from the click
+// or the key to the painted result, in milliseconds.
+class BenchWindow {
+public:
+    BenchWindow();
+
+    template <typename Widget>
+    [[nodiscard]] Widget& Find(const char* name) {
+        return *m_form.findChild<Widget*>(QString::fromLatin1(name));
+    }
+    [[nodiscard]] RowList& List(const char* name) { return Find<RowList>(name); }
+
+    // Clicks on a button that must be enabled.
+    void Click(const char* button);
+    void ClickRow(const char* list, int row);
+    void ScrollTo(const char* list, int row);
+    void Key(const char* control, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void Type(const QString& text);
+
+    // The time from `action` until `result` is painted and everything else with it; a list is painted
+    // where its rows are.
+    double TimeOf(const std::function<void()>& action, QWidget& result);
+    double TimeOf(const std::function<void()>& action, const char* list) {
+        return TimeOf(action, *List(list).viewport());
+    }
+    double TimeOfClick(const char* button, const char* list) {
+        return TimeOf([&] { Click(button); }, list);
+    }
+    // The time of a click that is answered by a dialogue instead of a painted result.
+    double TimeOfClick(const char* button);
+    // The time from a click to the painted report, which is then closed; leaves the number of its lines.
+    double TimeToReport(const char* button, std::size_t& lines);
+
+    // Waits until there is nothing left to paint.
+    void Settle();
+
+    double Open(const std::string& path);
+    // Chooses the district with the most variations and returns how many they are.
+    std::int32_t ChooseBiggestDistrict();
+
+    AnsweringDesktop desktop;
+
+private:
+    void ShowReport(const Report& report, const std::function<void()>& onPainted);
+
+    PaintWatch m_paints;
+    Form1 m_form;
+};
