@@ -28,20 +28,6 @@ struct VariationRecord {
     [[nodiscard]] bool IsDeleted() const { return Text == DeletedText; }
 };
 
-// The parts of a header that have no field of their own, 1 to 6; element 0 is never filled. They are
-// kept as one text, as they stand in the file, since they are hardly ever looked at.
-class ExtraParts {
-public:
-    // `joined` are the parts with a "+" between them.
-    void Assign(std::string_view joined) { m_joined = joined; }
-    // Empty where the header has no such part.
-    [[nodiscard]] std::string_view operator[](std::size_t part) const;
-    [[nodiscard]] static constexpr std::size_t size() { return 7; }
-
-private:
-    Ansi::String m_joined;
-};
-
 struct DistrictRecord {
     bool bRetained = false;  // not a district: kept only to be written back
     Ansi::String Name;       // of a retained line: the line
@@ -51,7 +37,6 @@ struct DistrictRecord {
     std::int16_t QtrF = 0;
     std::int16_t Abolished = 0;
     std::int16_t QtrA = 0;
-    ExtraParts Extra;
     Ansi::String Volume;
     std::int32_t iQuestionCount = 0;  // variations refused by the question-mark rule while reading
     std::int32_t iDuplicateCount = 0; // pairs found by the last duplicate search
@@ -59,6 +44,10 @@ struct DistrictRecord {
     std::int32_t lWarningCount = 0;
     std::int32_t lVariationCount = 0;        // slots in use, deleted ones included
     std::vector<VariationRecord> Variations; // 1 to lVariationCount; element 0 is never used
+
+    // The parts of the header behind the quarter abolished, 1 to 6, taken from it when they are asked
+    // for, which is hardly ever. Empty where there is none; so is part 0, always.
+    [[nodiscard]] std::string_view Extra(std::size_t part) const;
 };
 
 // The texts of two variations that are the same spelling.

@@ -7,20 +7,36 @@
 
 namespace CommonRoutines {
 
-std::string DistrictFileContent() {
-    std::string content;
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+
+// Hands over the pieces of the file, one after the other.
+template <typename Take>
+void ForEachPiece(Take take) {
     for (std::int32_t i = 1; i <= lLineCount; ++i) {
         const DistrictRecord& record = RecordOf(i);
-        content += record.HeaderText;
+        take(record.HeaderText.View());
         for (std::int32_t k = 1; k <= record.lVariationCount; ++k) {
             const VariationRecord& variation = record.Variations[static_cast<std::size_t>(k)];
             if (!variation.IsDeleted()) {
-                content += '|';
-                content += variation.Text;
+                take("|");
+                take(variation.Text.View());
             }
         }
-        content += "\r\n";
+        take(LineEnd);
     }
+}
+
+} // namespace
+
+std::string DistrictFileContent() {
+    // Growing step by step would touch twice the memory.
+    std::size_t size = 0;
+    ForEachPiece([&](std::string_view piece) { size += piece.size(); });
+    std::string content;
+    content.reserve(size);
+    ForEachPiece([&](std::string_view piece) { content += piece; });
     return content;
 }
 

@@ -11,7 +11,6 @@ namespace CommonRoutines {
 namespace {
 
 constexpr std::size_t MinHeaderParts = 9;
-constexpr std::size_t FirstExtraPart = 7;
 
 constexpr std::int16_t AbandonedQuarter = 5;
 
@@ -52,7 +51,6 @@ HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size
     record.Abolished = *abolished;
     record.QtrA = *quarterAbolished;
     record.HeaderText = text;
-    record.Extra.Assign(text.substr(static_cast<std::size_t>(parts[FirstExtraPart].data() - text.data())));
     return HeaderResult::Filled;
 }
 

@@ -43,8 +43,18 @@ TEST(DistrictRecord, StartsAsAnEmptyDistrict) {
     EXPECT_EQ(district.lVariationCount, 0);
 }
 
-TEST(DistrictRecord, HoldsSixExtraFieldsBehindAnUnusedOne) {
-    EXPECT_EQ(DistrictRecord().Extra.size(), 7U);
+TEST(DistrictRecord, TakesItsExtraPartsFromTheHeader) {
+    DistrictRecord district;
+    EXPECT_EQ(district.Extra(1), "");
+    district.HeaderText = "Ash+1+Shire+1837+3+1900+4+a+ b ++d+e+f";
+    EXPECT_EQ(district.Extra(0), "");
+    EXPECT_EQ(district.Extra(1), "a");
+    EXPECT_EQ(district.Extra(2), " b ");
+    EXPECT_EQ(district.Extra(3), "");
+    EXPECT_EQ(district.Extra(6), "f");
+    EXPECT_EQ(district.Extra(7), "");
+    district.bRetained = true;
+    EXPECT_EQ(district.Extra(1), "");
 }
 
 TEST(DistrictRecord, IsCopiedWithItsTexts) {

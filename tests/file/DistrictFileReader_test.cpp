@@ -51,7 +51,7 @@ TEST_F(ReadLinesTest, ADistrictFillsItsRecord) {
     EXPECT_EQ(ash.Volume, "12");
     EXPECT_EQ(ash.County, " Shire ");
     EXPECT_EQ(ash.Abolished, 1900);
-    EXPECT_EQ(ash.Extra[3], "c");
+    EXPECT_EQ(ash.Extra(3), "c");
     EXPECT_EQ(ash.lVariationCount, 2);
     ASSERT_EQ(ash.Variations.size(), 3U);
     EXPECT_EQ(ash.Variations[1].Text, "Elm");
@@ -149,7 +149,7 @@ TEST_F(ReadLinesTest, TheQuartersOfALineThatBeginsWithABarAreNotChecked) {
     ExpectNoVariations(1, "|A+1+B+1900+9+9999+5+1+2+3+4|Foo");
     m_desktop.ExpectBox("The line will be available for editing.", BoxIcon::Information);
     Read("|A+1+B+1900+9+9999+5+1+2+3+4|Foo");
-    EXPECT_EQ(DistrictAt(1).Extra[4], "4|Foo");
+    EXPECT_EQ(DistrictAt(1).Extra(4), "4|Foo");
     EXPECT_EQ(DistrictAt(1).lVariationCount, 0);
 }
 

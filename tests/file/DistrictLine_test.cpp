@@ -13,8 +13,8 @@ constexpr std::size_t Most = 13;
 // The extra parts, with the unused one in front.
 Texts ExtraOf(const DistrictRecord& record) {
     Texts texts;
-    for (std::size_t part = 0; part < record.Extra.size(); ++part) {
-        texts.emplace_back(record.Extra[part]);
+    for (std::size_t part = 0; part <= 6; ++part) {
+        texts.emplace_back(record.Extra(part));
     }
     return texts;
 }
