@@ -118,7 +118,11 @@ void BenchWindow::ShowReport(const Report& report, const std::function<void()>& 
 
 double BenchWindow::Open(const std::string& path) {
     desktop.fileToOpen = path;
-    return TimeOfClick("cbOpen", "lvAlpha");
+    const double time = TimeOfClick("cbOpen", "lvAlpha");
+    if (lDistrictTotal == 0) {
+        qFatal("There are no districts in %s", path.c_str());
+    }
+    return time;
 }
 
 std::int32_t BenchWindow::ChooseBiggestDistrict() {

@@ -3,6 +3,8 @@
 #include "file/DistrictList.h"
 #include "ui/Text.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 
 using namespace CommonRoutines;
@@ -12,13 +14,22 @@ namespace {
 constexpr std::size_t CharacterCount = 256;
 constexpr std::size_t NumberCount = 65536;
 
+// Advances are added up as whole numbers, which is fast; a single one that is not measured yet makes the
+// sum too large to be one.
+constexpr double PartsOfAPixel = 64;
+constexpr std::uint32_t NotMeasured = 1U << 31U;
+
+std::size_t PlaceOf(char first, char second) {
+    return static_cast<unsigned char>(first) * CharacterCount + static_cast<unsigned char>(second);
+}
+
 // Shaping may round differently within a text than in its pairs.
 constexpr double Slack = 2;
 
 } // namespace
 
 DistrictColumns::DistrictColumns(const QFont& font)
-    : m_metrics(font), m_pairAdvances(CharacterCount * CharacterCount, -1) {
+    : m_metrics(font), m_pairAdvances(CharacterCount * CharacterCount, NotMeasured) {
     for (std::size_t column = 0; column < ColumnCount; ++column) {
         m_widths[column] = MeasureTextWidth("WW" + std::string(DistrictHeadings[column]), 0);
     }
@@ -57,22 +68,33 @@ void DistrictColumns::Widen(std::size_t column, std::string_view text, std::stri
 }
 
 double DistrictColumns::UpperBound(std::string_view text) {
-    double width = 0;
-    char before = ' ';
-    for (const char c : text) {
-        width += PairAdvance(before, c);
-        before = c;
+    std::uint64_t sum = SumOfAdvances(text);
+    if (sum >= NotMeasured) {
+        MeasurePairs(text);
+        sum = SumOfAdvances(text);
     }
-    return width;
+    return static_cast<double>(sum) / PartsOfAPixel;
 }
 
-double DistrictColumns::PairAdvance(char first, char second) {
-    const std::size_t place = static_cast<unsigned char>(first) * CharacterCount + static_cast<unsigned char>(second);
-    float& advance = m_pairAdvances[place];
-    if (advance < 0) {
-        const double pair = m_metrics.horizontalAdvance(Text::ForList(std::string{first, second}));
-        advance =
-            static_cast<float>(std::max(0.0, pair - m_metrics.horizontalAdvance(Text::ForList(std::string{first}))));
+std::uint64_t DistrictColumns::SumOfAdvances(std::string_view text) const {
+    std::uint64_t sum = 0;
+    char before = ' ';
+    for (const char c : text) {
+        sum += m_pairAdvances[PlaceOf(before, c)];
+        before = c;
     }
-    return advance;
+    return sum;
+}
+
+void DistrictColumns::MeasurePairs(std::string_view text) {
+    char before = ' ';
+    for (const char c : text) {
+        std::uint32_t& advance = m_pairAdvances[PlaceOf(before, c)];
+        if (advance == NotMeasured) {
+            const double pair = m_metrics.horizontalAdvance(Text::ForList(std::string{before, c}));
+            const double first = m_metrics.horizontalAdvance(Text::ForList(std::string{before}));
+            advance = static_cast<std::uint32_t>(std::ceil(std::max(0.0, pair - first) * PartsOfAPixel));
+        }
+        before = c;
+    }
 }

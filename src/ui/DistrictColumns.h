@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -30,12 +31,13 @@ private:
 
     void Widen(std::size_t column, std::string_view text, std::string_view padding);
     void WidenForNumber(std::size_t column, std::int16_t number);
-    double UpperBound(std::string_view text);
-    double PairAdvance(char first, char second);
+    [[nodiscard]] double UpperBound(std::string_view text);
+    [[nodiscard]] std::uint64_t SumOfAdvances(std::string_view text) const;
+    void MeasurePairs(std::string_view text);
 
     QFontMetricsF m_metrics;
     std::array<int, ColumnCount> m_widths{};
-    std::vector<float> m_pairAdvances; // by first and second character; negative until measured
+    std::vector<std::uint32_t> m_pairAdvances; // in parts of a pixel, by first and second character
     // What need not be looked at again: numbers, by their unsigned form, and the texts that were wide enough
     // to be measured.
     std::array<std::vector<bool>, ColumnCount> m_seenNumbers;

@@ -42,11 +42,18 @@ PlainLabel::PlainLabel(QWidget* parent) : QLabel(parent) {
 
 void PlainLabel::SetPurpose(const QString& purpose) {
     m_purpose = purpose;
-    ShowText(text());
+    Describe(text());
 }
 
 void PlainLabel::ShowText(const QString& text) {
-    setText(text);
+    // Labels are cleared at every keystroke.
+    if (text != this->text()) {
+        setText(text);
+        Describe(text);
+    }
+}
+
+void PlainLabel::Describe(const QString& text) {
     setToolTip(text.isEmpty() ? QString() : Text::ForToolTip(text));
     setAccessibleName(text.isEmpty() ? m_purpose : m_purpose + QStringLiteral(": ") + text);
 }

@@ -33,6 +33,8 @@ protected:
 
 private:
     void SetColour(QPalette::ColorRole role, const QColor& colour);
+    // Puts a text into the tooltip and the accessible name.
+    void Describe(const QString& text);
 
     QString m_purpose;
     int m_lines = 1;

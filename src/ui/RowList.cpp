@@ -1,5 +1,6 @@
 #include "ui/RowList.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -55,6 +56,31 @@ void RowList::SelectRow(int row) {
     m_quiet = true;
     setCurrentIndex(model()->index(row, 0));
     m_quiet = false;
+}
+
+// The base class looks for a row among all others, going out from the one that it looked at last. In a
+// list of a million, a jump to its end would be felt; here a row is where its number says.
+QRect RowList::visualRect(const QModelIndex& index) const {
+    const QModelIndex top = indexAt(QPoint(0, 0));
+    if (!index.isValid() || !top.isValid() || isColumnHidden(index.column()) || verticalScrollMode() != ScrollPerItem) {
+        return QTreeView::visualRect(index);
+    }
+    const int height = rowHeight(top);
+    return {columnViewportPosition(index.column()), (index.row() - top.row()) * height, columnWidth(index.column()),
+            height};
+}
+
+void RowList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    // What the base class adds: it looks for both rows, to paint their frames and to tell a screen reader.
+    if (QAccessible::isActive()) {
+        QTreeView::currentChanged(current, previous);
+        return;
+    }
+    QAbstractItemView::currentChanged(current, previous);
+    for (const QModelIndex& index : {previous, current}) {
+        const QRect row = visualRect(index);
+        viewport()->update(0, row.top(), viewport()->width(), row.height());
+    }
 }
 
 void RowList::CopySelection() const {

@@ -18,6 +18,9 @@ public:
     // Selects one row and scrolls to it, as the program's own doing: nothing is announced.
     void SelectRow(int row);
 
+    // Where an index is shown, also outside of what is visible.
+    [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
+
     // Copies the selected rows as lines, their cells separated by tabs.
     void CopySelection() const;
 
@@ -27,6 +30,7 @@ Q_SIGNALS:
     void Resized();
 
 protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
