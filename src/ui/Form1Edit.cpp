@@ -132,9 +132,7 @@ void Form1::ChangeSelectedMarkers(MarkerCommand command, QPushButton& button) {
     ChangeMarkers(command, SelectedVariations(), m_desktop);
     ShowNextUndo(CurrentUndoStep().WhatAmI());
     // The rows stay where they are, and selected, until the list is filled again.
-    for (const int row : m_controls.lvVariations->SelectedRows()) {
-        m_variations->RefreshRow(row);
-    }
+    m_variations->RefreshRows(m_controls.lvVariations->SelectedRows());
     if (lEditIndex > 0) {
         PutIntoEditBox(Text::ToQt(VariationInCurrentDistrict(lEditIndex).Text));
     }

@@ -52,7 +52,10 @@ QString ForBox(std::string_view text) {
 }
 
 QString ForList(std::string_view text) {
-    QString result = Shortened(text).replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    QString result = Shortened(text);
+    if (result.contains(QLatin1Char('\r'))) {
+        result.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    }
     for (QChar& c : result) {
         if (c == QLatin1Char('\t')) {
             c = TabSymbol;

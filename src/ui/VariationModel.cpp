@@ -6,6 +6,8 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
+
 using namespace CommonRoutines;
 
 namespace {
@@ -35,9 +37,15 @@ void VariationModel::SetRows(std::int32_t district, std::vector<VariationRow> ro
     endResetModel();
 }
 
-void VariationModel::RefreshRow(int row) {
-    m_rows[static_cast<std::size_t>(row)].state = StateOfVariation(VariationAt(row), m_district);
-    Q_EMIT dataChanged(index(row), index(row));
+void VariationModel::RefreshRows(const std::vector<int>& rows) {
+    if (rows.empty()) {
+        return;
+    }
+    for (const int row : rows) {
+        m_rows[static_cast<std::size_t>(row)].state = StateOfVariation(VariationAt(row), m_district);
+    }
+    const auto [first, last] = std::minmax_element(rows.begin(), rows.end());
+    Q_EMIT dataChanged(index(*first), index(*last));
 }
 
 const VariationRecord& VariationModel::VariationAt(int row) const {

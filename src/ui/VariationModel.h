@@ -14,8 +14,8 @@ public:
 
     void SetRows(std::int32_t district, std::vector<CommonRoutines::VariationRow> rows);
 
-    // The text of a row's variation has changed: its state is found anew, its place stays.
-    void RefreshRow(int row);
+    // The texts of some rows' variations have changed: their states are found anew, their places stay.
+    void RefreshRows(const std::vector<int>& rows);
 
     [[nodiscard]] const std::vector<CommonRoutines::VariationRow>& Rows() const { return m_rows; }
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
