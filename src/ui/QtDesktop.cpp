@@ -1,5 +1,6 @@
 #include "ui/QtDesktop.h"
 
+#include "ui/DurableFile.h"
 #include "ui/Text.h"
 #include "ui/VarCheck.h"
 #include "ui/frmCustomMessageBox.h"
@@ -16,7 +17,6 @@
 #include <QPageLayout>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
 #include <QSettings>
 #include <QStyle>
 #include <QTextDocument>
@@ -207,16 +207,7 @@ std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
 }
 
 bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
-    QSaveFile file(Text::PathToQt(path));
-    if (!file.open(QIODevice::WriteOnly)) {
-        return false;
-    }
-    const auto size = static_cast<qint64>(content.size());
-    // What is still in the buffer at the commit may fail to be written without the commit's noticing.
-    if (file.write(content.data(), size) != size || !file.flush()) {
-        file.cancelWriting();
-    }
-    return file.commit();
+    return DurableFile::Replace(Text::PathToQt(path), content);
 }
 
 std::string QtDesktop::ProgramFolder() {

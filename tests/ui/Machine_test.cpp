@@ -96,6 +96,43 @@ TEST_F(MachineTest, AWriteThatFailsHalfWayLeavesTheOldFile) {
     EXPECT_EQ(FilesInFolder(), QStringList{QStringLiteral("file")});
 }
 
+TEST_F(MachineTest, WhatIsNoFileIsNeverReplaced) {
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_FALSE(desktop.ReplaceFile(Path("pipe"), "new"));
+    struct stat pipe {};
+    ASSERT_EQ(stat(Path("pipe").c_str(), &pipe), 0);
+    EXPECT_TRUE(S_ISFIFO(pipe.st_mode));
+    EXPECT_FALSE(desktop.ReplaceFile("/dev/null", "new"));
+}
+
+TEST_F(MachineTest, ALinkStaysALinkAndItsFileIsReplaced) {
+    ASSERT_TRUE(QDir().mkdir(QString::fromStdString(Path("folder"))));
+    ASSERT_TRUE(desktop.ReplaceFile(Path("folder/file"), "old"));
+    ASSERT_EQ(symlink("folder/file", Path("link").c_str()), 0);
+    EXPECT_TRUE(desktop.ReplaceFile(Path("link"), "new"));
+    struct stat link {};
+    ASSERT_EQ(lstat(Path("link").c_str(), &link), 0);
+    EXPECT_TRUE(S_ISLNK(link.st_mode));
+    EXPECT_EQ(desktop.ReadFile(Path("folder/file")), "new");
+}
+
+TEST_F(MachineTest, AReplacedFileKeepsItsPermissions) {
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), "old"));
+    ASSERT_EQ(chmod(Path("file").c_str(), S_IRUSR | S_IWUSR | S_IRGRP), 0);
+    EXPECT_TRUE(desktop.ReplaceFile(Path("file"), "new"));
+    struct stat file {};
+    ASSERT_EQ(stat(Path("file").c_str(), &file), 0);
+    EXPECT_EQ(file.st_mode & 0777U, static_cast<unsigned>(S_IRUSR | S_IWUSR | S_IRGRP));
+}
+
+TEST_F(MachineTest, AnotherNameOfTheFileKeepsTheOldContent) {
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), "old"));
+    ASSERT_EQ(link(Path("file").c_str(), Path("other").c_str()), 0);
+    EXPECT_TRUE(desktop.ReplaceFile(Path("file"), "new"));
+    EXPECT_EQ(desktop.ReadFile(Path("file")), "new");
+    EXPECT_EQ(desktop.ReadFile(Path("other")), "old");
+}
+
 TEST_F(MachineTest, SettingsComeBackAndAreEmptyUntilSaved) {
     QSettings(QStringLiteral("Quexal"), QStringLiteral("QXEdit")).clear();
     EXPECT_EQ(desktop.GetSetting("Paths", "InFile"), "");
