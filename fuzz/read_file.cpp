@@ -5,6 +5,7 @@
 
 #include "checks/CompleteCheck.h"
 #include "core/Ansi.h"
+#include "core/Encoding.h"
 #include "core/Lines.h"
 #include "core/State.h"
 #include "edit/VariationList.h"
@@ -25,7 +26,7 @@ std::string ReadAndSave(const std::string& content, std::string_view answers) {
     CommentTypes.Reset();
     QuietDesktop desktop(content, answers);
     ReadDistrictFile(desktop);
-    return DistrictFileContent();
+    return Encoded(DistrictFileContent(), eFileEncoding);
 }
 
 void LookAtEverything() {

@@ -45,6 +45,17 @@ char32_t TakeCodePoint(std::string_view& utf8) {
     return length == 0 || codePoint < SmallestOfLength[length] ? NotACharacter : codePoint;
 }
 
+std::optional<char> ByteOf(char32_t codePoint) {
+    if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF)) {
+        return static_cast<char>(codePoint);
+    }
+    const auto found = std::find(UpperControls.begin(), UpperControls.end(), codePoint);
+    if (found == UpperControls.end()) {
+        return std::nullopt;
+    }
+    return static_cast<char>(0x80 + (found - UpperControls.begin()));
+}
+
 template <typename Change>
 std::string Changed(std::string_view text, Change change) {
     std::string result(text);
@@ -91,17 +102,34 @@ char16_t ToUnicode(char c) {
 }
 
 char FromUnicode(char32_t codePoint) {
-    if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF)) {
-        return static_cast<char>(codePoint);
+    return ByteOf(codePoint).value_or('?');
+}
+
+std::optional<char> TakeCharacter(std::string_view& utf8) {
+    return ByteOf(TakeCodePoint(utf8));
+}
+
+void AppendUtf8(std::string& utf8, char c) {
+    constexpr unsigned sixBits = 6;
+    constexpr unsigned lowSix = 0x3F;
+    const unsigned code = ToUnicode(c);
+    const auto append = [&](unsigned byte) { utf8 += static_cast<char>(byte); };
+    if (code < SmallestOfLength[2]) {
+        append(code);
+    } else if (code < SmallestOfLength[3]) {
+        append(0xC0U | (code >> sixBits));
+        append(0x80U | (code & lowSix));
+    } else {
+        append(0xE0U | (code >> (2 * sixBits)));
+        append(0x80U | ((code >> sixBits) & lowSix));
+        append(0x80U | (code & lowSix));
     }
-    const auto found = std::find(UpperControls.begin(), UpperControls.end(), codePoint);
-    return found == UpperControls.end() ? '?' : static_cast<char>(0x80 + (found - UpperControls.begin()));
 }
 
 std::string FromUtf8(std::string_view utf8) {
     std::string result;
     while (!utf8.empty()) {
-        result += FromUnicode(TakeCodePoint(utf8));
+        result += TakeCharacter(utf8).value_or('?');
     }
     return result;
 }

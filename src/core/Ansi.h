@@ -6,6 +6,7 @@
 
 #include "core/AnsiCase.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,6 +49,13 @@ void SplitInto(std::vector<std::string_view>& pieces, std::string_view text, cha
 
 // The byte of a code point; "?" for one that the code page lacks.
 [[nodiscard]] char FromUnicode(char32_t codePoint);
+
+// Takes the first character off a UTF-8 text that is not empty. Nothing is returned for one that the
+// code page lacks or for bytes that are no UTF-8, of which as many are taken as belong together.
+std::optional<char> TakeCharacter(std::string_view& utf8);
+
+// Appends a character as UTF-8.
+void AppendUtf8(std::string& utf8, char c);
 
 // A UTF-8 text (a file name of the machine, say) as code page text; bytes that are no UTF-8
 // become "?".

@@ -6,6 +6,7 @@ std::vector<DistrictRecord> Districts;
 std::int32_t lTableNumber = 0;
 std::int32_t lLineCount = 0;
 std::string sDataFileName;
+Encoding eFileEncoding = Encoding::Windows1252;
 bool bChanged = false;
 std::int32_t lCurrentDistrict = 0;
 
@@ -50,6 +51,7 @@ void ResetState() {
     ++lTableNumber;
     lLineCount = 0;
     sDataFileName.clear();
+    eFileEncoding = Encoding::Windows1252;
     bChanged = false;
     lCurrentDistrict = 0;
     lDistrictTotal = lInvalidTotal = lCapsOkTotal = 0;

@@ -4,6 +4,7 @@
 // as long as the program runs; only the routines named beside a variable write it. Tables are
 // vectors whose element 0 is never filled, so that an index is the number that the user sees.
 
+#include "core/Encoding.h"
 #include "core/Records.h"
 
 #include <cstdint>
@@ -18,6 +19,7 @@ extern std::vector<DistrictRecord> Districts; // filled by ReadDistrictFile, cha
 extern std::int32_t lTableNumber;             // raised when the table is filled anew; what is kept about it ends then
 extern std::int32_t lLineCount;               // lines in use; written by ReadDistrictFile, dropped to 0 after Quit
 extern std::string sDataFileName;             // full path, in the machine's own encoding; written by "Open File"
+extern Encoding eFileEncoding;                // of that file, which is saved in the same; written by ReadDistrictFile
 extern bool bChanged;                 // unsaved changes; set by every edit and repair, cleared by opening and saving
 extern std::int32_t lCurrentDistrict; // the district shown, 0 for none; written by choosing a district
 

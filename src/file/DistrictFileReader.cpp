@@ -272,7 +272,7 @@ void ReadDistrictFile(Desktop& desktop) {
     Districts = {}; // before the file is read, so that two files are never in memory at once
     ++lTableNumber;
     lLineCount = 0;
-    const auto content = desktop.ReadFile(sDataFileName);
+    auto content = desktop.ReadFile(sDataFileName);
     lDistrictTotal = lInvalidTotal = lCapsOkTotal = 0;
     bChanged = false;
     iRepairAction = NoRepair;
@@ -282,6 +282,8 @@ void ReadDistrictFile(Desktop& desktop) {
         sDataFileName.clear();
         return;
     }
+    eFileEncoding = EncodingOf(*content);
+    content = Decoded(std::move(*content), eFileEncoding);
     Districts.reserve(static_cast<std::size_t>(std::count(content->begin(), content->end(), '\n')) + InitialUpperBound);
     Districts.resize(InitialUpperBound + 1);
     FileRead(desktop).Run(*content);

@@ -45,7 +45,7 @@ void SaveDistrictFile(Desktop& desktop) {
     request.sFolder = Paths::FolderOf(sDataFileName);
     request.sFileName = Paths::NameOf(sDataFileName);
     const auto path = desktop.ChooseFileToSave(request);
-    if (path && desktop.ReplaceFile(*path, DistrictFileContent())) {
+    if (path && desktop.ReplaceFile(*path, Encoded(DistrictFileContent(), eFileEncoding))) {
         desktop.MsgBox("File Saved to " + Ansi::FromUtf8(*path), BoxIcon::Information);
     }
 }
