@@ -56,7 +56,7 @@ template <typename Item, typename TextOf>
 void SortByUpperCase(std::vector<Item>& items, TextOf textOf) {
     struct Key {
         UpperPrefix text;
-        std::uint32_t place;
+        std::uint32_t place = 0;
     };
     std::vector<Key> keys;
     keys.reserve(items.size());

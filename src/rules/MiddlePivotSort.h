@@ -37,7 +37,7 @@ public:
     void Swap(std::ptrdiff_t i, std::ptrdiff_t j) { std::swap(At(i), At(j)); }
 
 private:
-    Element& At(std::ptrdiff_t i) const { return m_elements[static_cast<std::size_t>(i)]; }
+    [[nodiscard]] Element& At(std::ptrdiff_t i) const { return m_elements[static_cast<std::size_t>(i)]; }
 
     std::span<Element> m_elements;
     const Less& m_less;
