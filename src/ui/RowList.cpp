@@ -76,6 +76,7 @@ void RowList::currentChanged(const QModelIndex& current, const QModelIndex& prev
         QTreeView::currentChanged(current, previous);
         return;
     }
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): to leave out the search of the class between is the point
     QAbstractItemView::currentChanged(current, previous);
     for (const QModelIndex& index : {previous, current}) {
         const QRect row = visualRect(index);
