@@ -3,8 +3,6 @@
 #include "core/State.h"
 #include "rules/SpellingIndex.h"
 
-#include <utility>
-
 namespace CommonRoutines {
 
 DistrictRecord& CurrentDistrict() {
@@ -27,7 +25,8 @@ std::int32_t FirstSlotWith(std::string_view text) {
 
 void StoreText(std::int32_t slot, std::string_view text) {
     Ansi::String& stored = VariationInCurrentDistrict(slot).Text;
-    const Ansi::String before = std::exchange(stored, text);
+    const Ansi::String before = stored;
+    stored = text;
     SpellingChanged(lCurrentDistrict, slot, before, stored);
 }
 

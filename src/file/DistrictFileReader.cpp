@@ -175,6 +175,7 @@ void FileRead::ReadVariation(DistrictRecord& record, std::int32_t k) {
         return;
     }
     variation.Text = Field(k);
+    // The rule has nothing to say of a text without the sign, which nearly all are.
     if (Field(k).find('?') != std::string_view::npos && !CheckQuestionMark(Field(k))) {
         ++record.iQuestionCount;
     }
