@@ -5,6 +5,7 @@
 #include "core/State.h"
 #include "edit/UndoJournal.h"
 #include "edit/Variations.h"
+#include "recovery/UnsavedChanges.h"
 #include "rules/Duplicates.h"
 #include "rules/Matching.h"
 
@@ -69,6 +70,7 @@ std::optional<AppliedChanges> ApplyChanges(std::span<const ChangeRow> rows, bool
     }
     bChanged = bChanged || applied.added > 0;
     FindDuplicateVariations(lCurrentDistrict, KeepPairs);
+    Unsaved.Write(desktop);
     return applied;
 }
 

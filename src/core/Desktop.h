@@ -6,6 +6,7 @@
 // machine's own encoding.
 
 #include "core/Report.h"
+#include "core/StateFolder.h"
 
 #include <cstdint>
 #include <optional>
@@ -61,6 +62,10 @@ public:
     virtual std::optional<std::string> ReadFile(const std::string& path) = 0;
     // Replaces a file at once and as a whole. False when that failed: the old file is then as it was.
     virtual bool ReplaceFile(const std::string& path, std::string_view content) = 0;
+    // The path without links in it; the path itself when nothing is there.
+    virtual std::string TruePath(const std::string& path) = 0;
+    // What the program keeps for the next time, should it stop unexpectedly.
+    virtual StateFolder& State() = 0;
 
     // The folder of the program itself, and making it the current folder.
     virtual std::string ProgramFolder() = 0;

@@ -4,6 +4,7 @@
 #include "core/State.h"
 #include "edit/UndoJournal.h"
 #include "edit/Variations.h"
+#include "recovery/UnsavedChanges.h"
 #include "rules/Duplicates.h"
 #include "rules/Markers.h"
 #include "rules/Matching.h"
@@ -110,6 +111,7 @@ void CommitText(std::string_view text, Desktop& desktop) {
     static_cast<void>(ValidateVariation(text, lCurrentDistrict)); // only the warning counts
     FindDuplicateVariations(lCurrentDistrict, !KeepPairs);
     bChanged = true;
+    Unsaved.Write(desktop);
 }
 
 std::string DeleteQuestion(std::span<const VariationRow> rows) {
@@ -128,6 +130,7 @@ void DeleteVariations(std::span<const VariationRow> rows, Desktop& desktop) {
     bChanged = true;
     lEditIndex = 0;
     FindDuplicateVariations(lCurrentDistrict, !KeepPairs);
+    Unsaved.Write(desktop);
 }
 
 } // namespace CommonRoutines

@@ -4,6 +4,7 @@
 #include "core/State.h"
 #include "edit/UndoJournal.h"
 #include "edit/Variations.h"
+#include "recovery/UnsavedChanges.h"
 
 namespace CommonRoutines {
 
@@ -54,6 +55,7 @@ void ChangeMarkers(MarkerCommand command, std::span<const VariationRow> rows, De
         StoreText(row.lIndex, changed);
         bChanged = true;
     }
+    Unsaved.Write(desktop);
 }
 
 } // namespace CommonRoutines

@@ -2,6 +2,7 @@
 
 #include "core/State.h"
 #include "edit/Variations.h"
+#include "recovery/UnsavedChanges.h"
 
 #include <algorithm>
 
@@ -83,9 +84,10 @@ void RecordChange(std::int16_t iUndoType, std::string_view newName, std::string_
     CurrentUndoStep().NewItem({std::string(newName), iUndoType, std::string(oldName)}, lCurrentDistrict, desktop);
 }
 
-bool TakeBack(const UndoItem& item, std::span<const VariationRow> rows) {
+bool TakeBack(const UndoItem& item, std::span<const VariationRow> rows, Desktop& desktop) {
     const bool changed = ChangeTable(item, rows);
     bChanged = bChanged || changed;
+    Unsaved.Write(desktop);
     return changed;
 }
 

@@ -1,9 +1,21 @@
 #include "edit/Variations.h"
 
 #include "core/State.h"
+#include "recovery/UnsavedChanges.h"
 #include "rules/SpellingIndex.h"
 
 namespace CommonRoutines {
+
+namespace {
+
+void PutText(std::int32_t slot, std::string_view text) {
+    Ansi::String& stored = VariationInCurrentDistrict(slot).Text;
+    const Ansi::String before = stored;
+    stored = text;
+    SpellingChanged(lCurrentDistrict, slot, before, stored);
+}
+
+} // namespace
 
 DistrictRecord& CurrentDistrict() {
     return RecordOf(lCurrentDistrict);
@@ -24,14 +36,15 @@ std::int32_t FirstSlotWith(std::string_view text) {
 }
 
 void StoreText(std::int32_t slot, std::string_view text) {
-    Ansi::String& stored = VariationInCurrentDistrict(slot).Text;
-    const Ansi::String before = stored;
-    stored = text;
-    SpellingChanged(lCurrentDistrict, slot, before, stored);
+    if (VariationInCurrentDistrict(slot).Text != text) {
+        Unsaved.Note(lCurrentDistrict, slot, text);
+        PutText(slot, text);
+    }
 }
 
 std::int32_t AddSlot(std::string_view text, std::int32_t spare) {
     DistrictRecord& district = CurrentDistrict();
+    Unsaved.Note(lCurrentDistrict, district.lVariationCount + 1, text);
     ++district.lVariationCount;
     if (district.lVariationCount >= std::ssize(district.Variations)) {
         district.Variations.resize(static_cast<std::size_t>(district.lVariationCount) + 1 +
@@ -39,7 +52,7 @@ std::int32_t AddSlot(std::string_view text, std::int32_t spare) {
     }
     const std::int32_t slot = district.lVariationCount;
     VariationInCurrentDistrict(slot) = {}; // one left from before may hold anything
-    StoreText(slot, text);
+    PutText(slot, text);
     return slot;
 }
 

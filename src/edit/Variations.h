@@ -17,7 +17,8 @@ namespace CommonRoutines {
 [[nodiscard]] std::int32_t FirstSlotWith(std::string_view text);
 
 // Gives the variation in a slot another text. Everything that changes a variation after reading comes
-// through here or through AddSlot, so that what is kept about the texts follows.
+// through here or through AddSlot, so that what is kept about the texts follows, and so that the change
+// is noted as unsaved; the command that made it has it written (Unsaved.Write) before it ends.
 void StoreText(std::int32_t slot, std::string_view text);
 
 // Adds a slot with a text behind the last one and returns it, making room for `spare` more when the

@@ -6,6 +6,8 @@
 #include "core/State.h"
 #include "file/CommentTypes.h"
 #include "file/DistrictLine.h"
+#include "recovery/OpenMark.h"
+#include "recovery/UnsavedChanges.h"
 #include "repair/RepairNullVariation.h"
 #include "rules/Capitals.h"
 #include "rules/Duplicates.h"
@@ -46,6 +48,7 @@ private:
     void ReadVariations(DistrictRecord& record);
     void ReadVariation(DistrictRecord& record, std::int32_t k);
     void RepairVariation(DistrictRecord& record, std::int32_t k);
+    static void StoreRepaired(DistrictRecord& record, std::int32_t k, std::string_view text);
     void SetField(std::int32_t k, std::string text);
     void ReportLine();
     void ShowReport();
@@ -212,22 +215,29 @@ void FileRead::RepairVariation(DistrictRecord& record, std::int32_t k) {
     --record.lInvalidCount;
     switch (iRepairAction) {
     case CombinePrevious:
-        VariationOf(record, k - 1).Text = Field(k);
-        VariationOf(record, k) = DeletedSlot();
+        StoreRepaired(record, k - 1, Field(k));
+        StoreRepaired(record, k, DeletedText);
         break;
     case CombineNext:
         SetField(k + 1, std::string(Field(k))); // read again as the next variation
-        VariationOf(record, k).Text = DeletedText;
+        Unsaved.Note(lLineCount, k + 1, Field(k));
+        StoreRepaired(record, k, DeletedText);
         break;
     case Remove:
-        VariationOf(record, k) = DeletedSlot();
+        StoreRepaired(record, k, DeletedText);
         break;
     case Type:
-        VariationOf(record, k).Text = Field(k);
+        StoreRepaired(record, k, Field(k));
         break;
     default:
         break;
     }
+    Unsaved.Write(m_desktop);
+}
+
+void FileRead::StoreRepaired(DistrictRecord& record, std::int32_t k, std::string_view text) {
+    Unsaved.Note(lLineCount, k, text);
+    VariationOf(record, k).Text = text;
 }
 
 void FileRead::SetField(std::int32_t k, std::string text) {
@@ -277,12 +287,15 @@ void ReadDistrictFile(Desktop& desktop) {
     lDistrictTotal = lInvalidTotal = lCapsOkTotal = 0;
     bChanged = false;
     iRepairAction = NoRepair;
+    DataFileMark.Clear(desktop);
+    Unsaved.Release(desktop);
     if (!content) {
         desktop.ShowBusy(false);
         desktop.MsgBox("The file cannot be read:\r\n" + Ansi::FromUtf8(sDataFileName), BoxIcon::Exclamation);
         sDataFileName.clear();
         return;
     }
+    Unsaved.Begin(desktop, sDataFileName, *content, Numbering::AsRead);
     eFileEncoding = EncodingOf(*content);
     content = Decoded(std::move(*content), eFileEncoding);
     Districts.reserve(static_cast<std::size_t>(std::count(content->begin(), content->end(), '\n')) + InitialUpperBound);

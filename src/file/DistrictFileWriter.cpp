@@ -4,6 +4,7 @@
 #include "core/Desktop.h"
 #include "core/Paths.h"
 #include "core/State.h"
+#include "recovery/UnsavedChanges.h"
 
 namespace CommonRoutines {
 
@@ -45,8 +46,18 @@ void SaveDistrictFile(Desktop& desktop) {
     request.sFolder = Paths::FolderOf(sDataFileName);
     request.sFileName = Paths::NameOf(sDataFileName);
     const auto path = desktop.ChooseFileToSave(request);
-    if (path && desktop.ReplaceFile(*path, Encoded(DistrictFileContent(), eFileEncoding))) {
+    if (!path) {
+        return;
+    }
+    const std::string content = Encoded(DistrictFileContent(), eFileEncoding);
+    if (desktop.ReplaceFile(*path, content)) {
+        Unsaved.Remove(desktop);
+        Unsaved.Begin(desktop, *path, content, Numbering::AsSaved);
         desktop.MsgBox("File Saved to " + Ansi::FromUtf8(*path), BoxIcon::Information);
+    } else if (desktop.ReadFile(*path) == content) {
+        // It is there, but perhaps not to stay. What is changed from now on belongs to it; what was
+        // changed before stays left over in case the old file comes back.
+        Unsaved.Begin(desktop, *path, content, Numbering::AsSaved);
     }
 }
 

@@ -11,14 +11,24 @@
 #include <unistd.h>
 #endif
 
+#include <limits>
+
 namespace DurableFile {
 
 namespace {
+
+// Positions in a file are 32-bit numbers.
+constexpr qint64 LargestFile = std::numeric_limits<std::int32_t>::max();
 
 #ifdef Q_OS_UNIX
 
 bool SyncContent(int handle) {
     return fsync(handle) == 0;
+}
+
+// For a file that has its name already; of what is kept about it, only the size matters.
+bool SyncData(int handle) {
+    return fdatasync(handle) == 0;
 }
 
 bool SyncFolder(const QString& folder) {
@@ -37,6 +47,9 @@ bool SyncFolder(const QString& folder) {
 bool SyncContent(int /*handle*/) {
     return true;
 }
+bool SyncData(int /*handle*/) {
+    return true;
+}
 bool SyncFolder(const QString& /*folder*/) {
     return true;
 }
@@ -44,6 +57,20 @@ bool SyncFolder(const QString& /*folder*/) {
 #endif
 
 } // namespace
+
+std::optional<std::string> Read(const QString& path) {
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || file.size() > LargestFile || !file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    std::string content(static_cast<std::size_t>(file.size()), '\0');
+    const qint64 length = file.read(content.data(), static_cast<qint64>(content.size()));
+    if (length < 0) {
+        return std::nullopt;
+    }
+    content.resize(static_cast<std::size_t>(length));
+    return content;
+}
 
 bool Replace(const QString& path, std::string_view content) {
     const QFileInfo target(path);
@@ -62,6 +89,15 @@ bool Replace(const QString& path, std::string_view content) {
     }
     // A link leads to the folder in which the name of the new file stands.
     return file.commit() && SyncFolder(QFileInfo(QFileInfo(path).canonicalFilePath()).absolutePath());
+}
+
+bool Extend(const QString& path, std::size_t kept, std::string_view added) {
+    QFile file(path);
+    const auto start = static_cast<qint64>(kept);
+    const auto size = static_cast<qint64>(added.size());
+    return file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered) && file.size() >= start &&
+           (file.size() == start || file.resize(start)) && file.seek(start) && file.write(added.data(), size) == size &&
+           SyncData(file.handle());
 }
 
 } // namespace DurableFile

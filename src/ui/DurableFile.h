@@ -2,10 +2,16 @@
 
 #include <QString>
 
+#include <cstddef>
+#include <optional>
+#include <string>
 #include <string_view>
 
 // Files that survive faults: of the disk, of the program, of the power.
 namespace DurableFile {
+
+// The whole content of a regular file of up to 2 GiB; nothing when it cannot be read.
+[[nodiscard]] std::optional<std::string> Read(const QString& path);
 
 // Replaces a file as a whole. True when the new content is on the disk under the file's name. Where
 // anything fails before that, the file is as it was, or as it is to be: never a part of either.
@@ -13,5 +19,9 @@ namespace DurableFile {
 // A symbolic link stays one, and the file that it leads to is replaced, keeping its permissions. Only
 // regular files are replaced, and only in folders that may be written to.
 [[nodiscard]] bool Replace(const QString& path, std::string_view content);
+
+// Lets a file go on with `added` behind its first `kept` bytes, which it must have. True when that is on
+// the disk. Where it fails, a part of what was to be added may follow the bytes that were kept.
+[[nodiscard]] bool Extend(const QString& path, std::size_t kept, std::string_view added);
 
 } // namespace DurableFile

@@ -157,7 +157,7 @@ void Form1::UndoClicked() {
     if (m_variations->rowCount() == 0) {
         RefreshVariationList(); // a filter may have cleared the list, in which the change is looked for
     }
-    TakeBack(undone.item, m_variations->Rows());
+    TakeBack(undone.item, m_variations->Rows(), m_desktop);
     ShowNextUndo(DescribeNextUndo());
     FindDuplicateVariations(undone.lDistrict, false);
     RefreshVariationList();

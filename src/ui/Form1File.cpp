@@ -3,11 +3,13 @@
 #include "core/Desktop.h"
 #include "core/Paths.h"
 #include "core/State.h"
+#include "edit/RestoreChanges.h"
 #include "edit/UndoJournal.h"
 #include "file/CommentTypes.h"
 #include "file/DistrictFileReader.h"
 #include "file/DistrictFileWriter.h"
 #include "file/DistrictList.h"
+#include "recovery/UnsavedChanges.h"
 #include "ui/CommentModels.h"
 #include "ui/DistrictColumns.h"
 #include "ui/DistrictModel.h"
@@ -19,8 +21,15 @@
 using namespace CommonRoutines;
 
 bool Form1::MayDiscardChanges() {
-    return !bChanged || m_desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
-                                         BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+    if (!bChanged) {
+        return true;
+    }
+    const bool mayDiscard = m_desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
+                                             BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+    if (mayDiscard) {
+        Unsaved.Remove(m_desktop);
+    }
+    return mayDiscard;
 }
 
 void Form1::OpenClicked() {
@@ -53,6 +62,7 @@ void Form1::OpenClicked() {
         lLineCount = 0;
     }
     if (lLineCount > 0) {
+        RestoreChanges(m_desktop);
         FillDistrictList();
         iEditMode = FileOpen;
         ApplyWindowMode();

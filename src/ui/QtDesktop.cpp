@@ -1,5 +1,6 @@
 #include "ui/QtDesktop.h"
 
+#include "ui/DateTimeText.h"
 #include "ui/DurableFile.h"
 #include "ui/Text.h"
 #include "ui/VarCheck.h"
@@ -7,12 +8,10 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
-#include <QDateTime>
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
-#include <QLocale>
 #include <QMessageBox>
 #include <QPageLayout>
 #include <QPrinter>
@@ -21,16 +20,11 @@
 #include <QStyle>
 #include <QTextDocument>
 
-#include <limits>
-
 namespace {
 
 constexpr QLatin1String ProgramTitle("Quexal Editor");
 constexpr QLatin1String SettingsOrganisation("Quexal");
 constexpr QLatin1String SettingsApplication("QXEdit");
-
-// Positions in a file are 32-bit numbers.
-constexpr qint64 LargestFile = std::numeric_limits<std::int32_t>::max();
 
 constexpr QMarginsF PageMargins(20, 20, 20, 20); // millimetres
 
@@ -192,22 +186,16 @@ std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& reques
 }
 
 std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
-    const QString name = Text::PathToQt(path);
-    QFile file(name);
-    if (!QFileInfo(name).isFile() || file.size() > LargestFile || !file.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
-    }
-    std::string content(static_cast<std::size_t>(file.size()), '\0');
-    const qint64 length = file.read(content.data(), static_cast<qint64>(content.size()));
-    if (length < 0) {
-        return std::nullopt;
-    }
-    content.resize(static_cast<std::size_t>(length));
-    return content;
+    return DurableFile::Read(Text::PathToQt(path));
 }
 
 bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
     return DurableFile::Replace(Text::PathToQt(path), content);
+}
+
+std::string QtDesktop::TruePath(const std::string& path) {
+    const QString truePath = QFileInfo(Text::PathToQt(path)).canonicalFilePath();
+    return truePath.isEmpty() ? path : Text::PathFromQt(truePath);
 }
 
 std::string QtDesktop::ProgramFolder() {
@@ -254,16 +242,11 @@ bool QtDesktop::Print(std::span<const std::string> lines) {
 }
 
 std::string QtDesktop::Today() {
-    return Text::FromQt(QLocale::c().toString(QDate::currentDate(), QStringLiteral("dd MMM yyyy")));
+    return DateTimeText::Day(QDate::currentDate());
 }
 
 std::string QtDesktop::ShortTime() {
-    constexpr QChar narrowNoBreakSpace(0x202F);
-    const QTime now = QTime::currentTime();
-    std::string text =
-        Text::FromQt(QLocale().toString(now, QLocale::ShortFormat).replace(narrowNoBreakSpace, QLatin1Char(' ')));
-    // Not every country's time can be written in the code page.
-    return text.find('?') == std::string::npos ? text : Text::FromQt(now.toString(QStringLiteral("HH:mm")));
+    return DateTimeText::ShortTime(QTime::currentTime());
 }
 
 void QtDesktop::Beep() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Desktop.h"
+#include "ui/QtStateFolder.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -22,6 +23,8 @@ public:
     std::optional<std::string> ChooseFileToSave(const FileRequest& request) override;
     std::optional<std::string> ReadFile(const std::string& path) override;
     bool ReplaceFile(const std::string& path, std::string_view content) override;
+    std::string TruePath(const std::string& path) override;
+    StateFolder& State() override { return m_state; }
     std::string ProgramFolder() override;
     void EnterProgramFolder() override;
     std::string GetSetting(std::string_view section, std::string_view key) override;
@@ -37,4 +40,5 @@ private:
     std::optional<std::string> Choose(QFileDialog& dialog, const FileRequest& request);
 
     QPointer<QWidget> m_window;
+    QtStateFolder m_state;
 };

@@ -110,7 +110,7 @@ class CompleteCheckReference : public StateTest {};
 TEST_F(CompleteCheckReference, AgreesLineByLineOnRandomTables) {
     std::size_t found = 0;
     for (unsigned seed = 0; seed < 4000; ++seed) {
-        ResetState();
+        ResetEverything();
         const RandomTable table(seed);
         const std::vector<std::string> lines = CompleteVariationCheck().Items;
         ASSERT_EQ(lines, SlowCheck().Lines()) << "seed " << seed;
@@ -123,7 +123,7 @@ TEST_F(CompleteCheckReference, AgreesLineByLineOnLongTextsThatShareTheirBeginnin
     std::mt19937 random(29);
     std::size_t found = 0;
     for (int round = 0; round < 300; ++round) {
-        ResetState();
+        ResetEverything();
         for (auto districts = 1 + random() % 6; districts > 0; --districts) {
             std::vector<std::string> variations(random() % 40);
             for (std::string& variation : variations) {

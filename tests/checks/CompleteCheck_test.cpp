@@ -77,7 +77,7 @@ TEST_F(CompleteCheckTest, TheNameOfAnotherDistrictIsFoundAsWhicheverOfTheTwoSort
     AddDistrict("Alpha", {"Beta"});
     AddDistrict("Beta");
     EXPECT_EQ(Lines(), Texts{"Beta and Alpha both use the variation BETA"});
-    ResetState();
+    ResetEverything();
     AddDistrict("Beta", {"Zoo"});
     AddDistrict("Alpha", {"Beta"});
     EXPECT_EQ(Lines(), Texts{"Alpha and Beta both use the variation Beta"});

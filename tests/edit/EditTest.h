@@ -14,11 +14,6 @@ using Texts = std::vector<std::string>;
 // A fresh state with an empty undo journal, and short ways to show a district and to look at it.
 class EditTest : public StateTest {
 protected:
-    EditTest() {
-        CommonRoutines::ClearUndoRing();
-        CommonRoutines::iUndoStep = 1;
-    }
-
     // Appends a district and makes it the current one, with nothing under way.
     static std::int32_t Show(const std::string& name, const Texts& variations = {}) {
         CommonRoutines::lCurrentDistrict = AddDistrict(name, variations);

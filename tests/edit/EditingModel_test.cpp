@@ -9,7 +9,7 @@ namespace {
 std::vector<Texts> ReadAgain(const std::string& file) {
     ScriptedDesktop desktop;
     desktop.recordReports = true;
-    ResetState();
+    ResetEverything();
     ReadText(desktop, file);
     return EditingSession::SurvivorsInTable();
 }

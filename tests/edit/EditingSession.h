@@ -28,11 +28,9 @@ public:
         for (auto count = 2 + UpTo(3); count > 0; --count) {
             AddLine(file, count);
         }
-        CommonRoutines::ResetState();
+        ResetEverything();
         ReadText(m_desktop, file);
         CommonRoutines::iEditMode = CommonRoutines::FileOpen;
-        CommonRoutines::ClearUndoRing();
-        CommonRoutines::iUndoStep = 1;
         m_original = m_slow.lines;
         Choose();
     }

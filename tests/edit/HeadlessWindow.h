@@ -95,7 +95,7 @@ public:
         if (undone.lDistrict != CommonRoutines::lCurrentDistrict) {
             Choose(undone.lDistrict);
         }
-        CommonRoutines::TakeBack(undone.item, listed);
+        CommonRoutines::TakeBack(undone.item, listed, m_desktop);
         nextUndo = CommonRoutines::DescribeNextUndo();
         CommonRoutines::FindDuplicateVariations(undone.lDistrict, false);
         List();

@@ -20,13 +20,13 @@ protected:
 
     // The rows of a district with this one comment line.
     static Rows RowsFor(const std::string& line) {
-        ResetState();
+        ResetEverything();
         AddRetained(line);
         return RowsOf(AddDistrict("Ash"));
     }
 
     static bool HasType(const std::string& line, std::string_view type) {
-        ResetState();
+        ResetEverything();
         AddRetained(line);
         return DistrictHasCommentType(AddDistrict("Ash"), type);
     }

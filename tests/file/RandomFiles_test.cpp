@@ -95,7 +95,7 @@ private:
 };
 
 std::string ReadAndSave(RandomUser& user, std::string content) {
-    ResetState();
+    ResetEverything();
     ReadText(user, std::move(content));
     if (iRepairAction == Quit) {
         lLineCount = 0; // as opening a file does

@@ -67,7 +67,7 @@ TEST_F(DuplicatesReference, AgreesOnRandomDistrictsOfAllSizes) {
     std::size_t pairs = 0;
     std::size_t without = 0;
     for (int round = 0; round < 3'000; ++round) {
-        ResetState();
+        ResetEverything();
         std::vector<std::string> variations(random() % (round % 4 == 0 ? 120U : 12U));
         std::generate(variations.begin(), variations.end(), [&] {
             return random() % 3 == 0 ? Slow::RandomText(random, "!% aAbB\t\xE9\xC9", 4) : Slow::SimilarText(random);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Desktop.h"
+#include "support/MemoryStateFolder.h"
 
 #include <deque>
 #include <functional>
@@ -42,6 +43,7 @@ public:
     bool busy = false;
     int programFolderEntries = 0; // how often the program's folder became the current one
     FileRequest lastRequest;      // of the last file dialogue
+    MemoryStateFolder state;
 
     BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override;
     std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
@@ -52,6 +54,8 @@ public:
     std::optional<std::string> ChooseFileToSave(const FileRequest& request) override;
     std::optional<std::string> ReadFile(const std::string& path) override;
     bool ReplaceFile(const std::string& path, std::string_view content) override;
+    std::string TruePath(const std::string& path) override { return path; }
+    StateFolder& State() override { return state; }
     std::string ProgramFolder() override { return "/program"; }
     void EnterProgramFolder() override { ++programFolderEntries; }
     std::string GetSetting(std::string_view section, std::string_view key) override;

@@ -1,5 +1,10 @@
 #include "support/Table.h"
 
+#include "edit/UndoJournal.h"
+#include "file/CommentTypes.h"
+#include "recovery/OpenMark.h"
+#include "recovery/UnsavedChanges.h"
+
 using namespace CommonRoutines;
 
 namespace {
@@ -11,6 +16,15 @@ DistrictRecord& AddLine() {
 }
 
 } // namespace
+
+void ResetEverything() {
+    ResetState();
+    CommentTypes.Reset();
+    ClearUndoRing();
+    iUndoStep = 1;
+    Unsaved = {};
+    DataFileMark = {};
+}
 
 std::int32_t AddDistrict(const std::string& name, const std::vector<std::string>& variations) {
     DistrictRecord& record = AddLine();

@@ -7,10 +7,13 @@
 #include <string>
 #include <vector>
 
+// Everything as it is when the program starts.
+void ResetEverything();
+
 // A fresh state for every test, and short ways to put districts into the table.
 class StateTest : public testing::Test {
 protected:
-    StateTest() { CommonRoutines::ResetState(); }
+    StateTest() { ResetEverything(); }
 };
 
 // Appends a district with these variations to the table and returns its index.

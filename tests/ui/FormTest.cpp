@@ -4,8 +4,7 @@
 #include <QPushButton>
 
 FormTest::FormTest() {
-    CommonRoutines::ResetState();
-    CommonRoutines::CommentTypes.Reset();
+    ResetEverything();
     desktop.files["/program/qx_lower.txt"] = "of,the,upon\r\n";
     desktop.recordReports = true;
     form = std::make_unique<Form1>(desktop);

@@ -4,6 +4,7 @@
 #include "file/CommentTypes.h"
 #include "support/Reading.h"
 #include "support/ScriptedDesktop.h"
+#include "support/Table.h"
 #include "ui/Form1.h"
 #include "ui/RowList.h"
 

@@ -14,5 +14,6 @@ int main(int argc, char* argv[]) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    qputenv("XDG_STATE_HOME", settings.path().toUtf8());
     return RUN_ALL_TESTS();
 }

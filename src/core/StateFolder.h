@@ -1,0 +1,46 @@
+#pragma once
+
+// The folder, one for each user, in which the program keeps what has to outlive it when it stops
+// unexpectedly. A part of the Desktop port. Files are named without their folder.
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+enum class LockResult {
+    Taken,
+    HeldByAnother, // by a living process, this one included
+    Impossible,    // the folder cannot be written to, say
+};
+
+class StateFolder {
+public:
+    StateFolder() = default;
+    StateFolder(const StateFolder&) = delete;
+    StateFolder& operator=(const StateFolder&) = delete;
+    virtual ~StateFolder() = default;
+
+    // All files, locks among them, in the order of their names.
+    virtual std::vector<std::string> Names() = 0;
+    // A name that no file has had, behind all earlier ones in their order.
+    virtual std::string NewName() = 0;
+
+    virtual std::optional<std::string> Read(const std::string& name) = 0;
+    // Puts a file there as a whole, and makes it go on behind its first `kept` bytes, which must be there.
+    // True when that is on the disk. Where it fails, what was there before, or was to be kept, still is.
+    virtual bool Replace(const std::string& name, std::string_view content) = 0;
+    virtual bool Extend(const std::string& name, std::size_t kept, std::string_view added) = 0;
+    virtual bool Rename(const std::string& name, const std::string& newName) = 0;
+    virtual bool Remove(const std::string& name) = 0;
+
+    // Makes a file that is a lock until Unlock, or the end of the process, which removes it. A lock whose
+    // process has died is taken over.
+    virtual LockResult Lock(const std::string& name) = 0;
+    virtual void Unlock(const std::string& name) = 0;
+
+    // For messages: where a file is, and when it was last written, as Windows-1252.
+    virtual std::string PathOf(const std::string& name) = 0;
+    virtual std::string TimeOf(const std::string& name) = 0;
+};

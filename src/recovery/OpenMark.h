@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+class Desktop;
+
+// The mark by which other editors of the same user know that this one has a data file open.
+class OpenMark {
+public:
+    // Marks this file instead of the one marked before. True when another editor has it open, too.
+    [[nodiscard]] bool Set(Desktop& desktop, const std::string& path);
+    void Clear(Desktop& desktop);
+
+private:
+    std::string m_name; // of the lock that is the mark
+};
+
+extern OpenMark DataFileMark;

@@ -1,0 +1,162 @@
+#include "recovery/RecoveryFile.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include <xxhash.h>
+
+namespace {
+
+constexpr std::string_view FirstLine = "Quexal Editor, unsaved changes, version 1";
+constexpr std::size_t CheckLength = 16;
+constexpr char LineEnd = '\n';
+constexpr int Hexadecimal = 16;
+
+std::string Hex(XXH64_hash_t number) {
+    std::array<char, CheckLength> digits{};
+    const char* const end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), std::uint64_t{number}, Hexadecimal).ptr;
+    const auto length = static_cast<std::size_t>(end - digits.data());
+    return std::string(CheckLength - length, '0').append(digits.data(), length);
+}
+
+// A line with its checksum in front.
+std::string Checked(const std::string& body) {
+    return Hex(XXH3_64bits(body.data(), body.size())) + ' ' + body + LineEnd;
+}
+
+// The body of a line; nothing when its checksum says otherwise.
+std::optional<std::string_view> BodyOf(std::string_view line) {
+    if (line.size() <= CheckLength || line[CheckLength] != ' ') {
+        return std::nullopt;
+    }
+    const std::string_view body = line.substr(CheckLength + 1);
+    return line.substr(0, CheckLength) == Hex(XXH3_64bits(body.data(), body.size())) ? std::optional(body)
+                                                                                    : std::nullopt;
+}
+
+// A text without line ends, and back.
+std::string Escaped(std::string_view text) {
+    std::string escaped;
+    escaped.reserve(text.size());
+    for (const char c : text) {
+        if (c == '\\') {
+            escaped += "\\\\";
+        } else if (c == LineEnd) {
+            escaped += "\\n";
+        } else {
+            escaped += c;
+        }
+    }
+    return escaped;
+}
+
+std::optional<std::string> Unescaped(std::string_view escaped) {
+    std::string text;
+    text.reserve(escaped.size());
+    for (std::size_t i = 0; i < escaped.size(); ++i) {
+        if (escaped[i] != '\\') {
+            text += escaped[i];
+            continue;
+        }
+        ++i;
+        if (i == escaped.size() || (escaped[i] != '\\' && escaped[i] != 'n')) {
+            return std::nullopt;
+        }
+        text += escaped[i] == 'n' ? LineEnd : '\\';
+    }
+    return text;
+}
+
+// Takes the text before the next blank off the front, the blank as well.
+std::string_view TakeWord(std::string_view& rest) {
+    const std::string_view word = rest.substr(0, rest.find(' '));
+    rest.remove_prefix(std::min(word.size() + 1, rest.size()));
+    return word;
+}
+
+template <typename Number>
+bool TakeNumber(std::string_view& rest, Number& number) {
+    const std::string_view word = TakeWord(rest);
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    return error == std::errc() && end == word.data() + word.size();
+}
+
+std::optional<FileIdentity> ParseHeader(std::string_view body) {
+    FileIdentity file;
+    if (!TakeNumber(body, file.size)) {
+        return std::nullopt;
+    }
+    file.sDigest = TakeWord(body);
+    auto path = Unescaped(body);
+    if (file.sDigest.size() != 2 * CheckLength || !path) {
+        return std::nullopt;
+    }
+    file.sPath = std::move(*path);
+    return file;
+}
+
+std::optional<TextChange> ParseRecord(std::string_view body) {
+    TextChange change;
+    std::size_t length = 0;
+    if (!TakeNumber(body, change.lLine) || !TakeNumber(body, change.lSlot) || !TakeNumber(body, length)) {
+        return std::nullopt;
+    }
+    auto text = Unescaped(body);
+    if (change.lLine < 1 || change.lSlot < 1 || !text || text->size() != length) {
+        return std::nullopt;
+    }
+    change.sText = std::move(*text);
+    return change;
+}
+
+// The lines that have an end.
+std::string_view WholeLines(std::string_view content) {
+    content = content.substr(0, content.find_last_not_of('\0') + 1);
+    return content.substr(0, content.rfind(LineEnd) + 1);
+}
+
+} // namespace
+
+FileIdentity IdentityOf(std::string_view path, std::string_view bytes) {
+    const XXH128_hash_t digest = XXH3_128bits(bytes.data(), bytes.size());
+    return {std::string(path), bytes.size(), Hex(digest.high64) + Hex(digest.low64)};
+}
+
+std::string RecoveryHeader(const FileIdentity& file) {
+    return std::string(FirstLine) + LineEnd +
+           Checked(std::to_string(file.size) + ' ' + file.sDigest + ' ' + Escaped(file.sPath));
+}
+
+std::string RecoveryRecord(std::int32_t line, std::int32_t slot, std::string_view text) {
+    return Checked(std::to_string(line) + ' ' + std::to_string(slot) + ' ' + std::to_string(text.size()) + ' ' +
+                   Escaped(text));
+}
+
+std::optional<RecoveryFile> ParseRecoveryFile(std::string_view content) {
+    std::string_view rest = WholeLines(content);
+    const auto nextLine = [&rest] {
+        const std::string_view line = rest.substr(0, rest.find(LineEnd));
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+        return line;
+    };
+    if (nextLine() != FirstLine) {
+        return std::nullopt;
+    }
+    const auto header = BodyOf(nextLine());
+    auto file = header ? ParseHeader(*header) : std::nullopt;
+    if (!file) {
+        return std::nullopt;
+    }
+    RecoveryFile recovery{std::move(*file), {}};
+    while (!rest.empty()) {
+        const auto body = BodyOf(nextLine());
+        auto change = body ? ParseRecord(*body) : std::nullopt;
+        if (!change) {
+            return std::nullopt;
+        }
+        recovery.changes.push_back(std::move(*change));
+    }
+    return recovery;
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+// The recovery file: the changes of a table that no data file holds yet, each in a line of its own
+// that goes on the disk as soon as it is made. A file that can still be trusted is told from one that
+// cannot by a checksum in every line.
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The data file to which changes belong.
+struct FileIdentity {
+    std::string sPath; // without links, in the machine's own encoding
+    std::size_t size = 0;
+    std::string sDigest; // of its bytes: 32 hexadecimal digits
+
+    bool operator==(const FileIdentity&) const = default;
+    // True when the file is, byte for byte, that one, wherever it is.
+    [[nodiscard]] bool HasBytesOf(const FileIdentity& other) const {
+        return size == other.size && sDigest == other.sDigest;
+    }
+};
+
+// A slot of a line that got another text. Lines and slots are numbered from 1, as the file is read; a
+// slot behind the last one is a new variation.
+struct TextChange {
+    std::int32_t lLine = 0;
+    std::int32_t lSlot = 0;
+    std::string sText;
+
+    bool operator==(const TextChange&) const = default;
+};
+
+struct RecoveryFile {
+    FileIdentity file;
+    std::vector<TextChange> changes; // in the order in which they were made
+};
+
+// What identifies a file with these bytes. The digest is XXH3 of 128 bits, which tells versions of a
+// file apart at the speed of memory; it does not protect from somebody who forges one.
+[[nodiscard]] FileIdentity IdentityOf(std::string_view path, std::string_view bytes);
+
+// The beginning of a recovery file, and what each change adds to it.
+[[nodiscard]] std::string RecoveryHeader(const FileIdentity& file);
+[[nodiscard]] std::string RecoveryRecord(std::int32_t line, std::int32_t slot, std::string_view text);
+
+// A recovery file from its bytes; nothing when it is damaged, or is none. A last line without its end
+// was never written whole and does not count, nor do zero bytes that a power cut left at the end.
+[[nodiscard]] std::optional<RecoveryFile> ParseRecoveryFile(std::string_view content);

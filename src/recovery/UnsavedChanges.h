@@ -1,0 +1,66 @@
+#pragma once
+
+#include "recovery/RecoveryFile.h"
+#include "recovery/SlotNumbers.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+class Desktop;
+class StateFolder;
+
+namespace CommonRoutines {
+
+// How the slots of the table stand in the file from which it would be read again.
+enum class Numbering { AsRead, AsSaved };
+
+// The changes of the table that no data file holds yet, written to a recovery file before the user
+// can do anything else. The file is made when there is a first change. It is locked as long as its
+// editor lives, so that one without a living editor is known as left over.
+class UnsavedChanges {
+public:
+    // The table is, or is about to become, what is read from these bytes. Nothing is removed: what has
+    // not been saved so far stays left over.
+    void Begin(Desktop& desktop, const std::string& path, std::string_view bytes, Numbering numbering);
+
+    // To be called before a slot of the table gets another text.
+    void Note(std::int32_t line, std::int32_t slot, std::string_view text);
+
+    // Puts what has been noted on the disk. To be called before the user can do anything else. When it
+    // fails, the user is told, once for every file, and the next call tries again.
+    void Write(Desktop& desktop);
+
+    // What is noted and not yet written is what this left-over file holds. Its lock is taken over; the
+    // file goes when it is not needed any more.
+    void TakeOver(const std::string& leftOver) { m_takenOver = leftOver; }
+
+    // The changes are in a data file, or not wanted any more. Those to come are not noted until the
+    // next Begin.
+    void Remove(Desktop& desktop);
+
+    // Leaves the recovery file, if there is one, to whoever opens the data file next.
+    void Release(Desktop& desktop);
+
+    // The data file to which the changes belong.
+    [[nodiscard]] const FileIdentity& File() const { return m_file; }
+
+private:
+    void NoteInFile(std::int32_t line, std::int32_t slot, std::string_view text);
+    [[nodiscard]] bool TryToWrite(StateFolder& folder);
+
+    bool m_following = false;
+    Numbering m_numbering = Numbering::AsRead;
+    std::unordered_map<std::int32_t, SlotNumbers> m_numbers; // of lines changed since they were saved
+    FileIdentity m_file;
+    std::string m_content; // of the whole file; empty until there is a change
+    std::size_t m_onDisk = 0;
+    std::string m_name;      // of the recovery file, which is locked; empty until there is one
+    std::string m_takenOver; // a left-over file, which is locked
+    bool m_hasTold = false;
+};
+
+extern UnsavedChanges Unsaved;
+
+} // namespace CommonRoutines
