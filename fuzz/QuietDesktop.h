@@ -2,6 +2,24 @@
 
 #include "core/Desktop.h"
 
+// A state folder into which nothing can be put.
+class NoStateFolder : public StateFolder {
+public:
+    std::vector<std::string> Names() override { return {}; }
+    std::string NewName() override { return "name"; }
+    std::optional<std::string> Read(const std::string& /*name*/) override { return std::nullopt; }
+    bool Replace(const std::string& /*name*/, std::string_view /*content*/) override { return false; }
+    bool Extend(const std::string& /*name*/, std::size_t /*kept*/, std::string_view /*added*/) override {
+        return false;
+    }
+    bool Rename(const std::string& /*name*/, const std::string& /*newName*/) override { return false; }
+    bool Remove(const std::string& /*name*/) override { return false; }
+    LockResult Lock(const std::string& /*name*/) override { return LockResult::Impossible; }
+    void Unlock(const std::string& /*name*/) override {}
+    std::string PathOf(const std::string& name) override { return name; }
+    std::string TimeOf(const std::string& name) override { return name; }
+};
+
 // A desktop without a person: one file in memory, and a choice for every repair taken in turn from a
 // list of answers.
 class QuietDesktop : public Desktop {
@@ -21,6 +39,8 @@ public:
     std::optional<std::string> ChooseFileToSave(const FileRequest& /*request*/) override { return std::nullopt; }
     std::optional<std::string> ReadFile(const std::string& /*path*/) override { return m_content; }
     bool ReplaceFile(const std::string& /*path*/, std::string_view /*content*/) override { return true; }
+    std::string TruePath(const std::string& path) override { return path; }
+    StateFolder& State() override { return m_state; }
     std::string ProgramFolder() override { return "/program"; }
     void EnterProgramFolder() override {}
     std::string GetSetting(std::string_view /*section*/, std::string_view /*key*/) override { return {}; }
@@ -36,6 +56,7 @@ private:
         return m_answers.empty() ? 0 : static_cast<unsigned char>(m_answers[m_next++ % m_answers.size()]);
     }
 
+    NoStateFolder m_state;
     std::string m_content;
     std::string m_answers;
     std::size_t m_next = 0;

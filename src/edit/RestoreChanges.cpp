@@ -89,6 +89,8 @@ void RestoreChanges(Desktop& desktop) {
         const std::string changes = "unsaved changes of " + folder.TimeOf(leftOver.sName);
         if (!leftOver.file) {
             TellSetAside(desktop, leftOver, "The recovery file with " + changes + " is damaged.");
+        } else if (leftOver.file->changes.empty()) {
+            Drop(folder, leftOver);
         } else if (leftOver.file->file.HasBytesOf(file) && !hasRestored) {
             hasRestored = Restore(desktop, leftOver);
         } else if (leftOver.file->file.sPath == file.sPath && !leftOver.file->file.HasBytesOf(file)) {

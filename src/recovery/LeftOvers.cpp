@@ -58,6 +58,11 @@ void GiveBack(StateFolder& folder, const LeftOver& leftOver) {
     folder.Unlock(RecoveryNames::LockOf(leftOver.sName));
 }
 
+void Drop(StateFolder& folder, const LeftOver& leftOver) {
+    folder.Remove(leftOver.sName);
+    GiveBack(folder, leftOver);
+}
+
 std::string SetAside(StateFolder& folder, const LeftOver& leftOver) {
     const std::string aside = leftOver.sName.substr(0, leftOver.sName.size() - Ending.size()).append(AsideEnding);
     const bool renamed = folder.Rename(leftOver.sName, aside);

@@ -24,10 +24,11 @@ struct LeftOver {
 };
 
 // All left-over files, the latest first. Each is locked, so that no other editor takes it, until it is
-// given back, removed or set aside.
+// given back, dropped or set aside.
 [[nodiscard]] std::vector<LeftOver> TakeLeftOvers(StateFolder& folder);
 
 void GiveBack(StateFolder& folder, const LeftOver& leftOver);
+void Drop(StateFolder& folder, const LeftOver& leftOver);
 
 // Keeps a left-over file where it is not offered any more, and no more than the last three of such.
 // Returns where it is kept, for a message.

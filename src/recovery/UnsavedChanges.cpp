@@ -27,12 +27,11 @@ void RemoveFile(StateFolder& folder, std::string& name) {
 } // namespace
 
 void UnsavedChanges::Begin(Desktop& desktop, const std::string& path, std::string_view bytes, Numbering numbering) {
-    const bool hasTold = m_hasTold && numbering == Numbering::AsSaved;
     Release(desktop);
     m_following = true;
     m_numbering = numbering;
     m_file = IdentityOf(desktop.TruePath(path), bytes);
-    m_hasTold = hasTold;
+    m_hasTold = m_hasTold && numbering == Numbering::AsSaved;
 }
 
 void UnsavedChanges::Note(std::int32_t line, std::int32_t slot, std::string_view text) {
@@ -102,7 +101,9 @@ void UnsavedChanges::Remove(Desktop& desktop) {
 void UnsavedChanges::Release(Desktop& desktop) {
     Unlock(desktop.State(), m_name);
     Unlock(desktop.State(), m_takenOver);
+    const bool hasTold = m_hasTold;
     *this = {};
+    m_hasTold = hasTold;
 }
 
 } // namespace CommonRoutines

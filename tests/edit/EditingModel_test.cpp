@@ -84,4 +84,25 @@ TEST_P(EditingModel, UndoingEverythingGivesTheTableBackUpToFreeSlots) {
     EXPECT_GT(reversible, Sessions / 4);
 }
 
+// Where the table was saved in between, slots that were free then have gone from the file, so only the
+// texts are the same.
+TEST_P(EditingModel, AnEditorThatDiesLosesNothing) {
+    int saved = 0;
+    for (std::uint32_t i = 0; i < Sessions; ++i) {
+        const std::uint32_t seed = 200'000 + GetParam() + i;
+        EditingSession session(seed, i % 2 == 0);
+        ASSERT_TRUE(Run(session, seed));
+        saved += session.HasSaved() ? 1 : 0;
+        if (session.HasSaved()) {
+            const std::vector<Texts> before = Sorted(EditingSession::SurvivorsInTable());
+            session.AfterCrash();
+            ASSERT_EQ(Sorted(EditingSession::SurvivorsInTable()), before) << "seed " << seed;
+        } else {
+            const std::vector<Texts> before = EditingSession::SlotsInTable();
+            ASSERT_EQ(session.AfterCrash(), before) << "seed " << seed;
+        }
+    }
+    EXPECT_GT(saved, Sessions / 20);
+}
+
 INSTANTIATE_TEST_SUITE_P(Seeds, EditingModel, testing::Values(1'000U, 2'000U, 3'000U));

@@ -2,7 +2,9 @@
 
 #include "edit/EditTest.h"
 #include "edit/HeadlessWindow.h"
+#include "edit/RestoreChanges.h"
 #include "edit/SlowEditor.h"
+#include "file/DistrictFileWriter.h"
 #include "support/Reading.h"
 
 #include <algorithm>
@@ -153,6 +155,32 @@ public:
         return Survivors(lines);
     }
 
+    // What a new editor has in its table after this one has died and the user wants the changes back: the
+    // slots of every line.
+    std::vector<Texts> AfterCrash() {
+        m_desktop.state.Die();
+        ResetEverything();
+        if (!m_desktop.state.Kept(".changes").empty()) {
+            m_desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
+                                BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
+        }
+        ReadText(m_desktop, std::string(m_desktop.files[DataFilePath]));
+        CommonRoutines::RestoreChanges(m_desktop);
+        return SlotsInTable();
+    }
+    [[nodiscard]] bool HasSaved() const { return m_hasSaved; }
+
+    static std::vector<Texts> SlotsInTable() {
+        std::vector<Texts> lines;
+        for (std::int32_t line = 1; line <= CommonRoutines::lLineCount; ++line) {
+            Texts& slots = lines.emplace_back();
+            for (std::int32_t slot = 1; slot <= DistrictAt(line).lVariationCount; ++slot) {
+                slots.push_back(VariationAt(line, slot).Text);
+            }
+        }
+        return lines;
+    }
+
     [[nodiscard]] const std::vector<Slow::Line>& Original() const { return m_original; }
     [[nodiscard]] const Slow::Editor& SlowEditor() const { return m_slow; }
 
@@ -279,6 +307,14 @@ private:
 
     void Save() {
         if (HeadlessWindow::Enabled(CommonRoutines::Control::cbSave)) {
+            // Only what survives being read again can be compared with what a crash leaves.
+            const bool cancels = m_wild || UpTo(1) == 0;
+            m_desktop.ExpectSave(cancels ? std::nullopt : std::optional(DataFilePath));
+            if (!cancels) {
+                m_desktop.ExpectBox("File Saved to " + DataFilePath, BoxIcon::Information);
+                m_hasSaved = true;
+            }
+            CommonRoutines::SaveDistrictFile(m_desktop);
             CommonRoutines::bChanged = false;
             m_slow.changed = false;
         }
@@ -286,6 +322,7 @@ private:
 
     std::mt19937 m_random;
     bool m_wild;
+    bool m_hasSaved = false;
     bool m_hasty; // goes from district to district, so that the journal runs out of steps
     ScriptedDesktop m_desktop;
     HeadlessWindow m_window;

@@ -1,4 +1,5 @@
 #include "file/DistrictFileWriter.h"
+#include "recovery/RecoveryFile.h"
 #include "support/Reading.h"
 #include "support/Table.h"
 
@@ -18,8 +19,41 @@ std::string Opening(const std::string& current, int index) {
 
 class ReadRepairTest : public StateTest {
 protected:
-    // Reads a file of one district with these variations and a line behind it.
-    void Read(const std::string& variations) { ReadText(m_desktop, HeaderOf("Ash") + variations + "\r\n# end\r\n"); }
+    // Reads a file of one district with these variations and a line behind it. Whatever has been repaired
+    // must then be in the recovery file.
+    void Read(const std::string& variations) {
+        ReadText(m_desktop, HeaderOf("Ash") + variations + "\r\n# end\r\n");
+        if (iRepairAction != Quit) {
+            EXPECT_EQ(Slots(), SlotsByRecoveryFile(variations));
+        }
+    }
+
+    static std::vector<std::string> Slots() {
+        std::vector<std::string> slots;
+        for (std::int32_t i = 1; i <= DistrictAt(1).lVariationCount; ++i) {
+            slots.push_back(VariationAt(1, i).Text);
+        }
+        return slots;
+    }
+
+    // The fields as they stand in the file, with the changes of the recovery file.
+    std::vector<std::string> SlotsByRecoveryFile(const std::string& variations) {
+        std::vector<std::string> slots;
+        for (const std::string_view field : Ansi::Split(variations, '|')) {
+            slots.emplace_back(Ansi::Trim(field).empty() ? DeletedText : field);
+        }
+        slots.erase(slots.begin());
+        const std::vector<std::string> names = m_desktop.state.Kept();
+        EXPECT_EQ(names.empty(), !bChanged);
+        if (!names.empty()) {
+            const auto file = ParseRecoveryFile(*m_desktop.state.Read(names.back()));
+            for (const TextChange& change : file->changes) {
+                EXPECT_EQ(change.lLine, 1);
+                slots.at(static_cast<std::size_t>(change.lSlot) - 1) = change.sText;
+            }
+        }
+        return slots;
+    }
 
     static void ExpectSaved(const std::string& variations) {
         EXPECT_EQ(DistrictFileContent(), HeaderOf("Ash") + variations + "\r\n# end\r\n");

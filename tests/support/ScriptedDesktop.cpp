@@ -121,7 +121,7 @@ bool ScriptedDesktop::ReplaceFile(const std::string& path, std::string_view cont
     if (canWrite) {
         files[path] = content;
     }
-    return canWrite;
+    return canWrite && !failsAfterWriting;
 }
 
 std::string ScriptedDesktop::GetSetting(std::string_view section, std::string_view key) {

@@ -39,6 +39,7 @@ public:
     std::vector<std::string> printed;
     bool hasPrinter = true;
     bool canWrite = true;
+    bool failsAfterWriting = false; // says so though the file is in its place
     int beeps = 0;
     bool busy = false;
     int programFolderEntries = 0; // how often the program's folder became the current one

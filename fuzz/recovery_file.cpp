@@ -1,0 +1,112 @@
+// Reads any bytes as a recovery file. One that is taken for whole must come back the same when it is
+// written again; made in a table, its changes must all be there afterwards, or none.
+
+#include "QuietDesktop.h"
+
+#include "core/State.h"
+#include "edit/RestoreChanges.h"
+#include "file/DistrictFileReader.h"
+#include "file/DistrictFileWriter.h"
+#include "recovery/RecoveryFile.h"
+#include "recovery/UnsavedChanges.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace CommonRoutines;
+
+namespace {
+
+const std::string DataFile = "Ashby+1+Kent+1837+3+9999+0+A+B|Ashbye|!Asby\r\n# note\r\nElm+1+Kent+1837+3+9999+0+A+B\r\n";
+
+// Has one left-over recovery file.
+class OneLeftOver : public NoStateFolder {
+public:
+    explicit OneLeftOver(std::string content) : m_content(std::move(content)) {}
+    std::vector<std::string> Names() override { return {"1.changes"}; }
+    std::optional<std::string> Read(const std::string& /*name*/) override { return m_content; }
+    LockResult Lock(const std::string& /*name*/) override { return LockResult::Taken; }
+
+private:
+    std::string m_content;
+};
+
+class LeftOverDesktop : public QuietDesktop {
+public:
+    explicit LeftOverDesktop(std::string leftOver) : QuietDesktop(DataFile, ""), m_folder(std::move(leftOver)) {}
+    StateFolder& State() override { return m_folder; }
+    BoxAnswer MsgBox(std::string_view /*text*/, BoxIcon /*icon*/, BoxButtons /*buttons*/) override {
+        return BoxAnswer::Yes;
+    }
+
+private:
+    OneLeftOver m_folder;
+};
+
+void Require(bool condition) {
+    if (!condition) {
+        std::abort();
+    }
+}
+
+std::string Rewritten(const RecoveryFile& file) {
+    std::string content = RecoveryHeader(file.file);
+    for (const TextChange& change : file.changes) {
+        content += RecoveryRecord(change.lLine, change.lSlot, change.sText);
+    }
+    return content;
+}
+
+void OpenWith(const std::string& leftOver) {
+    ResetState();
+    Unsaved = {};
+    LeftOverDesktop desktop(leftOver);
+    sDataFileName = "/data";
+    ReadDistrictFile(desktop);
+    RestoreChanges(desktop);
+    Unsaved.Release(desktop);
+}
+
+// Changes without checksums to begin with, since no mutation would get past those.
+RecoveryFile ChangesIn(std::string_view bytes) {
+    RecoveryFile file{IdentityOf("/data", DataFile), {}};
+    while (bytes.size() >= 3) {
+        const auto length = std::min<std::size_t>(static_cast<unsigned char>(bytes[2]) % 40, bytes.size() - 3);
+        file.changes.push_back({bytes[0] % 5, bytes[1] % 6, std::string(bytes.substr(3, length))});
+        bytes.remove_prefix(3 + length);
+    }
+    return file;
+}
+
+bool LastTextsAreInTable(const RecoveryFile& file) {
+    for (std::size_t i = 0; i < file.changes.size(); ++i) {
+        const TextChange& change = file.changes[i];
+        const bool isLast = std::none_of(file.changes.begin() + static_cast<std::ptrdiff_t>(i) + 1, file.changes.end(),
+                                         [&](const TextChange& later) {
+                                             return later.lLine == change.lLine && later.lSlot == change.lSlot;
+                                         });
+        const DistrictRecord& record = RecordOf(change.lLine);
+        if (isLast && record.Variations[static_cast<std::size_t>(change.lSlot)].Text != change.sText) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    if (const auto file = ParseRecoveryFile(bytes)) {
+        const auto again = ParseRecoveryFile(Rewritten(*file));
+        Require(again && again->file == file->file && again->changes == file->changes);
+    }
+    OpenWith(bytes);
+
+    const RecoveryFile made = ChangesIn(bytes);
+    const std::string content = Rewritten(made);
+    OpenWith(content);
+    Require(bChanged ? LastTextsAreInTable(made) : DistrictFileContent() == DataFile);
+    OpenWith(content.substr(0, content.size() - std::min(content.size(), size % 100)));
+    return 0;
+}

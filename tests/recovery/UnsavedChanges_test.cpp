@@ -1,0 +1,216 @@
+#include "recovery/UnsavedChanges.h"
+
+#include "edit/EditTest.h"
+#include "edit/Variations.h"
+#include "recovery/LeftOvers.h"
+
+using namespace CommonRoutines;
+
+namespace {
+
+using Changes = std::vector<TextChange>;
+
+const std::string Path = "/data/districts.txt";
+const std::string Bytes = "the bytes of the file";
+
+// A table of two districts whose file has just been read.
+class UnsavedChangesTest : public EditTest {
+protected:
+    UnsavedChangesTest() {
+        AddDistrict("North", {"Ash", "Elm", "Oak"});
+        AddDistrict("South", {"Yew"});
+        Unsaved.Begin(desktop, Path, Bytes, Numbering::AsRead);
+        lCurrentDistrict = 1;
+    }
+
+    // The only recovery file; nothing when there is none.
+    std::optional<RecoveryFile> OnDisk() {
+        const std::vector<std::string> names = desktop.state.Kept();
+        EXPECT_LE(names.size(), 1U);
+        return names.empty() ? std::nullopt : ParseRecoveryFile(*desktop.state.Read(names.front()));
+    }
+    Changes ChangesOnDisk() {
+        const auto file = OnDisk();
+        return file ? file->changes : Changes();
+    }
+    // As the program does after every command.
+    void Store(std::int32_t slot, std::string_view text) {
+        StoreText(slot, text);
+        Unsaved.Write(desktop);
+    }
+    void Add(std::string_view text) {
+        AddSlot(text);
+        Unsaved.Write(desktop);
+    }
+    void ExpectTold() {
+        desktop.ExpectBox("Your changes cannot be written to the recovery file.  They are only safe once the file is "
+                          "saved.\r\n/state/" +
+                              (desktop.state.canLock ? "1001.changes" : std::string()),
+                          BoxIcon::Exclamation);
+    }
+
+    ScriptedDesktop desktop;
+};
+
+} // namespace
+
+TEST_F(UnsavedChangesTest, MakeNoFileUntilThereIsOne) {
+    Unsaved.Write(desktop);
+    EXPECT_TRUE(desktop.state.Names().empty());
+}
+
+TEST_F(UnsavedChangesTest, AreOnTheDiskInTheirOrder) {
+    Store(2, "Fir");
+    EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 2, "Fir"}}));
+    Add("Ivy");
+    lCurrentDistrict = 2;
+    Store(1, DeletedText);
+    Store(1, "Yew Tree");
+    EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 2, "Fir"}, {1, 4, "Ivy"}, {2, 1, "\t"}, {2, 1, "Yew Tree"}}));
+}
+
+TEST_F(UnsavedChangesTest, SayToWhichFileTheyBelong) {
+    Store(2, "Fir");
+    EXPECT_EQ(OnDisk()->file, IdentityOf(Path, Bytes));
+}
+
+TEST_F(UnsavedChangesTest, OfOneCommandAreWrittenTogether) {
+    StoreText(1, "Fir");
+    AddSlot("");
+    EXPECT_TRUE(desktop.state.Names().empty());
+    Unsaved.Write(desktop);
+    EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 1, "Fir"}, {1, 4, ""}}));
+}
+
+TEST_F(UnsavedChangesTest, AreNoneWhereATextStaysTheSame) {
+    Store(1, "Ash");
+    EXPECT_TRUE(desktop.state.Names().empty());
+}
+
+TEST_F(UnsavedChangesTest, AreLockedWhileTheirEditorLives) {
+    Store(1, "Fir");
+    ScriptedDesktop other;
+    other.state.storage = desktop.state.storage;
+    EXPECT_TRUE(TakeLeftOvers(other.state).empty());
+    desktop.state.Die();
+    EXPECT_EQ(TakeLeftOvers(other.state).size(), 1U);
+}
+
+TEST_F(UnsavedChangesTest, ThatAreRemovedLeaveNothing) {
+    Store(1, "Fir");
+    Unsaved.Remove(desktop);
+    EXPECT_TRUE(desktop.state.Names().empty());
+}
+
+TEST_F(UnsavedChangesTest, AfterARemovalAreNotNotedSinceTheyWouldNotFit) {
+    Store(1, "Fir");
+    Unsaved.Remove(desktop);
+    Store(2, "Larch");
+    EXPECT_TRUE(desktop.state.Names().empty());
+}
+
+TEST_F(UnsavedChangesTest, ThatAreReleasedAreLeftOver) {
+    Store(1, "Fir");
+    Unsaved.Release(desktop);
+    const std::vector<LeftOver> leftOvers = TakeLeftOvers(desktop.state);
+    ASSERT_EQ(leftOvers.size(), 1U);
+    EXPECT_EQ(leftOvers.front().file->changes, (Changes{{1, 1, "Fir"}}));
+}
+
+TEST_F(UnsavedChangesTest, OfTheNextFileGetAFileOfTheirOwn) {
+    Store(1, "Fir");
+    Unsaved.Begin(desktop, "/data/next.txt", "other bytes", Numbering::AsRead);
+    Store(2, "Larch");
+    EXPECT_EQ(desktop.state.Kept(), (Texts{"1001.changes", "1002.changes"}));
+    const std::vector<LeftOver> leftOvers = TakeLeftOvers(desktop.state);
+    ASSERT_EQ(leftOvers.size(), 1U);
+    EXPECT_EQ(leftOvers.front().sName, "1001.changes");
+}
+
+TEST_F(UnsavedChangesTest, AfterASaveAreNumberedAsTheSavedFileIs) {
+    Store(2, DeletedText);
+    Unsaved.Remove(desktop);
+    Unsaved.Begin(desktop, Path, "saved bytes", Numbering::AsSaved);
+    Store(3, "Fir");       // the second one that is saved
+    Store(2, "Elm again"); // in the file a new one
+    Add("Ivy");
+    Store(3, "Larch");
+    EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 2, "Fir"}, {1, 3, "Elm again"}, {1, 4, "Ivy"}, {1, 2, "Larch"}}));
+    EXPECT_EQ(OnDisk()->file, IdentityOf(Path, "saved bytes"));
+}
+
+TEST_F(UnsavedChangesTest, OfATextThatWasSavedAsSeveralFieldsFreeTheOthers) {
+    Store(2, "Elm|Fir|Ivy");
+    Unsaved.Remove(desktop);
+    Unsaved.Begin(desktop, Path, "saved bytes", Numbering::AsSaved);
+    Store(2, "Elm");
+    Store(2, "Larch");
+    EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 2, "Elm"}, {1, 3, "\t"}, {1, 4, "\t"}, {1, 2, "Larch"}}));
+}
+
+TEST_F(UnsavedChangesTest, ThatCannotBeWrittenAreToldOnceAndWrittenLater) {
+    Store(1, "Fir");
+    desktop.state.canWrite = false;
+    ExpectTold();
+    Store(2, "Larch");
+    Store(3, "Ivy"); // says nothing more
+    EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 1, "Fir"}}));
+    desktop.state.canWrite = true;
+    Store(3, "Oak");
+    EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 1, "Fir"}, {1, 2, "Larch"}, {1, 3, "Ivy"}, {1, 3, "Oak"}}));
+}
+
+TEST_F(UnsavedChangesTest, AreToldOnceAlsoWhenTheFileIsSavedInBetween) {
+    desktop.state.canWrite = false;
+    ExpectTold();
+    Store(1, "Fir");
+    Unsaved.Remove(desktop);
+    Unsaved.Begin(desktop, Path, "saved bytes", Numbering::AsSaved);
+    Store(1, "Larch");
+}
+
+TEST_F(UnsavedChangesTest, OfAnotherFileAreToldAgain) {
+    desktop.state.canLock = false;
+    ExpectTold();
+    Store(1, "Fir");
+    Unsaved.Begin(desktop, Path, Bytes, Numbering::AsRead);
+    ExpectTold();
+    Store(1, "Larch");
+    EXPECT_TRUE(desktop.state.Names().empty());
+}
+
+TEST_F(UnsavedChangesTest, WhoseFileHasGoneAreAllWrittenAgain) {
+    Store(1, "Fir");
+    desktop.state.storage->files.clear();
+    Store(2, "Larch");
+    EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 1, "Fir"}, {1, 2, "Larch"}}));
+}
+
+TEST_F(UnsavedChangesTest, FollowWhatAFailedWriteLeftHalfDone) {
+    Store(1, "Fir");
+    desktop.state.storage->files["1001.changes"] += "0123 half a li";
+    Store(2, "Larch");
+    EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 1, "Fir"}, {1, 2, "Larch"}}));
+}
+
+TEST_F(UnsavedChangesTest, TakenOverGoOnceTheyAreWritten) {
+    desktop.state.storage->files["0001.changes"] = "left over";
+    ASSERT_EQ(desktop.state.Lock("0001.changes.lock"), LockResult::Taken);
+    StoreText(1, "Fir");
+    Unsaved.TakeOver("0001.changes");
+    desktop.state.canWrite = false;
+    ExpectTold();
+    Unsaved.Write(desktop);
+    EXPECT_EQ(desktop.state.Kept(), Texts{"0001.changes"});
+    desktop.state.canWrite = true;
+    Unsaved.Write(desktop);
+    EXPECT_EQ(desktop.state.Names(), (Texts{"1001.changes", "1001.changes.lock"}));
+}
+
+TEST_F(UnsavedChangesTest, TakenOverGoWithTheOthers) {
+    desktop.state.storage->files["0001.changes"] = "left over";
+    ASSERT_EQ(desktop.state.Lock("0001.changes.lock"), LockResult::Taken);
+    Unsaved.TakeOver("0001.changes");
+    Unsaved.Remove(desktop);
+    EXPECT_TRUE(desktop.state.Names().empty());
+}
