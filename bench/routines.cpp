@@ -1,5 +1,6 @@
 // Measures the routines behind every variation that is read, checked or typed, next to two things that
-// cannot be done without: copying the same texts, and upper-casing them.
+// cannot be done without: copying the same texts, and upper-casing them. A change that goes on the disk is
+// measured next to a bare file that grows by as many bytes.
 
 #include "AnsweringDesktop.h"
 #include "DistrictFile.h"
@@ -8,6 +9,7 @@
 #include "core/State.h"
 #include "edit/EditPanel.h"
 #include "file/DistrictFileReader.h"
+#include "recovery/UnsavedChanges.h"
 #include "rules/Capitals.h"
 #include "rules/Duplicates.h"
 #include "rules/Markers.h"
@@ -18,6 +20,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -26,6 +29,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <unistd.h>
 
 using namespace CommonRoutines;
 
@@ -190,6 +195,33 @@ void SortingTexts(benchmark::State& state) {
     }
 }
 
+void WritingAnUnsavedChange(benchmark::State& state) {
+    const QTemporaryDir states;
+    qputenv("XDG_STATE_HOME", states.path().toUtf8());
+    AnsweringDesktop desktop;
+    UnsavedChanges changes;
+    changes.Begin(desktop, "/data/districts.txt", "bytes", Numbering::AsRead);
+    for ([[maybe_unused]] const auto round : state) {
+        changes.Note(4'711, 12, "Ashby de la Zouch");
+        changes.Write(desktop);
+    }
+    changes.Remove(desktop);
+}
+
+// What no way of keeping a change could do without.
+void GrowingABareFile(benchmark::State& state) {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("bare")));
+    const std::string record = RecoveryRecord(4'711, 12, "Ashby de la Zouch");
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        state.SkipWithError("no file");
+    }
+    for ([[maybe_unused]] const auto round : state) {
+        file.write(record.data(), static_cast<qint64>(record.size()));
+        fdatasync(file.handle());
+    }
+}
+
 BENCHMARK(CopyingTheTexts)->Unit(benchmark::kMicrosecond);
 BENCHMARK(UpperCasingTheTexts)->Unit(benchmark::kMicrosecond);
 BENCHMARK(SplittingMarkers)->Unit(benchmark::kMicrosecond);
@@ -201,6 +233,8 @@ BENCHMARK(SortingKeys)->Unit(benchmark::kMicrosecond);
 BENCHMARK(UpperCasingTheBigDistrict)->Unit(benchmark::kMicrosecond);
 BENCHMARK(FollowingAText)->Unit(benchmark::kMicrosecond);
 BENCHMARK(FindingDuplicatesInTheBigDistrict)->Unit(benchmark::kMicrosecond);
+BENCHMARK(GrowingABareFile)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(WritingAnUnsavedChange)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 } // namespace
 

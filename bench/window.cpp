@@ -5,6 +5,7 @@
 #include "Scenarios.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include <filesystem>
 #include <iostream>
@@ -41,6 +42,9 @@ int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // The platform's own pause before it paints is no work of the program's.
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+    // Unsaved changes go on a real disk, but not among the user's own.
+    const QTemporaryDir states;
+    qputenv("XDG_STATE_HOME", states.path().toUtf8());
     QApplication application(argc, argv);
     std::vector<std::string> files;
     for (int i = 2; i < argc; ++i) {

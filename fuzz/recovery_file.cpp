@@ -17,7 +17,8 @@ using namespace CommonRoutines;
 
 namespace {
 
-const std::string DataFile = "Ashby+1+Kent+1837+3+9999+0+A+B|Ashbye|!Asby\r\n# note\r\nElm+1+Kent+1837+3+9999+0+A+B\r\n";
+const std::string DataFile =
+    "Ashby+1+Kent+1837+3+9999+0+A+B|Ashbye|!Asby\r\n# note\r\nElm+1+Kent+1837+3+9999+0+A+B\r\n";
 
 // Has one left-over recovery file.
 class OneLeftOver : public NoStateFolder {
@@ -51,7 +52,7 @@ void Require(bool condition) {
 
 std::string Rewritten(const RecoveryFile& file) {
     std::string content = RecoveryHeader(file.file);
-    for (const TextChange& change : file.changes) {
+    for (const SlotChange& change : file.changes) {
         content += RecoveryRecord(change.lLine, change.lSlot, change.sText);
     }
     return content;
@@ -80,11 +81,10 @@ RecoveryFile ChangesIn(std::string_view bytes) {
 
 bool LastTextsAreInTable(const RecoveryFile& file) {
     for (std::size_t i = 0; i < file.changes.size(); ++i) {
-        const TextChange& change = file.changes[i];
-        const bool isLast = std::none_of(file.changes.begin() + static_cast<std::ptrdiff_t>(i) + 1, file.changes.end(),
-                                         [&](const TextChange& later) {
-                                             return later.lLine == change.lLine && later.lSlot == change.lSlot;
-                                         });
+        const SlotChange& change = file.changes[i];
+        const bool isLast = std::none_of(
+            file.changes.begin() + static_cast<std::ptrdiff_t>(i) + 1, file.changes.end(),
+            [&](const SlotChange& later) { return later.lLine == change.lLine && later.lSlot == change.lSlot; });
         const DistrictRecord& record = RecordOf(change.lLine);
         if (isLast && record.Variations[static_cast<std::size_t>(change.lSlot)].Text != change.sText) {
             return false;

@@ -189,9 +189,10 @@ bool Tour::Play() {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    // The tour must not touch the user's own settings.
+    // The tour must not touch the user's own settings and unsaved changes.
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    qputenv("XDG_STATE_HOME", settings.path().toUtf8());
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {

@@ -18,9 +18,9 @@ namespace CommonRoutines {
 namespace {
 
 // Every change names a slot that is there, or the next new one, when its turn comes.
-bool FitsTable(std::span<const TextChange> changes) {
+bool FitsTable(std::span<const SlotChange> changes) {
     std::unordered_map<std::int32_t, std::int32_t> counts;
-    for (const TextChange& change : changes) {
+    for (const SlotChange& change : changes) {
         if (!IsDistrict(change.lLine)) {
             return false;
         }
@@ -33,9 +33,9 @@ bool FitsTable(std::span<const TextChange> changes) {
     return true;
 }
 
-void MakeChanges(std::span<const TextChange> changes) {
+void MakeChanges(std::span<const SlotChange> changes) {
     std::set<std::int32_t> lines;
-    for (const TextChange& change : changes) {
+    for (const SlotChange& change : changes) {
         lCurrentDistrict = change.lLine;
         if (change.lSlot > CurrentDistrict().lVariationCount) {
             AddSlot(change.sText);

@@ -33,7 +33,7 @@ std::optional<std::string_view> BodyOf(std::string_view line) {
     }
     const std::string_view body = line.substr(CheckLength + 1);
     return line.substr(0, CheckLength) == Hex(XXH3_64bits(body.data(), body.size())) ? std::optional(body)
-                                                                                    : std::nullopt;
+                                                                                     : std::nullopt;
 }
 
 // A text without line ends, and back.
@@ -97,8 +97,8 @@ std::optional<FileIdentity> ParseHeader(std::string_view body) {
     return file;
 }
 
-std::optional<TextChange> ParseRecord(std::string_view body) {
-    TextChange change;
+std::optional<SlotChange> ParseRecord(std::string_view body) {
+    SlotChange change;
     std::size_t length = 0;
     if (!TakeNumber(body, change.lLine) || !TakeNumber(body, change.lSlot) || !TakeNumber(body, length)) {
         return std::nullopt;

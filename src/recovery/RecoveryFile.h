@@ -25,17 +25,17 @@ struct FileIdentity {
 
 // A slot of a line that got another text. Lines and slots are numbered from 1, as the file is read; a
 // slot behind the last one is a new variation.
-struct TextChange {
+struct SlotChange {
     std::int32_t lLine = 0;
     std::int32_t lSlot = 0;
     std::string sText;
 
-    bool operator==(const TextChange&) const = default;
+    bool operator==(const SlotChange&) const = default;
 };
 
 struct RecoveryFile {
     FileIdentity file;
-    std::vector<TextChange> changes; // in the order in which they were made
+    std::vector<SlotChange> changes; // in the order in which they were made
 };
 
 // What identifies a file with these bytes. The digest is XXH3 of 128 bits, which tells versions of a

@@ -69,9 +69,10 @@ void UnsavedChanges::Write(Desktop& desktop) {
         return;
     }
     m_hasTold = true;
-    desktop.MsgBox("Your changes cannot be written to the recovery file.  They are only safe once the file is saved.\r\n" +
-                       desktop.State().PathOf(m_name),
-                   BoxIcon::Exclamation);
+    desktop.MsgBox(
+        "Your changes cannot be written to the recovery file.  They are only safe once the file is saved.\r\n" +
+            desktop.State().PathOf(m_name),
+        BoxIcon::Exclamation);
 }
 
 bool UnsavedChanges::TryToWrite(StateFolder& folder) {
@@ -84,8 +85,8 @@ bool UnsavedChanges::TryToWrite(StateFolder& folder) {
     }
     const std::string_view content = m_content;
     // Where the file has gone, it is written anew.
-    const bool written = (m_onDisk > 0 && folder.Extend(m_name, m_onDisk, content.substr(m_onDisk))) ||
-                         folder.Replace(m_name, content);
+    const bool written =
+        (m_onDisk > 0 && folder.Extend(m_name, m_onDisk, content.substr(m_onDisk))) || folder.Replace(m_name, content);
     if (written) {
         m_onDisk = m_content.size();
     }

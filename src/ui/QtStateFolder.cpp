@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr QFileDevice::Permissions OnlyForTheUser = QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                                    QFileDevice::ExeOwner;
+constexpr QFileDevice::Permissions OnlyForTheUser =
+    QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 
 QString FolderPath() {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)

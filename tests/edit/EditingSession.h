@@ -161,8 +161,9 @@ public:
         m_desktop.state.Die();
         ResetEverything();
         if (!m_desktop.state.Kept(".changes").empty()) {
-            m_desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
-                                BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
+            m_desktop.ExpectBox(
+                "There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
+                BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
         }
         ReadText(m_desktop, std::string(m_desktop.files[DataFilePath]));
         CommonRoutines::RestoreChanges(m_desktop);

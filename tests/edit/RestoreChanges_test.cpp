@@ -17,10 +17,10 @@ const std::string Content = HeaderOf("North") + "|Ash|Elm|Oak\r\n# note\r\n" + H
 class RestoreChangesTest : public EditTest {
 protected:
     // Puts a left-over recovery file into the folder.
-    void Leave(const std::vector<TextChange>& changes, const std::string& bytes = Content,
+    void Leave(const std::vector<SlotChange>& changes, const std::string& bytes = Content,
                const std::string& path = DataFilePath, const std::string& name = "0001") {
         std::string content = RecoveryHeader(IdentityOf(path, bytes));
-        for (const TextChange& change : changes) {
+        for (const SlotChange& change : changes) {
             content += RecoveryRecord(change.lLine, change.lSlot, change.sText);
         }
         desktop.state.storage->files[name + ".changes"] = content;
@@ -58,8 +58,8 @@ TEST_F(RestoreChangesTest, YesBringsThemBackAsUnsavedChanges) {
     Leave({{1, 2, "Fir"}, {1, 4, "Ivy"}, {3, 1, "\t"}, {3, 2, "Larch"}, {1, 4, "!Ivy"}, {1, 5, "%Elm"}});
     ExpectQuestion(BoxAnswer::Yes);
     Open();
-    EXPECT_EQ(DistrictFileContent(), HeaderOf("North") + "|Ash|Fir|Oak|!Ivy|%Elm\r\n# note\r\n" + HeaderOf("South") +
-                                         "|Larch\r\n");
+    EXPECT_EQ(DistrictFileContent(),
+              HeaderOf("North") + "|Ash|Fir|Oak|!Ivy|%Elm\r\n# note\r\n" + HeaderOf("South") + "|Larch\r\n");
     EXPECT_TRUE(bChanged);
     EXPECT_EQ(lCurrentDistrict, 0);
 }
@@ -143,9 +143,9 @@ TEST_F(RestoreChangesTest, ThatAreDamagedAreSetAside) {
 }
 
 TEST_F(RestoreChangesTest, OfWhichOneDoesNotFitAreNotMadeAtAll) {
-    const TextChange misfits[] = {{2, 1, "Fir"},   {4, 1, "Fir"}, {2147483647, 1, "Fir"},
-                                  {1, 5, "Fir"},   {3, 3, "Fir"}, {1, 2147483647, "Fir"}};
-    for (const TextChange& misfit : misfits) {
+    const SlotChange misfits[] = {{2, 1, "Fir"}, {4, 1, "Fir"}, {2147483647, 1, "Fir"},
+                                  {1, 5, "Fir"}, {3, 3, "Fir"}, {1, 2147483647, "Fir"}};
+    for (const SlotChange& misfit : misfits) {
         Leave({{1, 1, "Larch"}, misfit, {1, 2, "Fir"}});
         ExpectSetAside(DoNotFit);
         Open();

@@ -47,7 +47,7 @@ protected:
         EXPECT_EQ(names.empty(), !bChanged);
         if (!names.empty()) {
             const auto file = ParseRecoveryFile(*m_desktop.state.Read(names.back()));
-            for (const TextChange& change : file->changes) {
+            for (const SlotChange& change : file->changes) {
                 EXPECT_EQ(change.lLine, 1);
                 slots.at(static_cast<std::size_t>(change.lSlot) - 1) = change.sText;
             }

@@ -6,13 +6,13 @@
 
 namespace {
 
-using Changes = std::vector<TextChange>;
+using Changes = std::vector<SlotChange>;
 
 const FileIdentity File{"/data/d\xC4\x85ta file.txt", 1234, "0123456789abcdef0123456789ABCDEF"};
 
 std::string Written(const Changes& changes, const FileIdentity& file = File) {
     std::string content = RecoveryHeader(file);
-    for (const TextChange& change : changes) {
+    for (const SlotChange& change : changes) {
         content += RecoveryRecord(change.lLine, change.lSlot, change.sText);
     }
     return content;
@@ -58,9 +58,9 @@ TEST(RecoveryFile, ThatWasCutOffHasTheChangesThatWereWrittenWhole) {
     const std::size_t header = Written({}).size();
     for (std::size_t length = header; length < content.size(); ++length) {
         Changes whole;
-        while (Written(whole).size() + RecoveryRecord(Several[whole.size()].lLine, Several[whole.size()].lSlot,
-                                                      Several[whole.size()].sText)
-                                           .size() <=
+        while (Written(whole).size() +
+                   RecoveryRecord(Several[whole.size()].lLine, Several[whole.size()].lSlot, Several[whole.size()].sText)
+                       .size() <=
                length) {
             whole.push_back(Several[whole.size()]);
         }
@@ -104,7 +104,7 @@ TEST(RecoveryFile, WithALineMissingItsBeginningIsDamaged) {
 }
 
 TEST(RecoveryFile, WithNumbersThatNoTableHasIsDamaged) {
-    for (const TextChange& change : Changes{{0, 1, "Ash"}, {1, 0, "Ash"}, {-1, 1, "Ash"}, {1, -1, "Ash"}}) {
+    for (const SlotChange& change : Changes{{0, 1, "Ash"}, {1, 0, "Ash"}, {-1, 1, "Ash"}, {1, -1, "Ash"}}) {
         EXPECT_FALSE(ParseRecoveryFile(Written({change}))) << change.lLine << ' ' << change.lSlot;
     }
 }

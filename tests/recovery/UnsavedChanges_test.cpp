@@ -8,7 +8,7 @@ using namespace CommonRoutines;
 
 namespace {
 
-using Changes = std::vector<TextChange>;
+using Changes = std::vector<SlotChange>;
 
 const std::string Path = "/data/districts.txt";
 const std::string Bytes = "the bytes of the file";

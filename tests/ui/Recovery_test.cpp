@@ -19,10 +19,10 @@ protected:
     RecoveryTest() { OpenContent(Content); }
 
     // The changes that are on the disk.
-    std::vector<TextChange> OnDisk() {
+    std::vector<SlotChange> OnDisk() {
         const std::vector<std::string> names = desktop.state.Kept(".changes");
         const auto file = names.empty() ? std::nullopt : ParseRecoveryFile(*desktop.state.Read(names.back()));
-        return file ? file->changes : std::vector<TextChange>();
+        return file ? file->changes : std::vector<SlotChange>();
     }
     void Add(const char* text) {
         ClickRow("lvAlpha", QStringLiteral("Alpha"));
@@ -63,7 +63,7 @@ private:
 
 TEST_F(RecoveryTest, AnOkWritesTheChange) {
     Add("Fir");
-    EXPECT_EQ(OnDisk(), (std::vector<TextChange>{{1, 3, "Fir"}}));
+    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Fir"}}));
 }
 
 TEST_F(RecoveryTest, ADeletionAMarkerAndAnUndoWriteTheirs) {
@@ -72,14 +72,14 @@ TEST_F(RecoveryTest, ADeletionAMarkerAndAnUndoWriteTheirs) {
     desktop.ExpectBox("Are you sure you want to delete variation Elm", BoxIcon::Question, BoxButtons::YesNo,
                       BoxAnswer::Yes);
     Click("cbDelete");
-    EXPECT_EQ(OnDisk(), (std::vector<TextChange>{{1, 2, "\t"}}));
+    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 2, "\t"}}));
     ClickRow("lvVariations", QStringLiteral("Ash"));
     Click("cbShriek");
-    EXPECT_EQ(OnDisk().back(), (TextChange{1, 1, "!Ash"}));
+    EXPECT_EQ(OnDisk().back(), (SlotChange{1, 1, "!Ash"}));
     Click("cbUndo");
-    EXPECT_EQ(OnDisk().back(), (TextChange{1, 1, "Ash"}));
+    EXPECT_EQ(OnDisk().back(), (SlotChange{1, 1, "Ash"}));
     Click("cbUndo");
-    EXPECT_EQ(OnDisk().back(), (TextChange{1, 2, "Elm"}));
+    EXPECT_EQ(OnDisk().back(), (SlotChange{1, 2, "Elm"}));
     EXPECT_EQ(OnDisk().size(), 4U);
 }
 
@@ -91,8 +91,8 @@ TEST_F(RecoveryTest, ChangesComeBackAfterADeath) {
     EXPECT_TRUE(bChanged);
     EXPECT_TRUE(Enabled("cbSave"));
     ClickRow("lvAlpha", QStringLiteral("Alpha"));
-    EXPECT_EQ(Column("lvVariations"),
-              (QStringList{QStringLiteral("Ash"), QStringLiteral("Elm"), QStringLiteral("Fir"), QStringLiteral("Larch")}));
+    EXPECT_EQ(Column("lvVariations"), (QStringList{QStringLiteral("Ash"), QStringLiteral("Elm"), QStringLiteral("Fir"),
+                                                   QStringLiteral("Larch")}));
     ExpectLooseChanges(BoxAnswer::No);
     EXPECT_FALSE(form->close());
 }
@@ -207,7 +207,7 @@ TEST_F(RecoveryTest, GivingThemUpWhenOpeningRemovesThem) {
     EXPECT_EQ(desktop.state.Kept(), std::vector<std::string>());
     EXPECT_EQ(VariationAt(1, 2).Text, "Elm");
     Add("Larch");
-    EXPECT_EQ(OnDisk(), (std::vector<TextChange>{{1, 3, "Larch"}}));
+    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Larch"}}));
 }
 
 TEST_F(RecoveryTest, OpeningAnotherFileAfterACancelledSaveLeavesThem) {
