@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <bit>
 #include <cstddef>
+#include <limits>
+#include <numeric>
 #include <span>
 #include <type_traits>
 #include <utility>
@@ -18,17 +20,21 @@ namespace MiddlePivotSort {
 template <typename Element, typename Less>
 class LinearScan {
 public:
+    using Pivot = Element;
+
     LinearScan(std::span<Element> elements, const Less& less) : m_elements(elements), m_less(less) {}
 
+    [[nodiscard]] Pivot PivotAt(std::ptrdiff_t i) const { return At(i); }
+
     // The first place from `i` on, at most `high`, whose element is not less than the pivot.
-    [[nodiscard]] std::ptrdiff_t Up(std::ptrdiff_t i, std::ptrdiff_t high, const Element& pivot) const {
+    [[nodiscard]] std::ptrdiff_t Up(std::ptrdiff_t i, std::ptrdiff_t high, const Pivot& pivot) const {
         while (m_less(At(i), pivot) && i != high) {
             ++i;
         }
         return i;
     }
     // The first place from `j` down, at least `low`, whose element the pivot is not less than.
-    [[nodiscard]] std::ptrdiff_t Down(std::ptrdiff_t j, std::ptrdiff_t low, const Element& pivot) const {
+    [[nodiscard]] std::ptrdiff_t Down(std::ptrdiff_t j, std::ptrdiff_t low, const Pivot& pivot) const {
         while (m_less(pivot, At(j)) && j != low) {
             --j;
         }
@@ -45,24 +51,33 @@ private:
 
 // Finds it in a tree that knows the smallest and the greatest element of every stretch, in logarithmic
 // time. A pass that splits off few elements also swaps few, so that all passes together take
-// n log^2 n steps, whatever the pivots are.
+// n log^2 n steps, whatever the pivots are. The steps look at ranks, which are found beforehand by a sort
+// of another kind: comparing two elements may take as long as they are.
 template <typename Element, typename Less>
 class TreeScan {
 public:
+    using Pivot = std::ptrdiff_t; // a rank
+
     TreeScan(std::span<Element> elements, const Less& less)
-        : m_elements(elements), m_less(less), m_leaves(std::bit_ceil(elements.size())), m_stretches(2 * m_leaves) {
-        for (std::size_t i = 0; i < elements.size(); ++i) {
-            m_stretches[m_leaves + i] = {i, i};
+        : m_elements(elements), m_leaves(std::bit_ceil(elements.size())), m_stretches(2 * m_leaves) {
+        std::vector<std::size_t> order(elements.size());
+        std::iota(order.begin(), order.end(), std::size_t{0});
+        const auto precedes = [&](std::size_t a, std::size_t b) { return less(elements[a], elements[b]); };
+        std::stable_sort(order.begin(), order.end(), precedes);
+        std::ptrdiff_t rank = 0;
+        for (std::size_t i = 0; i < order.size(); ++i) {
+            rank += i > 0 && precedes(order[i - 1], order[i]) ? 1 : 0;
+            m_stretches[m_leaves + order[i]] = {rank, rank};
         }
         for (std::size_t node = m_leaves - 1; node >= 1; --node) {
             Update(node);
         }
     }
 
-    [[nodiscard]] std::ptrdiff_t Up(std::ptrdiff_t i, std::ptrdiff_t high, const Element& pivot) const {
-        const auto stops = [&](std::size_t node) {
-            return m_stretches[node].greatest != None && !m_less(m_elements[m_stretches[node].greatest], pivot);
-        };
+    [[nodiscard]] Pivot PivotAt(std::ptrdiff_t i) const { return LeafOf(i).smallest; }
+
+    [[nodiscard]] std::ptrdiff_t Up(std::ptrdiff_t i, std::ptrdiff_t high, Pivot pivot) const {
+        const auto stops = [&](std::size_t node) { return m_stretches[node].greatest >= pivot; };
         std::size_t node = m_leaves + static_cast<std::size_t>(i);
         while (!stops(node)) {
             while (node % 2 == 1) { // a right child: go on beside the parent
@@ -79,10 +94,8 @@ public:
         return std::min(static_cast<std::ptrdiff_t>(node - m_leaves), high);
     }
 
-    [[nodiscard]] std::ptrdiff_t Down(std::ptrdiff_t j, std::ptrdiff_t low, const Element& pivot) const {
-        const auto stops = [&](std::size_t node) {
-            return m_stretches[node].smallest != None && !m_less(pivot, m_elements[m_stretches[node].smallest]);
-        };
+    [[nodiscard]] std::ptrdiff_t Down(std::ptrdiff_t j, std::ptrdiff_t low, Pivot pivot) const {
+        const auto stops = [&](std::size_t node) { return m_stretches[node].smallest <= pivot; };
         std::size_t node = m_leaves + static_cast<std::size_t>(j);
         while (!stops(node)) {
             while (node % 2 == 0) { // a left child: go on beside the parent
@@ -104,6 +117,7 @@ public:
 
     void Swap(std::ptrdiff_t i, std::ptrdiff_t j) {
         std::swap(m_elements[static_cast<std::size_t>(i)], m_elements[static_cast<std::size_t>(j)]);
+        std::swap(LeafOf(i), LeafOf(j));
         for (const std::ptrdiff_t place : {i, j}) {
             for (std::size_t node = (m_leaves + static_cast<std::size_t>(place)) / 2; node >= 1; node /= 2) {
                 Update(node);
@@ -112,29 +126,24 @@ public:
     }
 
 private:
-    static constexpr std::size_t None = static_cast<std::size_t>(-1);
-
+    // The ranks of the elements below a node; without elements, no rank is between them.
     struct Stretch {
-        std::size_t smallest = None;
-        std::size_t greatest = None;
+        std::ptrdiff_t smallest = std::numeric_limits<std::ptrdiff_t>::max();
+        std::ptrdiff_t greatest = -1;
     };
+
+    [[nodiscard]] Stretch& LeafOf(std::ptrdiff_t i) { return m_stretches[m_leaves + static_cast<std::size_t>(i)]; }
+    [[nodiscard]] const Stretch& LeafOf(std::ptrdiff_t i) const {
+        return m_stretches[m_leaves + static_cast<std::size_t>(i)];
+    }
 
     void Update(std::size_t node) {
         const Stretch& left = m_stretches[2 * node];
         const Stretch& right = m_stretches[2 * node + 1];
-        m_stretches[node] = left;
-        if (right.smallest != None) {
-            if (m_less(m_elements[right.smallest], m_elements[left.smallest])) {
-                m_stretches[node].smallest = right.smallest;
-            }
-            if (m_less(m_elements[left.greatest], m_elements[right.greatest])) {
-                m_stretches[node].greatest = right.greatest;
-            }
-        }
+        m_stretches[node] = {std::min(left.smallest, right.smallest), std::max(left.greatest, right.greatest)};
     }
 
     std::span<Element> m_elements;
-    const Less& m_less;
     std::size_t m_leaves;
     std::vector<Stretch> m_stretches; // node 1 is the whole, the children of n are 2n and 2n + 1
 };
@@ -150,7 +159,7 @@ void SortRange(Scan<Element, Less>& scan, std::span<Element> elements, std::ptrd
             SortRange(tree, rest, 0, high - low, less, 0);
             return;
         }
-        const Element pivot = elements[static_cast<std::size_t>((low + high) / 2)];
+        const auto pivot = scan.PivotAt((low + high) / 2);
         std::ptrdiff_t i = low;
         std::ptrdiff_t j = high;
         while (i <= j) {
