@@ -1,12 +1,12 @@
 #include "rules/SpellingIndex.h"
 
+#include "core/AnsiCase.h"
 #include "core/State.h"
-#include "core/UpperCase.h"
 #include "rules/Spelling.h"
 
 #include <algorithm>
-#include <functional>
 #include <optional>
+#include <random>
 #include <vector>
 
 namespace CommonRoutines {
@@ -21,11 +21,50 @@ struct Hashes {
     std::uint64_t thisSuffix;
 };
 
+// A hash that no file can be made for, since it is another one every time that the program runs: of a
+// million texts with the same hash, each would be looked for among all others. The characters are the
+// coefficients of two polynomials, whose values at a place that nobody knows are taken (Carter and
+// Wegman, Universal Classes of Hash Functions).
+class SecretHash {
+public:
+    void Add(std::uint64_t number) {
+        m_first = (m_first * Places().first + number) % Prime;
+        m_second = (m_second * Places().second + number) % Prime;
+    }
+    [[nodiscard]] std::uint64_t Value() const { return m_first << 32U | m_second; }
+
+private:
+    static constexpr std::uint64_t Prime = 2'147'483'647;
+
+    static const std::pair<std::uint64_t, std::uint64_t>& Places() {
+        static const std::pair<std::uint64_t, std::uint64_t> places = [] {
+            std::random_device random;
+            std::uniform_int_distribution<std::uint64_t> place(1'000, Prime - 1);
+            return std::pair(place(random), place(random));
+        }();
+        return places;
+    }
+
+    std::uint64_t m_first = 1;
+    std::uint64_t m_second = 1;
+};
+
 Hashes HashesOf(const Spelling& spelling, std::string_view suffix) {
-    constexpr std::uint64_t dated = 0xD1B54A32D192ED03; // any odd number with many bits set
-    constexpr std::uint64_t suffixed = 0x8CB92BA72F3D8DD7;
-    const std::uint64_t base = Ansi::HashUpper(spelling.base) ^ (spelling.hasDate ? dated : 0);
-    return {base, (base + std::hash<std::string_view>()(suffix)) * suffixed};
+    constexpr std::uint64_t dated = 256; // no character
+    constexpr std::uint64_t suffixed = 257;
+    SecretHash hash;
+    for (const char c : spelling.base) {
+        hash.Add(static_cast<unsigned char>(Ansi::Upper(c)));
+    }
+    if (spelling.hasDate) {
+        hash.Add(dated);
+    }
+    const std::uint64_t anySuffix = hash.Value();
+    hash.Add(suffixed);
+    for (const char c : suffix) {
+        hash.Add(static_cast<unsigned char>(c));
+    }
+    return {anySuffix, hash.Value()};
 }
 
 // The index made last, and what it was made for.
