@@ -8,8 +8,8 @@
 #include "core/Records.h"
 
 #include <cstdint>
+#include <set>
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 namespace CommonRoutines {
@@ -58,7 +58,7 @@ extern std::int32_t lFoundVariation;
 
 // Words that need no capital, 1 to lLowerCaseWordCount; written by LoadLowerCaseWords.
 extern std::vector<std::string> LowerCaseWords;
-extern std::unordered_set<std::string> LowerCaseWordSet; // the same words, to be looked up
+extern std::set<std::string> LowerCaseWordSet; // the same words, to be looked up
 extern std::int32_t lLowerCaseWordCount;
 
 // What the main window is doing; written by its handlers, read by ApplyWindowMode and ValidateVariation.

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 namespace CommonRoutines {
@@ -32,7 +32,7 @@ public:
 
 private:
     std::vector<CommentType> m_items;
-    std::unordered_set<std::string> m_known; // upper-cased
+    std::set<std::string> m_known; // upper-cased; a hash could be made to collide by what a file holds
 };
 
 // The list of lbComments; reset by "Open File", filled by AddCommentType.
