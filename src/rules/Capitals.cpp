@@ -16,6 +16,9 @@ namespace {
 constexpr std::int32_t WordListStep = 10;
 
 void AddLowerCaseWord(std::string_view word) {
+    if (word.empty()) {
+        return;
+    }
     ++lLowerCaseWordCount;
     if (lLowerCaseWordCount >= std::ssize(LowerCaseWords)) {
         LowerCaseWords.resize(static_cast<std::size_t>(lLowerCaseWordCount) + WordListStep + 1);
@@ -98,11 +101,10 @@ void LoadLowerCaseWords(Desktop& desktop) {
     LowerCaseWords.resize(WordListStep + 1);
     Lines lines(*content);
     while (const auto line = lines.Next()) {
-        for (const std::string_view item : Ansi::Split(*line, ',')) {
-            const std::string_view word = Ansi::Trim(item);
-            if (!word.empty()) {
-                AddLowerCaseWord(word);
-            }
+        for (std::string_view rest = *line; !rest.empty();) {
+            const auto comma = std::min(rest.find(','), rest.size());
+            AddLowerCaseWord(Ansi::Trim(rest.substr(0, comma)));
+            rest.remove_prefix(std::min(comma + 1, rest.size()));
         }
     }
 }

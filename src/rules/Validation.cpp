@@ -115,21 +115,21 @@ std::string CharacterAt(std::string_view kind, std::size_t index, int code) {
            ")";
 }
 
-// False at the first control character; the last unusual one is the one warned about.
+// False at the first control character; the last unusual one before it is the one warned about.
 bool CheckCharacters(std::string_view variation) {
     constexpr int firstPrintable = 32;
     constexpr int lastOrdinary = 126;
-    for (std::size_t i = 0; i < variation.size(); ++i) {
-        const int code = static_cast<unsigned char>(variation[i]);
-        if (code < firstPrintable) {
-            return Refuse(CharacterAt("Invalid", i, code));
-        }
-        if (code > lastOrdinary) {
-            bWarning = true;
-            sWarningReason = CharacterAt("Unusual", i, code);
-        }
+    const auto codeAt = [&](std::size_t i) { return static_cast<unsigned char>(variation[i]); };
+    std::size_t control = 0;
+    std::size_t unusual = None;
+    for (; control < variation.size() && codeAt(control) >= firstPrintable; ++control) {
+        unusual = codeAt(control) > lastOrdinary ? control : unusual;
     }
-    return true;
+    if (unusual != None) {
+        bWarning = true;
+        sWarningReason = CharacterAt("Unusual", unusual, codeAt(unusual));
+    }
+    return control == variation.size() || Refuse(CharacterAt("Invalid", control, codeAt(control)));
 }
 
 } // namespace
