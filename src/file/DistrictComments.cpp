@@ -15,6 +15,12 @@ constexpr auto None = std::string_view::npos;
 // A break this close to the beginning of a row is none.
 constexpr std::size_t EarliestBreak = 4;
 
+// No row of a screen holds as many characters (some of which have no width).
+constexpr std::size_t LongestRow = 2000;
+
+// Beyond this many rows nothing is wrapped any more: a comment, or the rest of one, then is a row.
+constexpr std::size_t MostWrappedRows = 1'000;
+
 // The retained lines directly above a district are its comment lines: the index of the first of them.
 std::int32_t FirstCommentLine(std::int32_t lDistrict) {
     std::int32_t line = lDistrict;
@@ -34,6 +40,9 @@ std::size_t FindMarker(std::string_view line) {
 // as could pass, so that a comment of any length costs what is shown of it.
 template <typename Test>
 bool WidthPasses(std::string_view text, const MeasureText& measure, Test test) {
+    if (text.size() > LongestRow) {
+        return false;
+    }
     for (std::size_t length = 256; length < text.size(); length *= 2) {
         if (!test(measure(text.substr(0, length)))) {
             return false;
@@ -45,6 +54,7 @@ bool WidthPasses(std::string_view text, const MeasureText& measure, Test test) {
 // Position of the last blank that leaves the text before it narrower than the room.
 std::size_t LastFittingBlank(std::string_view text, double room, const MeasureText& measure) {
     std::size_t fitting = None;
+    text = text.substr(0, LongestRow);
     for (auto blank = text.find(' '); blank != None && measure(text.substr(0, blank)) < room;
          blank = text.find(' ', blank + 1)) {
         fitting = blank;
@@ -84,7 +94,8 @@ std::vector<CommentRow> CommentRows(std::int32_t lDistrict, double available, co
         const std::string_view comment = rest.substr(std::min(type.size() + 1, rest.size()));
         rows.push_back({std::string(type), ""});
         // A comment that fills the room exactly still fits here; in a wrapped one it would not.
-        if (WidthPasses(comment, measure, [=](double width) { return width <= available; })) {
+        if (rows.size() > MostWrappedRows ||
+            WidthPasses(comment, measure, [=](double width) { return width <= available; })) {
             rows.back().sComment = comment;
         } else {
             WrapComment(rows, comment, available, measure);
@@ -108,7 +119,8 @@ void WrapComment(std::vector<CommentRow>& rows, std::string_view sText, double a
             return;
         }
         rows.push_back({" ", ""});
-        if (WidthPasses(text, measure, [=](double width) { return width < available; })) {
+        if (rows.size() > MostWrappedRows ||
+            WidthPasses(text, measure, [=](double width) { return width < available; })) {
             rows.back().sComment = text;
             return;
         }

@@ -23,11 +23,12 @@ using MeasureText = std::function<double(std::string_view)>;
 [[nodiscard]] bool DistrictHasCommentType(std::int32_t lDistrict, std::string_view sType);
 
 // The rows for the comments of a district, in file order; `available` is the room for the comment
-// text, in the unit of `measure`. Here the marker may stand anywhere in a line. Empty for no district.
+// text, in the unit of `measure`. Here the marker may stand anywhere in a line. Empty for no district. Of
+// a district with so many comments that nobody reads them all, those behind the first rows are not wrapped.
 [[nodiscard]] std::vector<CommentRow> CommentRows(std::int32_t lDistrict, double available, const MeasureText& measure);
 
 // Puts `sText` into the last of `rows`, going on in new rows wherever it gets as wide as the room. A
-// word that is too wide for a row stays whole.
+// word that is too wide for a row stays whole, and so does what follows thousands of rows.
 void WrapComment(std::vector<CommentRow>& rows, std::string_view sText, double available, const MeasureText& measure);
 
 } // namespace CommonRoutines
