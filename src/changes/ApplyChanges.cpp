@@ -43,6 +43,7 @@ bool AddProposal(std::string_view proposal, bool asSpelling, Desktop& desktop) {
     const bool needsShriek = asSpelling && !proposal.starts_with('!');
     const std::string text = (needsShriek ? "!" : "") + std::string(proposal);
     AddSlot(text, SpareSlots);
+    bChanged = true;
     CurrentUndoStep().NewItem({text, UndoAdd, ""}, lCurrentDistrict, desktop);
     return true;
 }
@@ -68,7 +69,6 @@ std::optional<AppliedChanges> ApplyChanges(std::span<const ChangeRow> rows, bool
         }
         ++(AddProposal(proposal, bAsSpelling, desktop) ? applied.added : applied.ignored);
     }
-    bChanged = bChanged || applied.added > 0;
     FindDuplicateVariations(lCurrentDistrict, KeepPairs);
     Unsaved.Write(desktop);
     return applied;

@@ -58,12 +58,12 @@ void UndoClass::NewItem(UndoItem item, std::int32_t lDistrict, Desktop& desktop)
         desktop.MsgBox("You should Save your work and exit", BoxIcon::Critical);
         return;
     }
-    ++m_count;
-    const auto place = static_cast<std::size_t>(m_count);
+    const auto place = static_cast<std::size_t>(m_count) + 1;
     if (place >= m_items.size()) {
         m_items.resize(place + ItemStep + 1);
     }
     m_items[place] = std::move(item);
+    ++m_count; // last, in case that there is not enough memory
 }
 
 void UndoClass::Clear() {

@@ -44,15 +44,14 @@ void StoreText(std::int32_t slot, std::string_view text) {
 
 std::int32_t AddSlot(std::string_view text, std::int32_t spare) {
     DistrictRecord& district = CurrentDistrict();
-    Unsaved.Note(lCurrentDistrict, district.lVariationCount + 1, text);
-    ++district.lVariationCount;
-    if (district.lVariationCount >= std::ssize(district.Variations)) {
-        district.Variations.resize(static_cast<std::size_t>(district.lVariationCount) + 1 +
-                                   static_cast<std::size_t>(spare));
+    const std::int32_t slot = district.lVariationCount + 1;
+    if (slot >= std::ssize(district.Variations)) {
+        district.Variations.resize(static_cast<std::size_t>(slot) + 1 + static_cast<std::size_t>(spare));
     }
-    const std::int32_t slot = district.lVariationCount;
     VariationInCurrentDistrict(slot) = {}; // one left from before may hold anything
+    Unsaved.Note(lCurrentDistrict, slot, text);
     PutText(slot, text);
+    district.lVariationCount = slot; // last, in case that there is not enough memory
     return slot;
 }
 

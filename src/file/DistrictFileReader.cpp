@@ -14,6 +14,7 @@
 #include "rules/Validation.h"
 
 #include <algorithm>
+#include <new>
 
 namespace CommonRoutines {
 
@@ -275,25 +276,24 @@ void FileRead::ShowReport() {
     }
 }
 
-} // namespace
-
-void ReadDistrictFile(Desktop& desktop) {
-    desktop.ShowBusy(true);
-    desktop.EnterProgramFolder();
-    Districts = {}; // before the file is read, so that two files are never in memory at once
+// Leaves nothing of a table, above all no memory.
+void ForgetTable() {
+    Districts = {};
     ++lTableNumber;
     lLineCount = 0;
-    auto content = desktop.ReadFile(sDataFileName);
     lDistrictTotal = lInvalidTotal = lCapsOkTotal = 0;
     bChanged = false;
     iRepairAction = NoRepair;
+}
+
+// Returns false when the file cannot be read.
+bool ReadTable(Desktop& desktop) {
+    ForgetTable(); // before the file is read, so that two files are never in memory at once
     DataFileMark.Clear(desktop);
     Unsaved.Release(desktop);
+    auto content = desktop.ReadFile(sDataFileName);
     if (!content) {
-        desktop.ShowBusy(false);
-        desktop.MsgBox("The file cannot be read:\r\n" + Ansi::FromUtf8(sDataFileName), BoxIcon::Exclamation);
-        sDataFileName.clear();
-        return;
+        return false;
     }
     Unsaved.Begin(desktop, sDataFileName, *content, Numbering::AsRead);
     eFileEncoding = EncodingOf(*content);
@@ -301,6 +301,30 @@ void ReadDistrictFile(Desktop& desktop) {
     Districts.reserve(static_cast<std::size_t>(std::count(content->begin(), content->end(), '\n')) + InitialUpperBound);
     Districts.resize(InitialUpperBound + 1);
     FileRead(desktop).Run(*content);
+    return true;
+}
+
+} // namespace
+
+void ReadDistrictFile(Desktop& desktop) {
+    desktop.ShowBusy(true);
+    desktop.EnterProgramFolder();
+    std::string_view problem;
+    try {
+        problem = ReadTable(desktop) ? "" : "The file cannot be read:\r\n";
+    } catch (const std::bad_alloc&) {
+        // A line end takes a whole record: a file may need a hundred times its size.
+        ForgetTable();
+        EmptyDupePairs();
+        CommentTypes.Reset();
+        problem = "There is not enough memory for the file:\r\n";
+    }
+    if (!problem.empty()) {
+        Unsaved.Release(desktop);
+        desktop.ShowBusy(false);
+        desktop.MsgBox(std::string(problem) + Ansi::FromUtf8(sDataFileName), BoxIcon::Exclamation);
+        sDataFileName.clear();
+    }
 }
 
 } // namespace CommonRoutines

@@ -11,7 +11,7 @@ namespace CommonRoutines {
 // Leaves the lines in Districts (1 to lLineCount), the totals of the load, the answer of the last
 // repair in iRepairAction (Quit ends the reading early, without a report), the pairs of the whole
 // file in DupePairs, and bChanged set when something was repaired. Adds to CommentTypes. Expects
-// iEditMode to be NothingOpen. A file that cannot be read leaves an
+// iEditMode to be NothingOpen. A file that cannot be read, or that there is not enough memory for, leaves an
 // empty table, an empty sDataFileName and a message.
 void ReadDistrictFile(Desktop& desktop);
 

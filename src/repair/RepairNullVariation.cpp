@@ -14,7 +14,7 @@ namespace {
 
 NullVariation LookAround(const DistrictRecord& district, const std::vector<std::string>& variations, std::int32_t index,
                          std::int32_t position) {
-    const auto at = [&](std::int32_t i) { return variations[static_cast<std::size_t>(i)]; };
+    const auto at = [&](std::int32_t i) -> const std::string& { return variations[static_cast<std::size_t>(i)]; };
     NullVariation found;
     found.districtName = district.Name;
     found.index = index;

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 
 namespace CommonRoutines {
 
@@ -86,20 +87,15 @@ bool IsLowerCaseWord(std::string_view word) {
     return !LowerCaseWordSet.empty() && LowerCaseWordSet.contains(Ansi::Lower(word));
 }
 
-} // namespace
-
-void LoadLowerCaseWords(Desktop& desktop) {
-    desktop.EnterProgramFolder();
-    LowerCaseWords.clear();
+void ForgetLowerCaseWords() {
+    LowerCaseWords = {};
     LowerCaseWordSet.clear();
     lLowerCaseWordCount = 0;
-    const auto content = desktop.ReadFile(desktop.ProgramFolder() + "/qx_lower.txt");
-    if (!content) {
-        desktop.MsgBox("No lowercase file found - no words will be ignored", BoxIcon::Information);
-        return;
-    }
+}
+
+void AddLowerCaseWords(std::string_view content) {
     LowerCaseWords.resize(WordListStep + 1);
-    Lines lines(*content);
+    Lines lines(content);
     while (const auto line = lines.Next()) {
         for (std::string_view rest = *line; !rest.empty();) {
             const auto comma = std::min(rest.find(','), rest.size());
@@ -107,6 +103,25 @@ void LoadLowerCaseWords(Desktop& desktop) {
             rest.remove_prefix(std::min(comma + 1, rest.size()));
         }
     }
+}
+
+} // namespace
+
+void LoadLowerCaseWords(Desktop& desktop) {
+    desktop.EnterProgramFolder();
+    ForgetLowerCaseWords();
+    try {
+        if (const auto content = desktop.ReadFile(desktop.ProgramFolder() + "/qx_lower.txt")) {
+            AddLowerCaseWords(*content);
+            return;
+        }
+    } catch (const std::bad_alloc&) {
+        ForgetLowerCaseWords();
+        desktop.MsgBox("There is not enough memory for the lowercase file - no words will be ignored",
+                       BoxIcon::Exclamation);
+        return;
+    }
+    desktop.MsgBox("No lowercase file found - no words will be ignored", BoxIcon::Information);
 }
 
 bool HasUnusualCapitals(std::string_view variation) {

@@ -7,7 +7,8 @@ class Desktop;
 namespace CommonRoutines {
 
 // Reads the words that need no capital from "qx_lower.txt" in the program's folder, which becomes the
-// current folder, into LowerCaseWords. Without the file the list is empty and one message says so.
+// current folder, into LowerCaseWords. Without the file, or enough memory for it, the list is empty and one
+// message says so.
 void LoadLowerCaseWords(Desktop& desktop);
 
 // True when a word of the base name is neither written with one capital and small letters nor one of

@@ -61,11 +61,12 @@ void EmptyDupePairs() {
 }
 
 void AddDupePair(std::string_view first, std::string_view second) {
-    ++lDupePairCount;
-    if (lDupePairCount >= std::ssize(DupePairs)) {
-        DupePairs.resize(static_cast<std::size_t>(lDupePairCount) + DupePairStep + 1);
+    const auto place = static_cast<std::size_t>(lDupePairCount) + 1;
+    if (place >= DupePairs.size()) {
+        DupePairs.resize(place + DupePairStep + 1);
     }
-    DupePairs[static_cast<std::size_t>(lDupePairCount)] = {first, second};
+    DupePairs[place] = {first, second};
+    ++lDupePairCount; // last, in case that there is not enough memory
 }
 
 bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPairs) {

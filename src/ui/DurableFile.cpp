@@ -4,7 +4,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-// The only place that goes past the toolkit to the system, since the toolkit neither reports that the
+// This goes past the toolkit to the system, since the toolkit neither reports that the
 // disk refused what it was given nor writes down the names in a folder.
 #ifdef Q_OS_UNIX
 #include <fcntl.h>

@@ -5,9 +5,9 @@
 
 #include <QKeyEvent>
 
-#include <limits>
-
 namespace {
+
+constexpr int LongestEditable = 200'000;
 
 // The text as the data file can hold it, in one line.
 QString Allowed(QString text) {
@@ -20,10 +20,16 @@ QString Allowed(QString text) {
 } // namespace
 
 EditBox::EditBox(QWidget* parent) : QLineEdit(parent) {
-    // A text of the file is never cut off, however long it is.
-    setMaxLength(std::numeric_limits<int>::max());
+    setMaxLength(LongestEditable);
+    connect(this, &QLineEdit::inputRejected, this, &EditBox::KeyRefused);
     connect(this, &QLineEdit::textEdited, this, &EditBox::ReplaceForeignCharacters);
     connect(this, &QLineEdit::textChanged, this, [this] { m_lastText = text(); });
+}
+
+void EditBox::ShowText(std::string_view text) {
+    const bool cutOff = text.size() > LongestEditable;
+    setReadOnly(cutOff);
+    setText(cutOff ? Text::ForList(text) : Text::ToQt(text));
 }
 
 bool EditBox::MayInsert(const QString& typed) const {

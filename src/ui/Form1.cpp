@@ -8,6 +8,7 @@
 #include "ui/CommentModels.h"
 #include "ui/DistrictModel.h"
 #include "ui/EditBox.h"
+#include "ui/Memory.h"
 #include "ui/PlainLabel.h"
 #include "ui/RowList.h"
 #include "ui/StateColours.h"
@@ -41,6 +42,10 @@ Form1::Form1(Desktop& desktop) : m_desktop(desktop), m_controls(this) {
     AddShortcuts();
 }
 
+void Form1::Run(void (Form1::*handler)()) {
+    Memory::Run(m_desktop, [=, this] { (this->*handler)(); });
+}
+
 void Form1::SetModels() {
     m_districts = new DistrictModel(this);
     m_variations = new VariationModel(this);
@@ -56,7 +61,7 @@ void Form1::SetModels() {
 
 void Form1::ConnectButtons() {
     const auto onClick = [this](QPushButton* button, void (Form1::*handler)()) {
-        connect(button, &QPushButton::clicked, this, handler);
+        connect(button, &QPushButton::clicked, this, [=, this] { Run(handler); });
     };
     onClick(m_controls.cbOpen, &Form1::OpenClicked);
     onClick(m_controls.cbSave, &Form1::SaveClicked);
@@ -74,7 +79,8 @@ void Form1::ConnectButtons() {
     onClick(m_controls.cbClearSel, &Form1::ClearSelClicked);
 
     const auto onApply = [this](QPushButton* button, bool selectedOnly, bool asSpelling) {
-        connect(button, &QPushButton::clicked, this, [=, this] { Apply(selectedOnly, asSpelling); });
+        connect(button, &QPushButton::clicked, this,
+                [=, this] { Memory::Run(m_desktop, [=, this] { Apply(selectedOnly, asSpelling); }); });
     };
     onApply(m_controls.cbApplyAll, false, false);
     onApply(m_controls.cbApplyAllSpell, false, true);
@@ -87,7 +93,7 @@ void Form1::ConnectEditPanel() {
     connect(m_controls.cbVariation, &QCheckBox::clicked, this, &Form1::VariationClicked);
 
     EditBox* edit = m_controls.tbEdit;
-    connect(edit, &QLineEdit::textChanged, this, &Form1::EditTextChanged);
+    connect(edit, &QLineEdit::textChanged, this, [this] { Run(&Form1::EditTextChanged); });
     connect(edit, &EditBox::KeyRefused, this, [this] { m_desktop.Beep(); });
     connect(edit, &EditBox::Entered, m_controls.cbOk, &QPushButton::click);
     connect(edit, &EditBox::Escaped, m_controls.cbCancel, &QPushButton::click);
@@ -95,16 +101,16 @@ void Form1::ConnectEditPanel() {
 }
 
 void Form1::ConnectLists() {
-    connect(m_controls.lvAlpha, &RowList::Chosen, this, &Form1::DistrictChosen);
-    connect(m_controls.lvVariations, &RowList::Chosen, this, &Form1::VariationsChosen);
-    connect(m_controls.lbComments, &RowList::Chosen, this, &Form1::CommentTypeChosen);
+    connect(m_controls.lvAlpha, &RowList::Chosen, this, [this] { Run(&Form1::DistrictChosen); });
+    connect(m_controls.lvVariations, &RowList::Chosen, this, [this] { Run(&Form1::VariationsChosen); });
+    connect(m_controls.lbComments, &RowList::Chosen, this, [this] { Run(&Form1::CommentTypeChosen); });
     connect(m_controls.lvVariations, &RowList::Resized, this, &Form1::SizeWideColumns);
     connect(m_controls.LvChanges, &RowList::Resized, this, &Form1::SizeWideColumns);
     connect(m_controls.lvComments, &RowList::Resized, this, [this] {
         SizeCommentColumn();
         // A filter may have cleared the comments since the district was chosen.
         if (m_comments->rowCount() > 0) {
-            ShowDistrictComments();
+            Run(&Form1::ShowDistrictComments);
         }
     });
     connect(m_changes, &ChangeModel::Ticked, this, &Form1::ChangeTicked);

@@ -45,6 +45,8 @@ private:
         static constexpr std::string_view ChangeFolder = "ProcessFile";
     };
 
+    // Runs a handler, which may find that there is not enough memory.
+    void Run(void (Form1::*handler)());
     void SetModels();
     void ConnectButtons();
     void ConnectEditPanel();
@@ -72,7 +74,7 @@ private:
     // Editing.
     void EditTextChanged();
     void UpdateMarkerOptions();
-    void PutIntoEditBox(const QString& text);
+    void PutIntoEditBox(std::string_view text);
     void ResetEditPanel();
     void ReturnToIdle();
     void AddClicked();

@@ -74,7 +74,7 @@ void Form1::ChangeRowClicked(const QModelIndex& index) {
     m_controls.LvChanges->clearSelection();
     if (IsDistrict(lCurrentDistrict)) {
         iEditMode = AddingUnacceptable;
-        PutIntoEditBox(Text::ToQt(row.sText));
+        PutIntoEditBox(row.sText);
         EditTextChanged();
     }
     UpdateChangeSelection();
@@ -116,7 +116,7 @@ void Form1::EditSelClicked() {
     const auto& rows = m_changes->Rows();
     const auto ticked = std::find_if(rows.begin(), rows.end(), [](const ChangeRow& row) { return row.bChecked; });
     if (ticked != rows.end()) {
-        PutIntoEditBox(Text::ToQt(ticked->sText));
+        PutIntoEditBox(ticked->sText);
         EditTextChanged();
     }
 }

@@ -27,6 +27,11 @@ void Form1::EditTextChanged() {
         return;
     }
     m_controls.lbWhyError->ShowText({});
+    if (m_controls.tbEdit->IsCutOff()) {
+        ApplyWindowMode();
+        m_controls.lbStatus->ShowText(tr("This text is too long to be edited here."));
+        return;
+    }
     if (!IsDistrict(lCurrentDistrict)) {
         // The controls stay as they are: a file whose reopening was cancelled can still be saved.
         UpdateMarkerOptions();
@@ -49,9 +54,9 @@ void Form1::UpdateMarkerOptions() {
     m_controls.cbVNF->setChecked(options.volume);
 }
 
-void Form1::PutIntoEditBox(const QString& text) {
+void Form1::PutIntoEditBox(std::string_view text) {
     bIgnoreEvents = true;
-    m_controls.tbEdit->setText(text);
+    m_controls.tbEdit->ShowText(text);
     UpdateMarkerOptions();
     bIgnoreEvents = false;
 }
@@ -63,7 +68,7 @@ void Form1::ResetEditPanel() {
         box->setChecked(false);
     }
     // Clearing could be undone, which would bring a text back that was given up.
-    m_controls.tbEdit->setText({});
+    m_controls.tbEdit->ShowText({});
     bIgnoreEvents = false;
 }
 
@@ -134,7 +139,7 @@ void Form1::ChangeSelectedMarkers(MarkerCommand command, QPushButton& button) {
     // The rows stay where they are, and selected, until the list is filled again.
     m_variations->RefreshRows(m_controls.lvVariations->SelectedRows());
     if (lEditIndex > 0) {
-        PutIntoEditBox(Text::ToQt(VariationInCurrentDistrict(lEditIndex).Text));
+        PutIntoEditBox(VariationInCurrentDistrict(lEditIndex).Text);
     }
     button.setEnabled(false);
     iEditMode = DistrictIdle;

@@ -59,7 +59,7 @@ void Form1::VariationsChosen() {
     lEditIndex = view.editIndex;
     if (lEditIndex > 0) {
         iLastAction = VariationSelected;
-        PutIntoEditBox(Text::ToQt(VariationInCurrentDistrict(lEditIndex).Text));
+        PutIntoEditBox(VariationInCurrentDistrict(lEditIndex).Text);
     } else {
         PutIntoEditBox({});
     }

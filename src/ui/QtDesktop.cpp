@@ -2,6 +2,7 @@
 
 #include "ui/DateTimeText.h"
 #include "ui/DurableFile.h"
+#include "ui/Memory.h"
 #include "ui/Text.h"
 #include "ui/VarCheck.h"
 #include "ui/frmCustomMessageBox.h"
@@ -186,6 +187,7 @@ std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& reques
 }
 
 std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
+    Memory::LimitToWhatIsLeft(); // what a file asks for must not be more
     return DurableFile::Read(Text::PathToQt(path));
 }
 

@@ -2,6 +2,7 @@
 
 #include "checks/ReportOutput.h"
 #include "core/State.h"
+#include "ui/Memory.h"
 #include "ui/ReportModel.h"
 #include "ui/RowList.h"
 #include "ui/Text.h"
@@ -59,8 +60,12 @@ void VarCheck::BuildButtons() {
         button->setEnabled(m_report.bCanPrintAndSave);
         button->setVisible(m_report.bCanPrintAndSave);
     }
-    connect(cbPrint, &QPushButton::clicked, this, [this] { PrintReport(m_report, DataFile(), m_desktop); });
-    connect(cbSave, &QPushButton::clicked, this, [this] { SaveReport(m_report, DataFile(), m_desktop); });
+    const auto onClick = [this](QPushButton* button, auto command) {
+        connect(button, &QPushButton::clicked, this,
+                [=, this] { Memory::Run(m_desktop, [=, this] { command(m_report, DataFile(), m_desktop); }); });
+    };
+    onClick(cbPrint, &PrintReport);
+    onClick(cbSave, &SaveReport);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout()->addWidget(buttons);
 }
