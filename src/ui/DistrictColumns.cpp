@@ -60,6 +60,7 @@ void DistrictColumns::WidenForNumber(std::size_t column, std::int16_t number) {
 }
 
 void DistrictColumns::Widen(std::size_t column, std::string_view text, std::string_view padding) {
+    text = text.substr(0, Text::LongestShown + 1); // enough to be cut off like the whole
     // Measuring a text is a hundred times as dear as adding up its letters, and hardly ever needed.
     if (UpperBound(text) + UpperBound(padding) + Slack > m_widths[column] &&
         m_measuredTexts[column].insert(std::string(text)).second) {

@@ -7,9 +7,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <set>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 // The widths of the columns of the districts list, in pixels of a font: every column as wide as its
@@ -41,5 +42,5 @@ private:
     // What need not be looked at again: numbers, by their unsigned form, and the texts that were wide enough
     // to be measured.
     std::array<std::vector<bool>, ColumnCount> m_seenNumbers;
-    std::array<std::unordered_set<std::string>, ColumnCount> m_measuredTexts;
+    std::array<std::set<std::string, std::less<>>, ColumnCount> m_measuredTexts;
 };

@@ -11,6 +11,24 @@
 
 using namespace CommonRoutines;
 
+namespace {
+
+// A cell as the list shows it; of a name as long as its file, no more is copied than that.
+QString CellText(const DistrictRecord& record, int column) {
+    switch (column) {
+    case 0:
+        return Text::ForList(record.Name);
+    case 1:
+        return Text::ForList(record.Volume);
+    case 2:
+        return Text::ForList(record.County);
+    default:
+        return Text::ToQt(DistrictCell(record, static_cast<std::size_t>(column)));
+    }
+}
+
+} // namespace
+
 void DistrictModel::SetDistricts(std::vector<std::int32_t> districts) {
     beginResetModel();
     m_districts = std::move(districts);
@@ -38,7 +56,7 @@ int DistrictModel::columnCount(const QModelIndex& parent) const {
 
 QVariant DistrictModel::data(const QModelIndex& index, int role) const {
     const DistrictRecord& record = RecordOf(DistrictAt(index.row()));
-    const QString text = Text::ForList(DistrictCell(record, static_cast<std::size_t>(index.column())));
+    const QString text = CellText(record, index.column());
     const bool problem = DistrictHasProblem(record);
     switch (role) {
     case Qt::DisplayRole:

@@ -11,7 +11,6 @@ namespace Text {
 
 namespace {
 
-constexpr std::size_t LongestShown = 2000;
 constexpr QChar Ellipsis(0x2026);
 
 // What is shown for a tab and for the other control characters. (Unicode has a symbol for each of them,

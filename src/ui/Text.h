@@ -8,6 +8,9 @@
 // Where the core's texts, one Windows-1252 byte a character, become the toolkit's and come back.
 namespace Text {
 
+// Of a text that is longer, only this many characters are shown.
+inline constexpr std::size_t LongestShown = 2000;
+
 // Exactly the characters of the text. Back again, a character that Windows-1252 lacks becomes "?".
 [[nodiscard]] QString ToQt(std::string_view text);
 [[nodiscard]] std::string FromQt(const QString& text);
