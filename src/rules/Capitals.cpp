@@ -24,8 +24,9 @@ void AddLowerCaseWord(std::string_view word) {
     if (lLowerCaseWordCount >= std::ssize(LowerCaseWords)) {
         LowerCaseWords.resize(static_cast<std::size_t>(lLowerCaseWordCount) + WordListStep + 1);
     }
-    LowerCaseWords[static_cast<std::size_t>(lLowerCaseWordCount)] = Ansi::Lower(word);
-    LowerCaseWordSet.insert(Ansi::Lower(word));
+    std::string& added = LowerCaseWords[static_cast<std::size_t>(lLowerCaseWordCount)];
+    added = Ansi::Lower(word);
+    LowerCaseWordSet.insert(added);
 }
 
 // What a character means to the check. A closing parenthesis is no separator: it stays at the end of

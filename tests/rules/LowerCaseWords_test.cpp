@@ -36,6 +36,36 @@ TEST_F(LowerCaseWordList, WordsStandBetweenCommasAndEmptyItemsAreSkipped) {
     EXPECT_EQ(Words(), (Texts{"of", "the", "upon"}));
 }
 
+TEST_F(LowerCaseWordList, MillionsOfCommasAreNoWords) {
+    Load(std::string(20'000'000, ','));
+    EXPECT_EQ(lLowerCaseWordCount, 0);
+}
+
+TEST_F(LowerCaseWordList, AWordOfAHundredMegabytesIsAWord) {
+    Load(std::string(100'000'000, 'x'));
+    EXPECT_EQ(lLowerCaseWordCount, 1);
+}
+
+TEST_F(LowerCaseWordList, AMillionWordsAreLookedUp) {
+    Load(Items(1'000'000));
+    EXPECT_EQ(lLowerCaseWordCount, 1'000'000);
+    EXPECT_FALSE(HasUnusualCapitals("W1 w777777"));
+    EXPECT_TRUE(HasUnusualCapitals("W1 w1000001"));
+}
+
+TEST_F(LowerCaseWordList, WithoutMemoryForItTheListIsEmpty) {
+    class SmallMachine : public ScriptedDesktop {
+        std::optional<std::string> ReadFile(const std::string& /*path*/) override { throw std::bad_alloc(); }
+    };
+    Load("of,the\r\n");
+    SmallMachine machine;
+    machine.ExpectBox("There is not enough memory for the lowercase file - no words will be ignored",
+                      BoxIcon::Exclamation);
+    LoadLowerCaseWords(machine);
+    EXPECT_EQ(lLowerCaseWordCount, 0);
+    EXPECT_TRUE(HasUnusualCapitals("North of"));
+}
+
 TEST_F(LowerCaseWordList, EveryLineAddsItsWords) {
     Load("of\r\n\r\n  the , upon  \nle");
     EXPECT_EQ(Words(), (Texts{"of", "the", "upon", "le"}));

@@ -1,6 +1,7 @@
 #include "rules/MiddlePivotSort.h"
 
 #include "rules/SlowMatching.h"
+#include "support/Table.h"
 
 #include <gtest/gtest.h>
 #include <pthread.h>
@@ -111,6 +112,24 @@ TEST(MiddlePivotSort, UnluckyPivotsChangeNothingInTheOrder) {
             }
             ASSERT_NO_FATAL_FAILURE(ExpectTheSameOrder(elements));
         }
+    }
+}
+
+// Two texts that share long beginnings are compared for as long as those are: not at every swap.
+TEST(MiddlePivotSort, UnluckyPivotsDoNotCompareTheSameElementsAgainAndAgain) {
+    constexpr std::size_t size = 20'000;
+    constexpr std::size_t logarithm = 15;
+    for (const bool middleIsSmallest : {true, false}) {
+        Elements elements = UnluckyElements(size, middleIsSmallest);
+        const auto isLong = [](const Element& element) { return element.key == 10 || element.key == 11; };
+        std::size_t ofLongOnes = 0;
+        const auto less = [&](const Element& a, const Element& b) {
+            ofLongOnes += isLong(a) && isLong(b) ? 1U : 0U;
+            return a.key < b.key;
+        };
+        MiddlePivotSort::Sort(std::span(elements), less);
+        EXPECT_LT(ofLongOnes, 20 * logarithm);
+        EXPECT_TRUE(std::is_sorted(elements.begin(), elements.end(), ByKey()));
     }
 }
 

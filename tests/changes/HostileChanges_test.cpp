@@ -1,0 +1,99 @@
+// Change files that were made to hurt.
+
+#include "changes/ApplyChanges.h"
+#include "changes/ChangeFile.h"
+#include "edit/UndoJournal.h"
+#include "support/ScriptedDesktop.h"
+#include "support/Table.h"
+
+using namespace CommonRoutines;
+
+namespace {
+
+constexpr std::size_t Million = 1'000'000;
+constexpr std::size_t HundredMegabytes = 100 * Million;
+
+class HostileChanges : public StateTest {
+protected:
+    HostileChanges() {
+        ClearUndoRing();
+        lCurrentDistrict = AddDistrict("Alpha", {"Alfa"});
+        iEditMode = DistrictIdle;
+    }
+    ~HostileChanges() override { ClearUndoRing(); }
+
+    AppliedChanges ApplyAll(const ChangeList& list) {
+        desktop.ExpectBox("Warning - That will add approximately " + std::to_string(list.rows.size()) +
+                              " Variations\r\nIs that what you want to do?",
+                          BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
+        return ApplyChanges(list.rows, false, false, desktop).value_or(AppliedChanges());
+    }
+
+    ScriptedDesktop desktop;
+};
+
+// Texts whose characters differ in pairs of places, so that a hash that goes through them in words of eight
+// and multiplies finds them all the same: the highest bit of a word goes through the multiplication
+// unchanged and is taken back in the next word.
+std::string Colliding(std::size_t number, std::size_t pairs) {
+    std::string text;
+    for (std::size_t pair = 0; pair < pairs; ++pair) {
+        const bool flipped = (number >> pair & 1U) != 0;
+        text += flipped ? "\xB0#######" : "0#######";
+        text += flipped ? "####\xB0###" : "####0###";
+    }
+    return text;
+}
+
+} // namespace
+
+TEST_F(HostileChanges, ALineOfAHundredMegabytesIsOneProposal) {
+    const ChangeList list = ReadChanges(std::string(HundredMegabytes, 'X') + "\r\n");
+    ASSERT_EQ(list.rows.size(), 1U);
+    EXPECT_EQ(list.rows[0].sText.size(), HundredMegabytes);
+    EXPECT_EQ(list.rows[0].iTag, ChangeRow::Valid);
+}
+
+TEST_F(HostileChanges, ALineOfNothingButTagsIsReadOnce) {
+    std::string line = "<TR ";
+    while (line.size() < 10 * Million) {
+        line += "<TR><TD";
+    }
+    EXPECT_TRUE(ReadChanges(line + "\r\n").rows.empty());
+}
+
+TEST_F(HostileChanges, AMillionEmptyLinesAreNoProposals) {
+    EXPECT_TRUE(ReadChanges(std::string(Million, '\n')).rows.empty());
+}
+
+TEST_F(HostileChanges, OfAHundredThousandEqualProposalsOneIsAdded) {
+    constexpr std::int32_t count = 100'000;
+    std::string content;
+    for (std::int32_t i = 0; i < count; ++i) {
+        content += "Betta\n";
+    }
+    const AppliedChanges applied = ApplyAll(ReadChanges(content));
+    EXPECT_EQ(applied.added, 1);
+    EXPECT_EQ(applied.ignored, count - 1);
+}
+
+TEST_F(HostileChanges, AHundredThousandDifferentProposalsAreAdded) {
+    constexpr std::int32_t count = 100'000;
+    std::string content;
+    for (std::int32_t i = 0; i < count; ++i) {
+        content += "Betta " + std::to_string(i) + "\n";
+    }
+    const AppliedChanges applied = ApplyAll(ReadChanges(content));
+    EXPECT_EQ(applied.added, count);
+    EXPECT_EQ(DistrictAt(lCurrentDistrict).lVariationCount, count + 1);
+    EXPECT_TRUE(bChanged);
+}
+
+TEST_F(HostileChanges, ProposalsThatWereMadeToCollideAreAddedAsQuickly) {
+    constexpr std::size_t pairs = 16;
+    std::string content;
+    for (std::size_t number = 0; number < 1U << pairs; ++number) {
+        content += Colliding(number, pairs) + "\n";
+    }
+    EXPECT_EQ(ApplyAll(ReadChanges(content)).added, 1 << pairs);
+}
