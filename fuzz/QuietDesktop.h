@@ -21,7 +21,7 @@ public:
 };
 
 // A desktop without a person: one file in memory, and a choice for every repair taken in turn from a
-// list of answers.
+// list of answers, as are the texts that are typed.
 class QuietDesktop : public Desktop {
 public:
     QuietDesktop(std::string content, std::string_view answers) : m_content(std::move(content)), m_answers(answers) {}
@@ -33,7 +33,11 @@ public:
                          std::span<const std::string> ButtonCaptions) override {
         return ButtonCaptions[NextAnswer() % ButtonCaptions.size()];
     }
-    std::optional<std::string> InputBox(std::string_view /*prompt*/) override { return "Typed"; }
+    std::optional<std::string> InputBox(std::string_view /*prompt*/) override {
+        static const std::vector<std::string> texts{"", "%", " !Elm%12 ", "a|b", "Caf\xE9", "x\ty"};
+        // Every second text is a valid one: the question is asked until there is one.
+        return ++m_inputs % 2 == 0 ? "Typed" : texts[NextAnswer() % texts.size()];
+    }
     void ShowReport(const Report& /*report*/) override {}
     std::optional<std::string> ChooseFileToOpen(const FileRequest& /*request*/) override { return std::nullopt; }
     std::optional<std::string> ChooseFileToSave(const FileRequest& /*request*/) override { return std::nullopt; }
@@ -60,4 +64,5 @@ private:
     std::string m_content;
     std::string m_answers;
     std::size_t m_next = 0;
+    std::size_t m_inputs = 0;
 };

@@ -1,6 +1,7 @@
 // Reads any bytes as a data file with any answers to its questions, then looks at everything that the
 // window would show of it. What is saved must come back the same when it is read and saved again.
 
+#include "Invariant.h"
 #include "QuietDesktop.h"
 
 #include "checks/CompleteCheck.h"
@@ -15,8 +16,6 @@
 #include "file/DistrictFileWriter.h"
 #include "file/DistrictList.h"
 
-#include <cstdlib>
-
 using namespace CommonRoutines;
 
 namespace {
@@ -26,7 +25,33 @@ std::string ReadAndSave(const std::string& content, std::string_view answers) {
     CommentTypes.Reset();
     QuietDesktop desktop(content, answers);
     ReadDistrictFile(desktop);
+    if (iRepairAction == Quit) {
+        lLineCount = 0; // as opening a file does
+    }
     return Encoded(DistrictFileContent(), eFileEncoding);
+}
+
+// All that a district's record says, as a text.
+std::string TableAsText() {
+    std::string text;
+    for (std::int32_t line = 1; line <= lLineCount; ++line) {
+        const DistrictRecord& record = RecordOf(line);
+        for (const Ansi::String& field : {record.Name, record.HeaderText, record.County, record.Volume}) {
+            text += field + "\n";
+        }
+        for (const std::int32_t number :
+             {std::int32_t{record.bRetained}, std::int32_t{record.Founded}, std::int32_t{record.QtrF},
+              std::int32_t{record.Abolished}, std::int32_t{record.QtrA}, record.iQuestionCount, record.iDuplicateCount,
+              record.lInvalidCount, record.lWarningCount, record.lVariationCount}) {
+            text += std::to_string(number) + ",";
+        }
+        for (std::int32_t k = 1; k <= record.lVariationCount; ++k) {
+            const VariationRecord& variation = record.Variations[static_cast<std::size_t>(k)];
+            text += "|" + variation.Text + (variation.bDuplicate ? "=" + std::to_string(variation.lDuplicateOf) : "");
+            text += variation.bUnusualCaps ? "^" : "";
+        }
+    }
+    return text;
 }
 
 void LookAtEverything() {
@@ -64,10 +89,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     const std::string_view input(reinterpret_cast<const char*>(data), size);
     const std::string saved = ReadAndSave(std::string(input.substr(answerCount)), input.substr(0, answerCount));
     LookAtEverything();
-    const bool repaired = bChanged;
+    // What was repaired needs no repair again, and what was read once comes back the same ever after.
     const std::string again = ReadAndSave(saved, "");
-    if (!repaired && !bChanged && again != LinesTrimmed(saved)) {
-        std::abort();
-    }
+    Demand(!bChanged && again == LinesTrimmed(saved));
+    const std::string third = ReadAndSave(again, "");
+    const std::string table = TableAsText();
+    Demand(!bChanged && third == LinesTrimmed(again));
+    Demand(ReadAndSave(third, "") == third && TableAsText() == table);
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include "core/Ansi.h"
 #include "rules/SlowMatching.h"
+#include "support/Table.h"
 
 #include <algorithm>
 #include <random>

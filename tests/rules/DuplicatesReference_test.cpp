@@ -2,6 +2,7 @@
 
 #include "rules/Duplicates.h"
 #include "rules/SlowMatching.h"
+#include "support/Table.h"
 
 #include <algorithm>
 

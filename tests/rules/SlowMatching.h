@@ -2,8 +2,8 @@
 
 // The comparison of variations and the sort of their keys once more, step by step and on copies.
 
+#include "core/State.h"
 #include "rules/SlowRules.h"
-#include "support/Table.h"
 
 #include <string>
 #include <vector>
@@ -48,7 +48,7 @@ inline bool Same(const std::string& a, const std::string& b, std::int32_t distri
     if (firstDate != secondDate) {
         return false;
     }
-    if (firstDate && secondDate && !Overlap(DistrictAt(districtA), DistrictAt(districtB))) {
+    if (firstDate && secondDate && !Overlap(CommonRoutines::RecordOf(districtA), CommonRoutines::RecordOf(districtB))) {
         return false;
     }
     const bool someVolume = InStr(firstSuffix, "%") > 0 || InStr(secondSuffix, "%") > 0;

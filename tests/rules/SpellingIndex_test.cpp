@@ -3,6 +3,7 @@
 #include "edit/Variations.h"
 #include "rules/Matching.h"
 #include "rules/SlowMatching.h"
+#include "support/Table.h"
 
 using namespace CommonRoutines;
 
