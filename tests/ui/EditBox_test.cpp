@@ -188,6 +188,12 @@ TEST_F(EditBoxTest, AVeryLongTextIsNotCutOff) {
     EXPECT_EQ(Slots().size(), std::string("|Alfa|Betta|").size() + 100000);
 }
 
+TEST_F(EditBoxTest, ATextThatIsTooLongToBeTypedInIsCutOffWithABeepWhenItIsPasted) {
+    Paste(QString(1'000'000, QLatin1Char('a')));
+    EXPECT_EQ(EditText().size(), 200'000);
+    EXPECT_EQ(desktop.beeps, 1);
+}
+
 TEST_F(EditBoxTest, UndoingTheTypingIsNotFilteredButClassified) {
     Paste(QStringLiteral(" Ga|mma"));
     Box().selectAll();
