@@ -19,7 +19,7 @@ constexpr std::size_t EarliestBreak = 4;
 constexpr std::size_t LongestRow = 2000;
 
 // Beyond this many rows nothing is wrapped any more: a comment, or the rest of one, then is a row.
-constexpr std::size_t MostWrappedRows = 1'000;
+constexpr std::size_t MostWrappedRows = 10'000;
 
 // The retained lines directly above a district are its comment lines: the index of the first of them.
 std::int32_t FirstCommentLine(std::int32_t lDistrict) {

@@ -30,14 +30,20 @@ std::optional<rlim_t> Taken() {
     return ok ? std::optional<rlim_t>(pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE))) : std::nullopt;
 }
 
-// What the machine has left, in bytes.
+// What the machine has left, in bytes: of its memory, and of the disk that stands in for it.
 std::optional<rlim_t> Left() {
     constexpr rlim_t kilobyte = 1024;
-    bool ok = false;
     const QByteArrayList words = WordsOf(QStringLiteral("/proc/meminfo"));
-    const qsizetype label = words.indexOf("MemAvailable:");
-    const auto kilobytes = label < 0 ? 0 : words.value(label + 1).toULongLong(&ok);
-    return ok ? std::optional<rlim_t>(kilobytes * kilobyte) : std::nullopt;
+    rlim_t left = 0;
+    for (const char* label : {"MemAvailable:", "SwapFree:"}) {
+        bool ok = false;
+        const qsizetype place = words.indexOf(label);
+        left += place < 0 ? 0 : words.value(place + 1).toULongLong(&ok) * kilobyte;
+        if (!ok) {
+            return std::nullopt;
+        }
+    }
+    return left;
 }
 
 #endif

@@ -143,7 +143,7 @@ TEST_F(HostileFiles, EveryOneOfManyNullVariationsIsAskedFor) {
     EXPECT_LT(user.longestPrompt, 1'000U);
 }
 
-TEST_F(HostileFiles, OnlyTheFirstThousandRowsOfCommentsAreWrapped) {
+TEST_F(HostileFiles, OnlyTheFirstTenThousandRowsOfCommentsAreWrapped) {
     int measured = 0;
     const auto measure = [&](std::string_view text) {
         ++measured;
@@ -153,10 +153,10 @@ TEST_F(HostileFiles, OnlyTheFirstThousandRowsOfCommentsAreWrapped) {
     std::vector<CommentRow> rows{{"T", ""}};
     const std::string comment = Repeated("a ", HundredMegabytes / 2) + "a";
     WrapComment(rows, comment, 80, measure);
-    EXPECT_EQ(rows.size(), 1'001U);
+    EXPECT_EQ(rows.size(), 10'001U);
     EXPECT_EQ(rows[0].sComment, Repeated("a ", 39) + "a");
-    EXPECT_EQ(rows.back().sComment.size(), comment.size() - 1'000 * 80);
-    EXPECT_LT(measured, 100'000);
+    EXPECT_EQ(rows.back().sComment.size(), comment.size() - 10'000 * 80);
+    EXPECT_LT(measured, 1'000'000);
 }
 
 TEST_F(HostileFiles, CharactersWithoutWidthFillARowAsWell) {
