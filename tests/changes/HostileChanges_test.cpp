@@ -90,7 +90,7 @@ TEST_F(HostileChanges, AHundredThousandDifferentProposalsAreAdded) {
 }
 
 TEST_F(HostileChanges, ProposalsThatWereMadeToCollideAreAddedAsQuickly) {
-    constexpr std::size_t pairs = 16;
+    constexpr std::size_t pairs = 15;
     std::string content;
     for (std::size_t number = 0; number < 1U << pairs; ++number) {
         content += Colliding(number, pairs) + "\n";
