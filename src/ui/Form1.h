@@ -45,8 +45,7 @@ private:
         static constexpr std::string_view ChangeFolder = "ProcessFile";
     };
 
-    // Runs a handler, which may find that there is not enough memory.
-    void Run(void (Form1::*handler)());
+    void Run(void (Form1::*handler)()); // as Memory::Run does
     void SetModels();
     void ConnectButtons();
     void ConnectEditPanel();
