@@ -4,8 +4,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-// This goes past the toolkit to the system, since the toolkit neither reports that the
-// disk refused what it was given nor writes down the names in a folder.
+// Goes past the toolkit to the system, since the toolkit neither reports that the disk refused what it
+// was given nor writes down the names in a folder.
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <unistd.h>

@@ -92,13 +92,12 @@ LockResult QtStateFolder::Lock(const std::string& name) {
         return LockResult::HeldByAnother;
     }
     MakeFolder();
-    auto lock = std::make_unique<QLockFile>(FilePath(name));
-    lock->setStaleLockTime(0); // a lock ends with its process, not with time
-    if (lock->tryLock(0)) {
+    auto lock = std::make_unique<FileLock>();
+    const LockResult result = lock->Take(FilePath(name));
+    if (result == LockResult::Taken) {
         m_locks.emplace(name, std::move(lock));
-        return LockResult::Taken;
     }
-    return lock->error() == QLockFile::LockFailedError ? LockResult::HeldByAnother : LockResult::Impossible;
+    return result;
 }
 
 void QtStateFolder::Unlock(const std::string& name) {

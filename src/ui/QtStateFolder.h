@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/StateFolder.h"
+#include "ui/FileLock.h"
 
-#include <QLockFile>
 #include <QString>
 
 #include <map>
@@ -26,6 +26,6 @@ public:
 private:
     static QString FilePath(const std::string& name);
 
-    std::map<std::string, std::unique_ptr<QLockFile>> m_locks;
+    std::map<std::string, std::unique_ptr<FileLock>> m_locks;
     QString m_lastName;
 };

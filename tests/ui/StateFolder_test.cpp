@@ -134,6 +134,14 @@ TEST_F(StateFolderTest, ALockOfAProcessThatDiedIsTakenOver) {
     EXPECT_EQ(folder.Lock("a.lock"), LockResult::Taken);
 }
 
+TEST_F(StateFolderTest, ALockThatNobodyHasIsTakenOverWhateverIsInIt) {
+    ASSERT_TRUE(folder.Replace("a.lock", "")); // a process that died early has written nothing into it
+    EXPECT_EQ(folder.Lock("a.lock"), LockResult::Taken);
+    folder.Unlock("a.lock");
+    ASSERT_TRUE(folder.Replace("a.lock", "1\nquexal-editor\nhere\n"));
+    EXPECT_EQ(folder.Lock("a.lock"), LockResult::Taken);
+}
+
 TEST_F(StateFolderTest, WhereNothingCanBeMadeNothingIsLockedOrWritten) {
     QFile blocker(Home());
     ASSERT_TRUE(blocker.open(QIODevice::WriteOnly)); // a file where a folder is needed
