@@ -9,6 +9,7 @@
 #include "recovery/UnsavedChanges.h"
 #include "rules/Duplicates.h"
 
+#include <algorithm>
 #include <set>
 #include <span>
 #include <unordered_map>
@@ -75,6 +76,13 @@ bool Restore(Desktop& desktop, const LeftOver& leftOver) {
     return true;
 }
 
+// Whether a left-over file holds nothing that another does not. Its editor was stopped while it took the
+// changes of the one over into the other.
+bool IsPartOf(const RecoveryFile& part, const RecoveryFile& whole) {
+    return part.file == whole.file && part.changes.size() <= whole.changes.size() &&
+           std::equal(part.changes.begin(), part.changes.end(), whole.changes.begin());
+}
+
 } // namespace
 
 void RestoreChanges(Desktop& desktop) {
@@ -85,14 +93,17 @@ void RestoreChanges(Desktop& desktop) {
     StateFolder& folder = desktop.State();
     const FileIdentity& file = Unsaved.File();
     bool hasRestored = false;
-    for (const LeftOver& leftOver : TakeLeftOvers(folder)) {
+    const std::vector<LeftOver> leftOvers = TakeLeftOvers(folder);
+    const RecoveryFile* offered = nullptr;
+    for (const LeftOver& leftOver : leftOvers) {
         const std::string changes = "unsaved changes of " + folder.TimeOf(leftOver.sName);
         if (!leftOver.file) {
             TellSetAside(desktop, leftOver, "The recovery file with " + changes + " is damaged.");
-        } else if (leftOver.file->changes.empty()) {
+        } else if (leftOver.file->changes.empty() || (offered != nullptr && IsPartOf(*leftOver.file, *offered))) {
             Drop(folder, leftOver);
         } else if (leftOver.file->file.HasBytesOf(file) && !hasRestored) {
             hasRestored = Restore(desktop, leftOver);
+            offered = &*leftOver.file;
         } else if (leftOver.file->file.sPath == file.sPath && !leftOver.file->file.HasBytesOf(file)) {
             TellSetAside(desktop, leftOver, "There are " + changes + " to an earlier state of this file.");
         } else {

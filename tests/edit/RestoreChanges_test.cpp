@@ -110,6 +110,22 @@ TEST_F(RestoreChangesTest, NoKeepsThemAside) {
     Open(); // asks no more
 }
 
+TEST_F(RestoreChangesTest, LeftTwiceByAnEditorThatWasStoppedWhileItTookThemOverAreOfferedOnce) {
+    const SlotChange fir{1, 2, "Fir"};
+    const SlotChange ivy{1, 4, "Ivy"};
+    for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
+        desktop.state.storage->files.clear();
+        Leave({fir}, Content, DataFilePath, "0001");
+        Leave({fir}, Content, DataFilePath, "0002");
+        Leave({fir, ivy}, Content, DataFilePath, "0003");
+        ExpectQuestion(answer);
+        Open();
+        EXPECT_EQ(desktop.state.Kept().size(), 1U);
+        EXPECT_FALSE(desktop.state.storage->locks.contains("0001.changes.lock"));
+    }
+    EXPECT_EQ(VariationAt(1, 4).Text, "Ivy");
+}
+
 TEST_F(RestoreChangesTest, OfTheSameBytesElsewhereAreOffered) {
     Leave({{1, 2, "Fir"}}, Content, "/data/before it was moved.txt");
     ExpectQuestion(BoxAnswer::Yes);
