@@ -3,6 +3,7 @@
 
 BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev libxxhash-dev libgl-dev fonts-dejavu-core"
 TEST_PACKAGES="libgtest-dev xvfb xauth xdotool openbox"
+FAULT_PACKAGES="e2fsprogs mount"
 
 say() { printf '%s\n' "$*"; }
 fail() {

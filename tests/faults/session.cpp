@@ -1,0 +1,87 @@
+// A session with the real window, offscreen, step by step: quexal-fault-session STEP...
+//   open PATH            opens a data file
+//   edits FIRST LAST     makes the edits with these numbers
+//   save PATH            saves, where there is something to save
+//   pause                stops until it is continued
+//   refuse               from now on, unsaved changes of an earlier session are not wanted
+// What is reached is printed, a line each: "opened", "edit NUMBER", "saving", "saved" when the program said so,
+// "nothing to save", "box TEXT" for every box, and "finished" after the last step.
+
+#include "SessionWindow.h"
+
+#include <QApplication>
+
+#include <csignal>
+#include <cstdio>
+#include <string>
+
+#include <unistd.h>
+
+namespace {
+
+class Steps {
+public:
+    Steps(int count, char* const* texts) : m_count(count), m_texts(texts) {}
+
+    [[nodiscard]] bool AtEnd() const { return m_next == m_count; }
+    std::string Next() {
+        if (AtEnd()) {
+            qFatal("the last step is not complete");
+        }
+        return m_texts[m_next++];
+    }
+
+private:
+    int m_count;
+    char* const* m_texts;
+    int m_next = 1;
+};
+
+// The toolkit warns of what an offscreen window in an empty home lacks; what ends the program is said.
+void SayWhatIsFatal(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+    if (type == QtFatalMsg) {
+        std::fprintf(stderr, "quexal-fault-session: %s\n", qUtf8Printable(text));
+    }
+}
+
+void MakeEdits(SessionWindow& window, int first, int last) {
+    for (int number = first; number <= last; ++number) {
+        window.MakeEdit(number);
+        Milestone("edit " + std::to_string(number));
+    }
+}
+
+void Play(SessionWindow& window, Steps& steps) {
+    const std::string step = steps.Next();
+    if (step == "open") {
+        window.Open(steps.Next());
+        Milestone("opened");
+    } else if (step == "edits") {
+        const int first = std::stoi(steps.Next());
+        MakeEdits(window, first, std::stoi(steps.Next()));
+    } else if (step == "save") {
+        window.Save(steps.Next());
+    } else if (step == "pause") {
+        std::raise(SIGSTOP);
+    } else if (step == "refuse") {
+        window.desktop.wantsUnsavedChanges = false;
+    } else {
+        qFatal("no step is called %s", step.c_str());
+    }
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    qInstallMessageHandler(SayWhatIsFatal);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("quexal-editor"));
+    SessionWindow window;
+    Steps steps(argc, argv);
+    while (!steps.AtEnd()) {
+        Play(window, steps);
+    }
+    Milestone("finished");
+    // The window is not closed: a user who is asked about changes there would keep or drop them knowingly.
+    _exit(0);
+}
