@@ -1,5 +1,7 @@
 #include "FaultTest.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -93,8 +95,11 @@ std::string SavedWithoutFault(const std::string& content, int edits) {
     return ContentOf(file).value();
 }
 
-TemporaryFolder::TemporaryFolder() {
-    std::string name = std::filesystem::canonical(std::filesystem::temp_directory_path()) / "quexal-faults-XXXXXX";
+TemporaryFolder::TemporaryFolder(Kind kind) {
+    const std::filesystem::path memory = "/dev/shm";
+    const bool inMemory = kind == Kind::InMemory && access(memory.c_str(), W_OK) == 0;
+    const std::filesystem::path parent = inMemory ? memory : std::filesystem::temp_directory_path();
+    std::string name = std::filesystem::canonical(parent) / "quexal-faults-XXXXXX";
     if (mkdtemp(name.data()) == nullptr) {
         throw std::runtime_error("no temporary folder");
     }

@@ -21,10 +21,13 @@ const std::string& ContentAfter(int edits);
 // Any data file after so many edits, likewise.
 std::string SavedWithoutFault(const std::string& content, int edits);
 
-// A folder that goes with its owner.
+// A folder that goes with its owner. It is in memory where the machine has a place for that, or on the disk:
+// hundreds of saves are quicker when none waits for a disk, and calls fail or kill alike on both.
 class TemporaryFolder {
 public:
-    TemporaryFolder();
+    enum class Kind { InMemory, OnDisk };
+
+    explicit TemporaryFolder(Kind kind = Kind::InMemory);
     ~TemporaryFolder();
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;

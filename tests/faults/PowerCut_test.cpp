@@ -25,7 +25,7 @@ protected:
     // Edits and saves on a disk of its own; the power is cut before every call, and at the end. Nothing where
     // there are no disks in files.
     std::vector<Remains> CutPower(const std::string& action, const std::filesystem::path& name, int edits) {
-        LoopImage image(folder.Path() / "image", disk);
+        LoopImage image(images.Path() / "image", disk);
         if (!image.Mounted()) {
             return {};
         }
@@ -36,7 +36,7 @@ protected:
         std::vector<Remains> cuts;
         const auto cut = [&](const Session& session) {
             const std::string number = std::to_string(cuts.size());
-            cuts.push_back({folder.Path() / ("cut-" + number), session.LastEdit(), session.Reached("saved")});
+            cuts.push_back({images.Path() / ("cut-" + number), session.LastEdit(), session.Reached("saved")});
             image.CopyTo(cuts.back().image);
         };
         Session session(place, EditAndSave(name, edits), {action});
@@ -74,6 +74,7 @@ protected:
         }
     }
 
+    const TemporaryFolder images{TemporaryFolder::Kind::OnDisk};
     static constexpr std::size_t FewestCuts = 6; // a save alone has more
 };
 
