@@ -71,12 +71,14 @@ void LookAtEverything() {
 
 // Dropping an empty field at the end of a line may leave a blank there, which the next read trims.
 std::string LinesTrimmed(const std::string& content) {
+    const Encoding encoding = EncodingOf(content);
+    const std::string text = Decoded(content, encoding); // a byte order mark is no line
     std::string trimmed;
-    Lines lines(content);
+    Lines lines(text);
     while (const auto line = lines.Next()) {
         trimmed += std::string(Ansi::Trim(*line)) + "\r\n";
     }
-    return trimmed;
+    return Encoded(trimmed, encoding);
 }
 
 } // namespace

@@ -64,3 +64,8 @@ TEST_F(FileEncodingTest, EveryFileHasAnEncodingOfItsOwn) {
         EXPECT_EQ(ReadAndSave(bytes), bytes);
     }
 }
+
+TEST_F(FileEncodingTest, AMarkWithoutALineStaysOne) {
+    EXPECT_EQ(ReadAndSave(Mark), Mark);
+    EXPECT_EQ(lLineCount, 0);
+}
