@@ -3,7 +3,9 @@
 #include "edit/EditPanel.h"
 #include "ui/Text.h"
 
+#include <QDragEnterEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 
 namespace {
 
@@ -30,6 +32,15 @@ void EditBox::ShowText(std::string_view text) {
     const bool cutOff = text.size() > LongestEditable;
     setReadOnly(cutOff);
     setText(cutOff ? Text::ForList(text) : Text::ToQt(text));
+}
+
+// A file is for the window, a text for the box.
+void EditBox::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) {
+        event->ignore();
+    } else {
+        QLineEdit::dragEnterEvent(event);
+    }
 }
 
 bool EditBox::MayInsert(const QString& typed) const {

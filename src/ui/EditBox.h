@@ -24,6 +24,7 @@ Q_SIGNALS:
     void NothingToUndo(); // undo was asked for, but there is no typing to take back
 
 protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -18,10 +18,12 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QStyle>
+#include <QTimer>
 
 using namespace CommonRoutines;
 
@@ -35,6 +37,7 @@ Form1::Form1(Desktop& desktop) : m_desktop(desktop), m_controls(this) {
     setObjectName(QStringLiteral("Form1"));
     setWindowTitle(QStringLiteral("Quexal Editor"));
     resize(DesignSize);
+    setAcceptDrops(true);
     SetModels();
     ConnectButtons();
     ConnectEditPanel();
@@ -160,6 +163,21 @@ void Form1::closeEvent(QCloseEvent* event) {
     event->setAccepted(MayDiscardChanges());
 }
 
+// One file that is dropped on the window is opened, wherever "Open File" could be pressed.
+void Form1::dragEnterEvent(QDragEnterEvent* event) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.constFirst().isLocalFile() && m_controls.cbOpen->isEnabled()) {
+        event->acceptProposedAction();
+    }
+}
+
+void Form1::dropEvent(QDropEvent* event) {
+    const std::string path = Text::PathFromQt(event->mimeData()->urls().constFirst().toLocalFile());
+    event->acceptProposedAction();
+    // Questions come up only when the program that the file was dragged from has been answered.
+    QTimer::singleShot(0, this, [=, this] { Memory::Run(m_desktop, [&] { OpenDropped(path); }); });
+}
+
 void Form1::ApplyWindowMode() {
     const ChangeListState changes{m_changes->rowCount() > 0,
                                   m_changes->AnyChecked() || !m_controls.LvChanges->SelectedRows().empty()};
@@ -169,12 +187,25 @@ void Form1::ApplyWindowMode() {
             m_controls.Widget(control)->setEnabled(*enabled);
         }
     }
+    ShowHints();
     if (ModeClearsStatus(iEditMode)) {
         m_controls.lbStatus->ShowText({});
     }
     if (ModeClearsApplyTo(iEditMode)) {
         m_controls.lbApplyTo->ShowText({});
     }
+}
+
+// What to do next, where a list is empty.
+void Form1::ShowHints() {
+    const bool hasDistricts = !m_districtsByName.empty() && iEditMode != NothingOpen;
+    m_controls.lvAlpha->SetHint(hasDistricts ? tr("No district has a comment of this type")
+                                             : tr("Open a file, or drop one here, to see its districts"));
+    m_controls.lvVariations->SetHint(IsDistrict(lCurrentDistrict)
+                                         ? tr("This district has no variations: press Add to enter one")
+                                         : tr("Choose a district to see its variations"));
+    m_controls.LvChanges->SetHint(tr("Process File shows the proposals of a file here"));
+    m_controls.lvComments->SetHint(IsDistrict(lCurrentDistrict) ? tr("This district has no comments") : QString());
 }
 
 void Form1::FitWindowToScreen() {

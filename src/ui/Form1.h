@@ -36,6 +36,8 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     // Where the per-user settings of the window are kept.
@@ -54,6 +56,8 @@ private:
 
     // The file.
     void OpenClicked();
+    void OpenDropped(const std::string& path);
+    void OpenFile(const std::string& path);
     void SaveClicked();
     [[nodiscard]] bool MayDiscardChanges();
     void RememberFolder(const std::string& path, std::string_view key);
@@ -105,6 +109,7 @@ private:
 
     // The window as a whole.
     void ApplyWindowMode();
+    void ShowHints();
     void FitWindowToScreen();
     void ShowWhyError(std::string_view text, CommonRoutines::VariationState state);
     void ClearWhyError();

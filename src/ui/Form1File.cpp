@@ -42,12 +42,21 @@ void Form1::OpenClicked() {
     if (request.sFolder.empty()) {
         request.sFolder = m_desktop.ProgramFolder();
     }
-    const auto path = m_desktop.ChooseFileToOpen(request);
-    if (!path) {
-        return;
+    if (const auto path = m_desktop.ChooseFileToOpen(request)) {
+        OpenFile(*path);
     }
-    sDataFileName = *path;
-    RememberFolder(*path, Settings::DataFolder);
+}
+
+void Form1::OpenDropped(const std::string& path) {
+    if (MayDiscardChanges()) {
+        ResetWindow();
+        OpenFile(path);
+    }
+}
+
+void Form1::OpenFile(const std::string& path) {
+    sDataFileName = path;
+    RememberFolder(path, Settings::DataFolder);
     bChanged = false;
     m_districtsByName.clear();
     ReadDistrictFile(m_desktop);

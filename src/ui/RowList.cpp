@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -133,6 +134,25 @@ void RowList::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QTreeView::keyPressEvent(event);
+}
+
+void RowList::SetHint(const QString& hint) {
+    if (hint != m_hint) {
+        m_hint = hint;
+        setAccessibleDescription(hint);
+        viewport()->update();
+    }
+}
+
+void RowList::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (model() != nullptr && model()->rowCount() == 0) {
+        constexpr int margin = 12;
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_hint);
+    }
 }
 
 void RowList::resizeEvent(QResizeEvent* event) {

@@ -18,6 +18,10 @@ public:
     // Selects one row and scrolls to it, as the program's own doing: nothing is announced.
     void SelectRow(int row);
 
+    // What an empty list says, in grey: what to do next.
+    void SetHint(const QString& hint);
+    [[nodiscard]] const QString& Hint() const { return m_hint; }
+
     // Where an index is shown, also outside of what is visible.
     [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
 
@@ -35,10 +39,12 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void Announce();
 
+    QString m_hint;
     bool m_announced = false; // since the mouse was pressed
     bool m_quiet = false;
 };
