@@ -98,6 +98,7 @@ TextChange FollowText(std::string_view text) {
 
 void CommitText(std::string_view text, Desktop& desktop) {
     const std::string trimmed(Ansi::Trim(text));
+    bChanged = true;
     if (iEditMode == AddingAcceptable) {
         RecordChange(UndoAdd, trimmed, "", desktop);
         AddSlot(trimmed);
@@ -110,7 +111,6 @@ void CommitText(std::string_view text, Desktop& desktop) {
     bWarning = false;
     static_cast<void>(ValidateVariation(text, lCurrentDistrict)); // only the warning counts
     FindDuplicateVariations(lCurrentDistrict, !KeepPairs);
-    bChanged = true;
     Unsaved.Write(desktop);
 }
 
@@ -123,11 +123,11 @@ std::string DeleteQuestion(std::span<const VariationRow> rows) {
 }
 
 void DeleteVariations(std::span<const VariationRow> rows, Desktop& desktop) {
+    bChanged = true;
     for (const VariationRow& row : rows) {
         RecordChange(UndoDelete, VariationInCurrentDistrict(row.lIndex).Text, "", desktop);
         StoreText(row.lIndex, DeletedText);
     }
-    bChanged = true;
     lEditIndex = 0;
     FindDuplicateVariations(lCurrentDistrict, !KeepPairs);
     Unsaved.Write(desktop);

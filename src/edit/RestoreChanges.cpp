@@ -1,5 +1,6 @@
 #include "edit/RestoreChanges.h"
 
+#include "core/Ansi.h"
 #include "core/Desktop.h"
 #include "core/State.h"
 #include "edit/VariationList.h"
@@ -10,9 +11,13 @@
 #include "rules/Duplicates.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <span>
+#include <string>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace CommonRoutines {
 
@@ -34,23 +39,61 @@ bool FitsTable(std::span<const SlotChange> changes) {
     return true;
 }
 
-void MakeChanges(std::span<const SlotChange> changes) {
-    std::set<std::int32_t> lines;
+// The lines that the changes are about, as they stand in the file: a repair of this reading must not be
+// mixed with another one of the same line.
+void UndoRepairs(const std::set<std::int32_t>& lines) {
+    for (const std::int32_t line : lines) {
+        lCurrentDistrict = line;
+        const std::vector<std::string>& fields = Unsaved.FieldsAsRead(line);
+        for (std::size_t k = 1; k < fields.size(); ++k) {
+            const bool blank = Ansi::Trim(fields[k]).empty();
+            StoreText(static_cast<std::int32_t>(k), blank ? DeletedText : std::string_view(fields[k]));
+        }
+    }
+}
+
+// Of several files with changes, each numbers its new variations from the end of the line as it was read.
+void MakeChanges(std::span<const SlotChange> changes, const std::map<std::int32_t, std::int32_t>& countsAsRead) {
+    std::map<std::pair<std::int32_t, std::int32_t>, std::int32_t> added;
     for (const SlotChange& change : changes) {
         lCurrentDistrict = change.lLine;
-        if (change.lSlot > CurrentDistrict().lVariationCount) {
-            AddSlot(change.sText);
-        } else {
+        if (change.lSlot <= countsAsRead.at(change.lLine)) {
             StoreText(change.lSlot, change.sText);
+        } else if (const auto slot = added.find({change.lLine, change.lSlot}); slot != added.end()) {
+            StoreText(slot->second, change.sText);
+        } else {
+            added[{change.lLine, change.lSlot}] = AddSlot(change.sText);
         }
-        lines.insert(change.lLine);
+    }
+}
+
+// Makes the changes of the wanted files, those of the oldest first, so that of two changes of one
+// variation the later one counts.
+void MakeAll(Desktop& desktop, std::span<const LeftOver* const> wanted) {
+    std::set<std::int32_t> lines;
+    std::map<std::int32_t, std::int32_t> countsAsRead;
+    for (const LeftOver* leftOver : wanted) {
+        for (const SlotChange& change : leftOver->file->changes) {
+            lines.insert(change.lLine);
+            countsAsRead[change.lLine] = RecordOf(change.lLine).lVariationCount;
+        }
+    }
+    bChanged = true;
+    UndoRepairs(lines);
+    for (const LeftOver* leftOver : wanted) {
+        MakeChanges(leftOver->file->changes, countsAsRead); // which notes them as this editor's own
+        Unsaved.TakeOver(leftOver->sName);
     }
     lCurrentDistrict = 0;
     for (const std::int32_t line : lines) {
         FindDuplicateVariations(line);
         static_cast<void>(ListVariations(line)); // only the counts matter
     }
-    bChanged = true;
+    Unsaved.Write(desktop);
+}
+
+std::string ChangesOf(Desktop& desktop, const LeftOver& leftOver) {
+    return "unsaved changes of " + desktop.State().TimeOf(leftOver.sName);
 }
 
 void TellSetAside(Desktop& desktop, const LeftOver& leftOver, const std::string& what) {
@@ -58,29 +101,63 @@ void TellSetAside(Desktop& desktop, const LeftOver& leftOver, const std::string&
     desktop.MsgBox(what + "  None of them has been made.  They are kept in\r\n" + place, BoxIcon::Exclamation);
 }
 
-// True when the user wants the changes and has them back.
-bool Restore(Desktop& desktop, const LeftOver& leftOver) {
-    const std::string changes = "unsaved changes of " + desktop.State().TimeOf(leftOver.sName);
-    if (!FitsTable(leftOver.file->changes)) {
-        TellSetAside(desktop, leftOver, "The " + changes + " do not fit this file.");
-        return false;
-    }
-    if (desktop.MsgBox("There are " + changes + " to this file.\r\nDo you want them back?", BoxIcon::Question,
-                       BoxButtons::YesNo) != BoxAnswer::Yes) {
-        SetAside(desktop.State(), leftOver);
-        return false;
-    }
-    MakeChanges(leftOver.file->changes); // which notes them as this editor's own
-    Unsaved.TakeOver(leftOver.sName);
-    Unsaved.Write(desktop);
-    return true;
+bool IsWanted(Desktop& desktop, const LeftOver& leftOver) {
+    const std::string& path = leftOver.file->file.sPath;
+    const bool isSamePath = path == Unsaved.File().sPath;
+    const std::string whose = isSamePath ? "to this file." : "to a file that was the same:\r\n" + Ansi::FromUtf8(path);
+    return desktop.MsgBox("There are " + ChangesOf(desktop, leftOver) + " " + whose + "\r\nDo you want them back?",
+                          BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
 }
 
 // Whether a left-over file holds nothing that another does not. Its editor was stopped while it took the
 // changes of the one over into the other.
 bool IsPartOf(const RecoveryFile& part, const RecoveryFile& whole) {
-    return part.file == whole.file && part.changes.size() <= whole.changes.size() &&
-           std::equal(part.changes.begin(), part.changes.end(), whole.changes.begin());
+    const auto& changes = whole.changes;
+    return part.file == whole.file &&
+           std::search(changes.begin(), changes.end(), part.changes.begin(), part.changes.end()) != changes.end();
+}
+
+// The left-over files that have to do with the open file, the latest first. Those of other files are given
+// back at once, so that another editor may ask about them.
+std::vector<LeftOver> LeftOversOfFile(StateFolder& folder) {
+    const FileIdentity& file = Unsaved.File();
+    std::vector<LeftOver> leftOvers = TakeLeftOvers(folder);
+    std::erase_if(leftOvers, [&](const LeftOver& leftOver) {
+        const bool isOfAnother =
+            leftOver.file && leftOver.file->file.sPath != file.sPath && !leftOver.file->file.HasBytesOf(file);
+        if (isOfAnother) {
+            GiveBack(folder, leftOver);
+        }
+        return isOfAnother;
+    });
+    return leftOvers;
+}
+
+// Asks about the left-over files, and returns those that are wanted, the oldest first.
+std::vector<const LeftOver*> AskFor(Desktop& desktop, std::span<const LeftOver> leftOvers) {
+    std::vector<const LeftOver*> asked;
+    std::vector<const LeftOver*> wanted;
+    for (const LeftOver& leftOver : leftOvers) {
+        const auto holdsIt = [&](const LeftOver* other) { return IsPartOf(*leftOver.file, *other->file); };
+        const std::string changes = ChangesOf(desktop, leftOver);
+        if (!leftOver.file) {
+            TellSetAside(desktop, leftOver, "The recovery file with " + changes + " is damaged.");
+        } else if (leftOver.file->changes.empty() || std::any_of(asked.begin(), asked.end(), holdsIt)) {
+            Drop(desktop.State(), leftOver);
+        } else if (!leftOver.file->file.HasBytesOf(Unsaved.File())) {
+            TellSetAside(desktop, leftOver, "There are " + changes + " to an earlier state of this file.");
+        } else if (!FitsTable(leftOver.file->changes)) {
+            TellSetAside(desktop, leftOver, "The " + changes + " do not fit this file.");
+        } else {
+            asked.push_back(&leftOver);
+            if (IsWanted(desktop, leftOver)) {
+                wanted.insert(wanted.begin(), &leftOver);
+            } else {
+                SetAside(desktop.State(), leftOver);
+            }
+        }
+    }
+    return wanted;
 }
 
 } // namespace
@@ -90,26 +167,9 @@ void RestoreChanges(Desktop& desktop) {
         desktop.MsgBox("Another editor has this file open.  What is saved last replaces what was saved before.",
                        BoxIcon::Exclamation);
     }
-    StateFolder& folder = desktop.State();
-    const FileIdentity& file = Unsaved.File();
-    bool hasRestored = false;
-    const std::vector<LeftOver> leftOvers = TakeLeftOvers(folder);
-    const RecoveryFile* offered = nullptr;
-    for (const LeftOver& leftOver : leftOvers) {
-        const std::string changes = "unsaved changes of " + folder.TimeOf(leftOver.sName);
-        if (!leftOver.file) {
-            TellSetAside(desktop, leftOver, "The recovery file with " + changes + " is damaged.");
-        } else if (leftOver.file->changes.empty() || (offered != nullptr && IsPartOf(*leftOver.file, *offered))) {
-            Drop(folder, leftOver);
-        } else if (leftOver.file->file.HasBytesOf(file) && !hasRestored) {
-            hasRestored = Restore(desktop, leftOver);
-            offered = &*leftOver.file;
-        } else if (leftOver.file->file.sPath == file.sPath && !leftOver.file->file.HasBytesOf(file)) {
-            TellSetAside(desktop, leftOver, "There are " + changes + " to an earlier state of this file.");
-        } else {
-            // Of another file; or, with others restored, to be asked about the next time.
-            GiveBack(folder, leftOver);
-        }
+    const std::vector<LeftOver> leftOvers = LeftOversOfFile(desktop.State());
+    if (const std::vector<const LeftOver*> wanted = AskFor(desktop, leftOvers); !wanted.empty()) {
+        MakeAll(desktop, wanted);
     }
 }
 

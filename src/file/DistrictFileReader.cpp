@@ -207,6 +207,7 @@ void FileRead::ReadVariation(DistrictRecord& record, std::int32_t k) {
 void FileRead::RepairVariation(DistrictRecord& record, std::int32_t k) {
     if (m_repairedFields.empty()) {
         m_repairedFields.assign(m_fields.begin(), m_fields.end());
+        Unsaved.KeepFields(lLineCount, m_repairedFields);
     }
     if (!RepairNullVariation(record, m_repairedFields, k, lLineCount, m_desktop)) {
         m_stopped = true;

@@ -64,7 +64,7 @@ void Drop(StateFolder& folder, const LeftOver& leftOver) {
 }
 
 std::string SetAside(StateFolder& folder, const LeftOver& leftOver) {
-    const std::string aside = leftOver.sName.substr(0, leftOver.sName.size() - Ending.size()).append(AsideEnding);
+    const std::string aside = folder.NewName().append(AsideEnding); // the last in the order of names
     const bool renamed = folder.Rename(leftOver.sName, aside);
     GiveBack(folder, leftOver);
     std::vector<std::string> kept = NamesWith(folder, AsideEnding);

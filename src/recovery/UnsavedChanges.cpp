@@ -24,6 +24,13 @@ void RemoveFile(StateFolder& folder, std::string& name) {
     }
 }
 
+void RemoveFiles(StateFolder& folder, std::vector<std::string>& names) {
+    for (std::string& name : names) {
+        RemoveFile(folder, name);
+    }
+    names.clear();
+}
+
 } // namespace
 
 void UnsavedChanges::Begin(Desktop& desktop, const std::string& path, std::string_view bytes, Numbering numbering) {
@@ -58,11 +65,11 @@ void UnsavedChanges::NoteInFile(std::int32_t line, std::int32_t slot, std::strin
 }
 
 void UnsavedChanges::Write(Desktop& desktop) {
-    if (m_onDisk == m_content.size()) {
+    if (!AreUnwritten()) {
         return;
     }
     if (TryToWrite(desktop.State())) {
-        RemoveFile(desktop.State(), m_takenOver);
+        RemoveFiles(desktop.State(), m_takenOver);
         return;
     }
     if (m_hasTold) {
@@ -95,13 +102,15 @@ bool UnsavedChanges::TryToWrite(StateFolder& folder) {
 
 void UnsavedChanges::Remove(Desktop& desktop) {
     RemoveFile(desktop.State(), m_name);
-    RemoveFile(desktop.State(), m_takenOver);
+    RemoveFiles(desktop.State(), m_takenOver);
     Release(desktop);
 }
 
 void UnsavedChanges::Release(Desktop& desktop) {
     Unlock(desktop.State(), m_name);
-    Unlock(desktop.State(), m_takenOver);
+    for (std::string& name : m_takenOver) {
+        Unlock(desktop.State(), name);
+    }
     const bool hasTold = m_hasTold;
     *this = {};
     m_hasTold = hasTold;

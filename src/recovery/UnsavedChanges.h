@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 class Desktop;
 class StateFolder;
@@ -32,9 +33,17 @@ public:
     // fails, the user is told, once for every file, and the next call tries again.
     void Write(Desktop& desktop);
 
-    // What is noted and not yet written is what this left-over file holds. Its lock is taken over; the
+    // What is noted and not yet written holds what this left-over file does. Its lock is taken over; the
     // file goes when it is not needed any more.
-    void TakeOver(const std::string& leftOver) { m_takenOver = leftOver; }
+    void TakeOver(const std::string& leftOver) { m_takenOver.push_back(leftOver); }
+
+    // The fields of a line that is being repaired, as they stand in the file, and those of any line: empty
+    // unless it has been repaired.
+    void KeepFields(std::int32_t line, const std::vector<std::string>& fields) { m_fields[line] = fields; }
+    [[nodiscard]] const std::vector<std::string>& FieldsAsRead(std::int32_t line) { return m_fields[line]; }
+
+    // True while there are changes that could not be written.
+    [[nodiscard]] bool AreUnwritten() const { return m_onDisk != m_content.size(); }
 
     // The changes are in a data file, or not wanted any more. Those to come are not noted until the
     // next Begin.
@@ -56,8 +65,9 @@ private:
     FileIdentity m_file;
     std::string m_content; // of the whole file; empty until there is a change
     std::size_t m_onDisk = 0;
-    std::string m_name;      // of the recovery file, which is locked; empty until there is one
-    std::string m_takenOver; // a left-over file, which is locked
+    std::string m_name;                   // of the recovery file, which is locked; empty until there is one
+    std::vector<std::string> m_takenOver; // left-over files, which are locked
+    std::unordered_map<std::int32_t, std::vector<std::string>> m_fields;
     bool m_hasTold = false;
 };
 

@@ -9,6 +9,8 @@
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <unistd.h>
+
+#include <cerrno>
 #endif
 
 #include <limits>
@@ -31,12 +33,14 @@ bool SyncData(int handle) {
     return fdatasync(handle) == 0;
 }
 
+// A folder that the user may not read cannot be synced, and some file systems sync none: there the name is
+// as safe as it gets.
 bool SyncFolder(const QString& folder) {
     const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle < 0) {
-        return false;
+        return errno == EACCES;
     }
-    const bool synced = fsync(handle) == 0;
+    const bool synced = fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
     close(handle);
     return synced;
 }
@@ -65,11 +69,8 @@ std::optional<std::string> Read(const QString& path) {
     }
     std::string content(static_cast<std::size_t>(file.size()), '\0');
     const qint64 length = file.read(content.data(), static_cast<qint64>(content.size()));
-    if (length < 0) {
-        return std::nullopt;
-    }
-    content.resize(static_cast<std::size_t>(length));
-    return content;
+    // A disk that fails half way must not make a part pass for the file.
+    return length == static_cast<qint64>(content.size()) ? std::optional(std::move(content)) : std::nullopt;
 }
 
 bool Replace(const QString& path, std::string_view content) {

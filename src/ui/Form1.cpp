@@ -3,6 +3,7 @@
 #include "core/Desktop.h"
 #include "core/State.h"
 #include "edit/UndoJournal.h"
+#include "recovery/UnsavedChanges.h"
 #include "rules/Capitals.h"
 #include "ui/ChangeModel.h"
 #include "ui/CommentModels.h"
@@ -161,6 +162,9 @@ void Form1::showEvent(QShowEvent* event) {
 
 void Form1::closeEvent(QCloseEvent* event) {
     event->setAccepted(MayDiscardChanges());
+    if (event->isAccepted() && bChanged) {
+        Unsaved.Remove(m_desktop);
+    }
 }
 
 // One file that is dropped on the window is opened, wherever "Open File" could be pressed.

@@ -21,15 +21,13 @@
 using namespace CommonRoutines;
 
 bool Form1::MayDiscardChanges() {
-    if (!bChanged) {
+    // A cancelled or failed save costs nothing, unless the recovery file could not be written either.
+    if (!bChanged && !Unsaved.AreUnwritten()) {
         return true;
     }
-    const bool mayDiscard = m_desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
-                                             BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
-    if (mayDiscard) {
-        Unsaved.Remove(m_desktop);
-    }
-    return mayDiscard;
+    bChanged = true;
+    return m_desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?", BoxIcon::Question,
+                            BoxButtons::YesNo) == BoxAnswer::Yes;
 }
 
 void Form1::OpenClicked() {
@@ -55,6 +53,9 @@ void Form1::OpenDropped(const std::string& path) {
 }
 
 void Form1::OpenFile(const std::string& path) {
+    if (bChanged) {
+        Unsaved.Remove(m_desktop); // they were given up; until now the choice of a file could be cancelled
+    }
     sDataFileName = path;
     RememberFolder(path, Settings::DataFolder);
     bChanged = false;

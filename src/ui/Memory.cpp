@@ -1,6 +1,7 @@
 #include "ui/Memory.h"
 
 #include "core/Desktop.h"
+#include "recovery/UnsavedChanges.h"
 
 #include <QFile>
 
@@ -71,6 +72,7 @@ void Run(Desktop& desktop, const std::function<void()>& command) {
     try {
         command();
     } catch (const std::bad_alloc&) {
+        CommonRoutines::Unsaved.Write(desktop); // whatever the command has changed before
         desktop.ShowBusy(false);
         desktop.MsgBox("There is not enough memory for that.", BoxIcon::Critical);
     }

@@ -33,9 +33,8 @@ QString FolderPath() {
 // What is kept here is for nobody else to read.
 void MakeFolder() {
     const QString path = FolderPath();
-    if (!QFileInfo(path).isDir() && QDir().mkpath(path)) {
-        QFile::setPermissions(path, OnlyForTheUser);
-    }
+    QDir().mkpath(path);
+    QFile::setPermissions(path, OnlyForTheUser);
 }
 
 } // namespace

@@ -33,7 +33,8 @@ protected:
         desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
                           BoxIcon::Question, BoxButtons::YesNo, answer);
     }
-    void ExpectSetAside(const std::string& what, const std::string& name = "0001") {
+    // Names are given in order: the mark of the open file has the first one.
+    void ExpectSetAside(const std::string& what, const std::string& name = "1002") {
         desktop.ExpectBox(what + "  None of them has been made.  They are kept in\r\n/state/" + name + ".aside",
                           BoxIcon::Exclamation);
     }
@@ -106,7 +107,7 @@ TEST_F(RestoreChangesTest, NoKeepsThemAside) {
     ExpectQuestion(BoxAnswer::No);
     Open();
     ExpectUntouched();
-    EXPECT_EQ(desktop.state.Kept(), Texts{"0001.aside"});
+    EXPECT_EQ(desktop.state.Kept(), Texts{"1002.aside"});
     Open(); // asks no more
 }
 
@@ -126,11 +127,33 @@ TEST_F(RestoreChangesTest, LeftTwiceByAnEditorThatWasStoppedWhileItTookThemOverA
     EXPECT_EQ(VariationAt(1, 4).Text, "Ivy");
 }
 
-TEST_F(RestoreChangesTest, OfTheSameBytesElsewhereAreOffered) {
+TEST_F(RestoreChangesTest, OfTheSameBytesElsewhereAreOfferedWithTheirPath) {
     Leave({{1, 2, "Fir"}}, Content, "/data/before it was moved.txt");
-    ExpectQuestion(BoxAnswer::Yes);
+    desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to a file that was the same:\r\n"
+                      "/data/before it was moved.txt\r\nDo you want them back?",
+                      BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
     Open();
     EXPECT_EQ(VariationAt(1, 2).Text, "Fir");
+}
+
+TEST_F(RestoreChangesTest, OfOtherFilesAreFreeWhileOthersAreAskedAbout) {
+    class Watching : public ScriptedDesktop {
+    public:
+        std::set<std::string> locksAtQuestion;
+        BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override {
+            locksAtQuestion = state.storage->locks;
+            return ScriptedDesktop::MsgBox(text, icon, buttons);
+        }
+    } watching;
+    Leave({{1, 2, "Fir"}}, "other bytes", "/data/other.txt", "0002");
+    Leave({{1, 2, "Fir"}});
+    watching.state.storage = desktop.state.storage;
+    watching.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
+                       BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No);
+    ReadText(watching, Content);
+    RestoreChanges(watching);
+    EXPECT_TRUE(watching.locksAtQuestion.contains("0001.changes.lock"));
+    EXPECT_FALSE(watching.locksAtQuestion.contains("0002.changes.lock"));
 }
 
 TEST_F(RestoreChangesTest, OfOtherFilesAreLeftAlone) {
@@ -146,7 +169,7 @@ TEST_F(RestoreChangesTest, OfAnEarlierStateAreSetAside) {
     ExpectSetAside("There are unsaved changes of 05 Mar 2026 14:07 to an earlier state of this file.");
     Open();
     ExpectUntouched();
-    EXPECT_EQ(desktop.state.Kept(), Texts{"0001.aside"});
+    EXPECT_EQ(desktop.state.Kept(), Texts{"1002.aside"});
 }
 
 TEST_F(RestoreChangesTest, ThatAreDamagedAreSetAside) {
@@ -155,7 +178,7 @@ TEST_F(RestoreChangesTest, ThatAreDamagedAreSetAside) {
     ExpectSetAside("The recovery file with unsaved changes of 05 Mar 2026 14:07 is damaged.");
     Open();
     ExpectUntouched();
-    EXPECT_EQ(desktop.state.Kept(), Texts{"0001.aside"});
+    EXPECT_EQ(desktop.state.Kept(), Texts{"1002.aside"});
 }
 
 TEST_F(RestoreChangesTest, OfWhichOneDoesNotFitAreNotMadeAtAll) {
@@ -163,7 +186,7 @@ TEST_F(RestoreChangesTest, OfWhichOneDoesNotFitAreNotMadeAtAll) {
                                   {1, 5, "Fir"}, {3, 3, "Fir"}, {1, 2147483647, "Fir"}};
     for (const SlotChange& misfit : misfits) {
         Leave({{1, 1, "Larch"}, misfit, {1, 2, "Fir"}});
-        ExpectSetAside(DoNotFit);
+        ExpectSetAside(DoNotFit, std::to_string(1002 + desktop.state.storage->names));
         Open();
         ExpectUntouched();
         desktop.CheckDone();
@@ -184,24 +207,26 @@ TEST_F(RestoreChangesTest, WithoutAnyAreRemovedUnasked) {
     EXPECT_EQ(desktop.state.Kept(), Texts());
 }
 
-TEST_F(RestoreChangesTest, TheLatestAreAskedAboutFirstAndTheOthersAfterANo) {
+TEST_F(RestoreChangesTest, TheLatestAreAskedAboutFirst) {
     Leave({{1, 1, "Older"}}, Content, DataFilePath, "0001");
     Leave({{1, 1, "Newer"}}, Content, DataFilePath, "0002");
     ExpectQuestion(BoxAnswer::No);
     ExpectQuestion(BoxAnswer::Yes);
     Open();
     EXPECT_EQ(VariationAt(1, 1).Text, "Older");
-    EXPECT_EQ(desktop.state.Kept(".aside"), Texts{"0002.aside"});
+    EXPECT_EQ(desktop.state.Kept(".aside").size(), 1U);
 }
 
-TEST_F(RestoreChangesTest, AfterAYesTheOthersWaitForTheNextTime) {
-    Leave({{1, 1, "Older"}}, Content, DataFilePath, "0001");
-    Leave({{1, 1, "Newer"}}, Content, DataFilePath, "0002");
+// Of one variation the later change counts; what was added by either is there.
+TEST_F(RestoreChangesTest, OfTwoEditorsCanBothBeHadBack) {
+    Leave({{1, 1, "Older"}, {1, 2, "Fir"}, {1, 4, "Ivy"}, {1, 4, "!Ivy"}}, Content, DataFilePath, "0001");
+    Leave({{1, 1, "Newer"}, {1, 4, "Larch"}, {3, 2, "Oak"}}, Content, DataFilePath, "0002");
+    ExpectQuestion(BoxAnswer::Yes);
     ExpectQuestion(BoxAnswer::Yes);
     Open();
-    EXPECT_EQ(VariationAt(1, 1).Text, "Newer");
-    EXPECT_EQ(desktop.state.Kept().front(), "0001.changes");
-    EXPECT_FALSE(desktop.state.storage->locks.contains("0001.changes.lock"));
+    EXPECT_EQ(SlotsOf(1), (Texts{"Newer", "Fir", "Oak", "!Ivy", "Larch"}));
+    EXPECT_EQ(SlotsOf(3), (Texts{"Yew", "Oak"}));
+    EXPECT_EQ(desktop.state.Kept().size(), 1U); // of this editor's own
 }
 
 TEST_F(RestoreChangesTest, OfALivingEditorAreNotTouchedAndTheSecondEditorIsTold) {
@@ -246,4 +271,28 @@ TEST_F(RestoreChangesTest, RepairsMadeWhileReadingAreAmongThem) {
     ExpectQuestion(BoxAnswer::Yes);
     Open(content);
     EXPECT_EQ(SlotsOf(1), Texts{"Fir"});
+}
+
+// A line is repaired in one way or in another, never half in each.
+TEST_F(RestoreChangesTest, ThatBeganWithAnotherRepairReplaceTheOneOfThisReading) {
+    const std::string content = HeaderOf("North") + "|Elm|%|12\r\n";
+    const auto expectRepair = [&](const std::string& answer) {
+        desktop.ExpectChoice("District North has a null variation.\r\n"
+                             "The invalid dependency is % and it is variation #2\r\n"
+                             "With the preceding and following variations the string is...\r\nElm|%|12\r\n\r\n"
+                             "Combined with the previous gives an invalid variation\r\n\r\n"
+                             "Combine Next = Elm|%12\r\nRemove = Elm|12\r\n"
+                             "Type = Type a complete replacement for this variation\r\n"
+                             "Quit = Stop processing this file\r\n",
+                             {"Combine Next", "Remove", "Type", "Quit"}, answer);
+    };
+    desktop.recordReports = true;
+    expectRepair("Remove");
+    Open(content);
+    const Texts before = SlotsOf(1);
+    desktop.state.Die();
+    expectRepair("Combine Next");
+    ExpectQuestion(BoxAnswer::Yes);
+    Open(content);
+    EXPECT_EQ(SlotsOf(1), before);
 }

@@ -80,18 +80,19 @@ TEST_F(LeftOversTest, AreLeftWhereNothingCanBeLocked) {
 TEST_F(LeftOversTest, SetAsideAreKeptButNotOffered) {
     Put("1.changes", "content");
     const std::vector<LeftOver> taken = TakeLeftOvers(folder);
-    EXPECT_EQ(SetAside(folder, taken.front()), "/state/1.aside");
+    EXPECT_EQ(SetAside(folder, taken.front()), "/state/1001.aside");
     EXPECT_TRUE(TakeLeftOvers(folder).empty());
-    EXPECT_EQ(folder.Names(), Texts{"1.aside"});
-    EXPECT_EQ(folder.Read("1.aside"), "content");
+    EXPECT_EQ(folder.Names(), Texts{"1001.aside"});
+    EXPECT_EQ(folder.Read("1001.aside"), "content");
 }
 
 TEST_F(LeftOversTest, OnlyTheLastThreeAreKept) {
-    for (const char* name : {"1.changes", "2.changes", "3.changes", "4.changes", "5.changes"}) {
-        Put(name);
+    for (const char* name : {"5.changes", "4.changes", "3.changes", "2.changes", "1.changes"}) {
+        Put(name, name);
         for (const LeftOver& leftOver : TakeLeftOvers(folder)) {
             SetAside(folder, leftOver);
         }
     }
-    EXPECT_EQ(folder.Names(), (Texts{"3.aside", "4.aside", "5.aside"}));
+    EXPECT_EQ(folder.Names(), (Texts{"1003.aside", "1004.aside", "1005.aside"}));
+    EXPECT_EQ(folder.Read("1005.aside"), "1.changes"); // the one that was set aside last, whenever it was made
 }

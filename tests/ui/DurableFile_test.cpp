@@ -114,6 +114,15 @@ TEST_F(DurableFileTest, AFileInAFolderThatTheUserMayNotWriteStays) {
     EXPECT_EQ(DurableFile::Read(file), "new");
 }
 
+// Such a folder cannot be opened to have its names put on the disk.
+TEST_F(DurableFileTest, AFileInAFolderThatTheUserMayOnlyWriteIsReplaced) {
+    ASSERT_EQ(chmod(QFile::encodeName(file).constData(), 0666), 0);
+    ASSERT_EQ(chmod(QFile::encodeName(Folder()).constData(), 0333), 0);
+    EXPECT_TRUE(ReplacesAsOrdinaryUser());
+    EXPECT_EQ(DurableFile::Read(file), "new");
+    ASSERT_EQ(chmod(QFile::encodeName(Folder()).constData(), 0777), 0);
+}
+
 TEST_F(DurableFileTest, AFileWhoseFolderHasVanishedIsNotMade) {
     const QString inner = Path("inner");
     ASSERT_TRUE(QDir().mkdir(inner));

@@ -171,7 +171,7 @@ TEST_F(RecoveryTest, ASaveThatFailsWithItsFileInPlaceKeepsTheChangesOfBoth) {
 
     ExpectWantedBack(BoxAnswer::Yes); // the latest first
     desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to an earlier state of this file.  None of them "
-                      "has been made.  They are kept in\r\n/state/1002.aside",
+                      "has been made.  They are kept in\r\n/state/1005.aside",
                       BoxIcon::Exclamation);
     DieAndOpenAgain();
     EXPECT_EQ(VariationAt(1, 3).Text, "Fir");
@@ -208,6 +208,34 @@ TEST_F(RecoveryTest, GivingThemUpWhenOpeningRemovesThem) {
     EXPECT_EQ(VariationAt(1, 2).Text, "Elm");
     Add("Larch");
     EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Larch"}}));
+}
+
+TEST_F(RecoveryTest, GivingThemUpForAFileThatIsThenNotChosenKeepsThem) {
+    Add("Fir");
+    ExpectLooseChanges(BoxAnswer::Yes);
+    desktop.ExpectOpen(std::nullopt);
+    Click("cbOpen");
+    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Fir"}}));
+    ClickRow("lbComments", QStringLiteral(" All")); // which lists the districts of the table again
+    Add("Larch");
+    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Fir"}, {1, 4, "Larch"}}));
+}
+
+TEST_F(RecoveryTest, ChangesThatAreNowhereOnADiskAreAskedAboutAfterAFailedSave) {
+    desktop.state.canWrite = false;
+    desktop.canWrite = false;
+    desktop.ExpectBox("Your changes cannot be written to the recovery file.  They are only safe once the file is "
+                      "saved.\r\n/state/1002.changes",
+                      BoxIcon::Exclamation);
+    Add("Fir");
+    desktop.ExpectSave(DataFilePath);
+    Click("cbSave");
+    EXPECT_FALSE(bChanged);
+    ExpectLooseChanges(BoxAnswer::No);
+    EXPECT_FALSE(form->close());
+    EXPECT_TRUE(bChanged);
+    ExpectLooseChanges(BoxAnswer::Yes);
+    EXPECT_TRUE(form->close());
 }
 
 TEST_F(RecoveryTest, OpeningAnotherFileAfterACancelledSaveLeavesThem) {

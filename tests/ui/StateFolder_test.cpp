@@ -57,6 +57,7 @@ TEST_F(StateFolderTest, IsNotMadeByLookingIntoIt) {
 }
 
 TEST_F(StateFolderTest, IsOnlyForTheUser) {
+    ASSERT_TRUE(QDir().mkpath(FolderPath())); // one that was there before is no exception
     ASSERT_TRUE(folder.Replace("a", "content"));
     struct stat status {};
     ASSERT_EQ(stat(FolderPath().toUtf8().constData(), &status), 0);
