@@ -10,20 +10,21 @@ namespace {
 
 using Calls = std::vector<Call>;
 
-// Goes on in a row of calls to the next one that succeeded and is as wanted. False when there is none.
+// Goes on in a row of calls to the next one that is as wanted. False when there is none, or when it failed.
 template <typename Wanted>
 bool GoTo(Calls::const_iterator& call, const Calls& calls, Wanted wanted) {
-    call = std::find_if(call, calls.end(), [&](const Call& met) { return !met.failed && wanted(met); });
-    return call != calls.end();
+    call = std::find_if(call, calls.end(), wanted);
+    return call != calls.end() && !call->failed;
 }
 
 // Whether the content was on the disk before its name was, and the name at the end. Power cuts show why it
-// matters (PowerCut_test.cpp); here the disk itself may say that something is not there.
+// matters (PowerCut_test.cpp); here the disk itself may say that something is not there. A sync that failed is
+// not made good by another one, since the system tells of what is lost only once.
 bool IsOnDisk(const Calls& calls, const std::filesystem::path& file) {
     const auto writes = [](const Call& call) { return call.kind == "write"; };
     const auto syncs = [](const Call& call) { return call.kind == "sync"; };
     const auto names = [&](const Call& call) {
-        return (call.kind == "rename" || call.kind == "link") && call.path == file;
+        return (call.kind == "rename" || call.kind == "link") && call.path == file && !call.failed;
     };
     const auto syncsFolder = [&](const Call& call) { return call.kind == "sync" && call.path == file.parent_path(); };
     const auto last = std::find_if(calls.rbegin(), calls.rend(), writes);
