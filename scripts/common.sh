@@ -4,6 +4,7 @@
 BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev libxxhash-dev libgl-dev fonts-dejavu-core"
 TEST_PACKAGES="libgtest-dev xvfb xauth xdotool openbox"
 FAULT_PACKAGES="e2fsprogs mount"
+PACKAGE_PACKAGES="dpkg-dev file"
 
 say() { printf '%s\n' "$*"; }
 fail() {
