@@ -11,7 +11,7 @@ need_packages $BUILD_PACKAGES $PACKAGE_PACKAGES
 say "Building the editor"
 build_preset release
 say "Building the package"
-rm -rf build/release/package
+rm -rf build/release/package build/quexal-editor_*.deb
 quietly "packaging" cpack --config build/release/CPackConfig.cmake -B "$PWD/build/release/package"
 package=$(basename build/release/package/*.deb)
 mv -f "build/release/package/$package" build/

@@ -25,21 +25,8 @@ fail() {
     exit 1
 }
 
-# Waits until COUNT visible windows have this title.
-wait_for() {
-    local title=$1 count=${2-1} i
-    for ((i = 0; i < 100; i++)); do
-        [ "$(xdotool search --onlyvisible --name "^$title\$" 2>/dev/null | wc -l)" = "$count" ] && sleep 0.3 && return
-        sleep 0.1
-    done
-    fail "line ${BASH_LINENO[0]}: expected $count window(s) \"$title\""
-}
-press() { xdotool key --clearmodifiers "$@"; }
-type_path() {
-    press ctrl+a
-    xdotool type --delay 5 "$1"
-    press Return
-}
+# shellcheck source=tests/program/keyboard.sh
+. "$(dirname "$(readlink -f "$0")")/keyboard.sh"
 
 export HOME=$work XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
 # A last variation that is only a mark: removing it gives back the file as it was.
