@@ -3,6 +3,7 @@
 # fetched is kept in the cache folder. Needs root.
 # usage: debian_root.sh CACHE-FOLDER NEW-FOLDER
 set -euo pipefail
+umask 022
 cache=$1
 root=$2
 mkdir -p "$cache"

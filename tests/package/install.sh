@@ -3,6 +3,7 @@
 # it came, and changed by an administrator; removes it and looks for anything left behind. Needs root.
 # usage: install.sh PACKAGE CACHE-FOLDER
 set -euo pipefail
+umask 022
 package=$(readlink -f "$1")
 mkdir -p "$2"
 cache=$(readlink -f "$2")

@@ -1,0 +1,8 @@
+# Before the package is put together: its folders are for everybody, whatever the umask of who makes it.
+file(GLOB_RECURSE entries LIST_DIRECTORIES true "${CPACK_TEMPORARY_DIRECTORY}/*")
+foreach(entry IN LISTS entries)
+    if(IS_DIRECTORY "${entry}" AND NOT IS_SYMLINK "${entry}")
+        file(CHMOD "${entry}" DIRECTORY_PERMISSIONS
+            OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+    endif()
+endforeach()
