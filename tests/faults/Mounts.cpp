@@ -2,6 +2,7 @@
 
 #include "Session.h"
 
+#include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
 #include <unistd.h>
@@ -68,6 +69,13 @@ LoopImage::~LoopImage() {
     if (m_mounted) {
         umount2(m_folder.c_str(), MNT_DETACH);
     }
+}
+
+void LoopImage::Sync() const {
+    const int handle = open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const bool synced = syncfs(handle) == 0;
+    close(handle);
+    Require(synced, "writing a disk");
 }
 
 void LoopImage::CopyTo(const std::filesystem::path& image) const {

@@ -21,7 +21,6 @@ public:
     TmpfsMount(const TmpfsMount&) = delete;
     TmpfsMount& operator=(const TmpfsMount&) = delete;
 
-    // Whether it can be written to.
     void MakeReadOnly();
 
 private:
@@ -40,6 +39,8 @@ public:
     LoopImage& operator=(const LoopImage&) = delete;
 
     [[nodiscard]] bool Mounted() const { return m_mounted; }
+    // Puts everything that is waiting in memory on the disk.
+    void Sync() const;
     // What the disk holds at this moment, as the image of another one.
     void CopyTo(const std::filesystem::path& image) const;
     void Unmount();

@@ -2,8 +2,6 @@
 
 #include "FaultTest.h"
 
-#include <unistd.h>
-
 namespace {
 
 class PowerCutTest : public MountingTest {
@@ -32,7 +30,7 @@ protected:
         std::filesystem::create_directories(disk / "data");
         std::filesystem::create_directories(place.home);
         WriteContent(place.file, OldContent());
-        sync();
+        image.Sync();
         std::vector<Remains> cuts;
         const auto cut = [&](const Session& session) {
             const std::string number = std::to_string(cuts.size());
