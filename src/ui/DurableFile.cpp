@@ -24,12 +24,8 @@ constexpr qint64 LargestFile = std::numeric_limits<std::int32_t>::max();
 
 #ifdef Q_OS_UNIX
 
+// Of what is kept about a file, only its size matters here, which is put on the disk with its content.
 bool SyncContent(int handle) {
-    return fsync(handle) == 0;
-}
-
-// For a file that has its name already; of what is kept about it, only the size matters.
-bool SyncData(int handle) {
     return fdatasync(handle) == 0;
 }
 
@@ -49,9 +45,6 @@ bool SyncFolder(const QString& folder) {
 
 // There the toolkit's own flushing has to do.
 bool SyncContent(int /*handle*/) {
-    return true;
-}
-bool SyncData(int /*handle*/) {
     return true;
 }
 bool SyncFolder(const QString& /*folder*/) {
@@ -98,7 +91,7 @@ bool Extend(const QString& path, std::size_t kept, std::string_view added) {
     const auto size = static_cast<qint64>(added.size());
     return file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered) && file.size() >= start &&
            (file.size() == start || file.resize(start)) && file.seek(start) && file.write(added.data(), size) == size &&
-           SyncData(file.handle());
+           SyncContent(file.handle());
 }
 
 } // namespace DurableFile

@@ -123,6 +123,16 @@ TEST_F(DurableFileTest, AFileInAFolderThatTheUserMayOnlyWriteIsReplaced) {
     ASSERT_EQ(chmod(QFile::encodeName(Folder()).constData(), 0777), 0);
 }
 
+// As a disk does that fails half way, the system gives less of such a file than it says there is.
+TEST_F(DurableFileTest, AFileOfWhichOnlyAPartCanBeReadIsNotRead) {
+    const QString shorter = QStringLiteral("/sys/kernel/uevent_seqnum");
+    QFile system(shorter);
+    if (!system.open(QIODevice::ReadOnly) || system.readAll().size() >= QFileInfo(shorter).size()) {
+        GTEST_SKIP() << "this system has no such file";
+    }
+    EXPECT_EQ(DurableFile::Read(shorter), std::nullopt);
+}
+
 TEST_F(DurableFileTest, AFileWhoseFolderHasVanishedIsNotMade) {
     const QString inner = Path("inner");
     ASSERT_TRUE(QDir().mkdir(inner));
