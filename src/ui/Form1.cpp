@@ -208,7 +208,7 @@ void Form1::ShowHints() {
     m_controls.lvVariations->SetHint(IsDistrict(lCurrentDistrict)
                                          ? tr("This district has no variations: press Add to enter one")
                                          : tr("Choose a district to see its variations"));
-    m_controls.LvChanges->SetHint(tr("Process File shows the proposals of a file here"));
+    m_controls.LvChanges->SetHint(tr("Process File shows proposals here"));
     m_controls.lvComments->SetHint(IsDistrict(lCurrentDistrict) ? tr("This district has no comments") : QString());
 }
 
