@@ -27,14 +27,14 @@ CONTROLS = {
 
 
 def wait_for(find, what):
-    """What find() returns as soon as that is something."""
+    """What find() returns as soon as that is neither None nor False."""
     end = time.monotonic() + WAIT_SECONDS
     while time.monotonic() < end:
         try:
             found = find()
         except (LookupError, RuntimeError):
             found = None  # it went away while it was looked at
-        if found:
+        if found is not None and found is not False:
             return found
         time.sleep(PAUSE_SECONDS)
     sys.exit(f"walk: there is no {what}")
@@ -103,7 +103,7 @@ def row_named(tree, text):
 
 def choose(tree, text):
     """Selects the row with this text."""
-    row = wait_for(lambda: (lambda r: None if r is None else [r])(row_named(tree, text)), f"row {text}")[0]
+    row = wait_for(lambda: row_named(tree, text), f"row {text}")
     require(tree.queryTable().addRowSelection(row), f"the row {text} cannot be selected")
     return row
 
