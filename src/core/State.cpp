@@ -29,7 +29,7 @@ std::string sMarkerSuffix;
 std::int32_t lFoundVariation = 0;
 
 std::vector<std::string> LowerCaseWords;
-std::set<std::string> LowerCaseWordSet;
+std::unordered_set<std::string, SeededHash, std::equal_to<>> LowerCaseWordSet;
 std::int32_t lLowerCaseWordCount = 0;
 
 std::int16_t iEditMode = NothingOpen;

@@ -6,10 +6,12 @@
 
 #include "core/Encoding.h"
 #include "core/Records.h"
+#include "core/SeededHash.h"
 
 #include <cstdint>
-#include <set>
+#include <functional>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace CommonRoutines {
@@ -58,7 +60,7 @@ extern std::int32_t lFoundVariation;
 
 // Words that need no capital, 1 to lLowerCaseWordCount; written by LoadLowerCaseWords.
 extern std::vector<std::string> LowerCaseWords;
-extern std::set<std::string> LowerCaseWordSet; // the same words, to be looked up
+extern std::unordered_set<std::string, SeededHash, std::equal_to<>> LowerCaseWordSet; // to be looked up
 extern std::int32_t lLowerCaseWordCount;
 
 // What the main window is doing; written by its handlers, read by ApplyWindowMode and ValidateVariation.
