@@ -28,6 +28,7 @@ fail() {
 # shellcheck source=tests/program/keyboard.sh
 . "$(dirname "$(readlink -f "$0")")/keyboard.sh"
 
+unset QT_QPA_PLATFORM # a real X server is meant, whatever else is asked for outside
 export HOME=$work XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
 # A last variation that is only a mark: removing it gives back the file as it was.
 sed '3s/\r$/|%\r/' "$gazetteer" >"$work/damaged.txt"
