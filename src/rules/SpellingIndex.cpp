@@ -1,12 +1,13 @@
 #include "rules/SpellingIndex.h"
 
-#include "core/AnsiCase.h"
+#include "core/Ansi.h"
+#include "core/SeededHash.h"
 #include "core/State.h"
 #include "rules/Spelling.h"
 
 #include <algorithm>
 #include <optional>
-#include <random>
+#include <string>
 #include <vector>
 
 namespace CommonRoutines {
@@ -21,50 +22,13 @@ struct Hashes {
     std::uint64_t thisSuffix;
 };
 
-// A hash that no file can be made for, since it is another one every time that the program runs: of a
-// million texts with the same hash, each would be looked for among all others. The characters are the
-// coefficients of two polynomials, whose values at a place that nobody knows are taken (Carter and
-// Wegman, Universal Classes of Hash Functions).
-class SecretHash {
-public:
-    void Add(std::uint64_t number) {
-        m_first = (m_first * Places().first + number) % Prime;
-        m_second = (m_second * Places().second + number) % Prime;
-    }
-    [[nodiscard]] std::uint64_t Value() const { return m_first << 32U | m_second; }
-
-private:
-    static constexpr std::uint64_t Prime = 2'147'483'647;
-
-    static const std::pair<std::uint64_t, std::uint64_t>& Places() {
-        static const std::pair<std::uint64_t, std::uint64_t> places = [] {
-            std::random_device random;
-            std::uniform_int_distribution<std::uint64_t> place(1'000, Prime - 1);
-            return std::pair(place(random), place(random));
-        }();
-        return places;
-    }
-
-    std::uint64_t m_first = 1;
-    std::uint64_t m_second = 1;
-};
-
+// Seeded, since of a million texts that were made to have the same hash, each would be looked for among
+// all others. Spellings that only share a hash are told apart when they are compared.
 Hashes HashesOf(const Spelling& spelling, std::string_view suffix) {
-    constexpr std::uint64_t dated = 256; // no character
-    constexpr std::uint64_t suffixed = 257;
-    SecretHash hash;
-    for (const char c : spelling.base) {
-        hash.Add(static_cast<unsigned char>(Ansi::Upper(c)));
-    }
-    if (spelling.hasDate) {
-        hash.Add(dated);
-    }
-    const std::uint64_t anySuffix = hash.Value();
-    hash.Add(suffixed);
-    for (const char c : suffix) {
-        hash.Add(static_cast<unsigned char>(c));
-    }
-    return {anySuffix, hash.Value()};
+    std::string key = Ansi::Upper(spelling.base);
+    key += spelling.hasDate ? '%' : '\0';
+    const std::uint64_t anySuffix = SeededHash()(key);
+    return {anySuffix, SeededHash()(key.append(suffix))};
 }
 
 // The index made last, and what it was made for.
