@@ -44,7 +44,7 @@ bool FitsTable(std::span<const SlotChange> changes) {
 void UndoRepairs(const std::set<std::int32_t>& lines) {
     for (const std::int32_t line : lines) {
         lCurrentDistrict = line;
-        const std::vector<std::string>& fields = Unsaved.FieldsAsRead(line);
+        const std::vector<std::string> fields = Unsaved.FieldsAsRead(line);
         for (std::size_t k = 1; k < fields.size(); ++k) {
             const bool blank = Ansi::Trim(fields[k]).empty();
             StoreText(static_cast<std::int32_t>(k), blank ? DeletedText : std::string_view(fields[k]));

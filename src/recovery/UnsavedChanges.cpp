@@ -64,6 +64,11 @@ void UnsavedChanges::NoteInFile(std::int32_t line, std::int32_t slot, std::strin
     m_content += RecoveryRecord(line, slot, text);
 }
 
+std::vector<std::string> UnsavedChanges::FieldsAsRead(std::int32_t line) const {
+    const auto fields = m_fields.find(line);
+    return fields == m_fields.end() ? std::vector<std::string>() : fields->second;
+}
+
 void UnsavedChanges::Write(Desktop& desktop) {
     if (!AreUnwritten()) {
         return;

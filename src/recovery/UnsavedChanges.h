@@ -40,7 +40,7 @@ public:
     // The fields of a line that is being repaired, as they stand in the file, and those of any line: empty
     // unless it has been repaired.
     void KeepFields(std::int32_t line, const std::vector<std::string>& fields) { m_fields[line] = fields; }
-    [[nodiscard]] const std::vector<std::string>& FieldsAsRead(std::int32_t line) { return m_fields[line]; }
+    [[nodiscard]] std::vector<std::string> FieldsAsRead(std::int32_t line) const;
 
     // True while there are changes that could not be written.
     [[nodiscard]] bool AreUnwritten() const { return m_onDisk != m_content.size(); }

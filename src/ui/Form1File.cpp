@@ -25,7 +25,7 @@ bool Form1::MayDiscardChanges() {
     if (!bChanged && !Unsaved.AreUnwritten()) {
         return true;
     }
-    bChanged = true;
+    bChanged = true; // the save that cleared it has saved nothing
     return m_desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?", BoxIcon::Question,
                             BoxButtons::YesNo) == BoxAnswer::Yes;
 }

@@ -19,7 +19,7 @@ constexpr QFileDevice::Permissions OnlyForTheUser =
 
 QString FolderPath() {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    // The toolkit knows this folder of the XDG Base Directory Specification only from version 6.7 on.
+    // The toolkit knows where states are kept (XDG_STATE_HOME) only from version 6.7 on.
     QString states = qEnvironmentVariable("XDG_STATE_HOME");
     if (!QDir::isAbsolutePath(states)) {
         states = QDir::homePath() + QStringLiteral("/.local/state");
