@@ -7,6 +7,7 @@
 #include "recovery/UnsavedChanges.h"
 
 #include <QLineEdit>
+#include <QPushButton>
 
 using namespace CommonRoutines;
 
