@@ -54,6 +54,7 @@ public:
     std::string ShortTime() override { return "14:07"; }
     void Beep() override {}
     void ShowBusy(bool /*busy*/) override {}
+    void ShowProgress(std::string_view /*doing*/, double /*part*/) override {}
 
 private:
     std::size_t NextAnswer() {

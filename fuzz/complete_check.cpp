@@ -96,9 +96,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     CommentTypes.Reset();
     QuietDesktop desktop({reinterpret_cast<const char*>(data), size}, "");
     ReadDistrictFile(desktop);
-    const std::vector<std::string> findings = CompleteVariationCheck().Items;
+    const std::vector<std::string> findings = CompleteVariationCheck(desktop).Items;
     Demand(findings == SlowFindings());
-    Demand(findings == CompleteVariationCheck().Items);
+    Demand(findings == CompleteVariationCheck(desktop).Items);
     for (std::int32_t district = 1; district <= lLineCount; ++district) {
         if (IsDistrict(district)) {
             CheckDistrict(district);

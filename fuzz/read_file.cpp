@@ -66,7 +66,7 @@ void LookAtEverything() {
             CommentRows(district, 40, [](std::string_view text) { return static_cast<double>(text.size()); }));
         static_cast<void>(ListVariations(district));
     }
-    static_cast<void>(CompleteVariationCheck());
+    static_cast<void>(CompleteVariationCheck(desktop));
 }
 
 // Dropping an empty field at the end of a line may leave a blank there, which the next read trims.

@@ -1,5 +1,7 @@
 #include "checks/CompleteCheck.h"
 
+#include "core/Desktop.h"
+#include "core/Progress.h"
 #include "core/State.h"
 #include "rules/VariationKeys.h"
 
@@ -9,14 +11,18 @@ namespace CommonRoutines {
 
 namespace {
 
-// The names and all slots of all districts, sorted, behind an element that is never used.
-std::vector<VariationKey> SortedKeys() {
-    std::size_t count = 1;
+std::size_t KeyCount() {
+    std::size_t count = 0;
     for (std::int32_t i = 1; i <= lLineCount; ++i) {
         count += IsDistrict(i) ? static_cast<std::size_t>(RecordOf(i).lVariationCount) + 1 : 0;
     }
+    return count;
+}
+
+// The names and all slots of all districts, sorted, behind an element that is never used.
+std::vector<VariationKey> SortedKeys(std::size_t count, Progress& progress) {
     std::vector<VariationKey> keys(1);
-    keys.reserve(count);
+    keys.reserve(count + 1);
     for (std::int32_t i = 1; i <= lLineCount; ++i) {
         if (!IsDistrict(i)) {
             continue;
@@ -25,8 +31,9 @@ std::vector<VariationKey> SortedKeys() {
         for (std::int32_t k = 1; k <= RecordOf(i).lVariationCount; ++k) {
             keys.push_back(KeyOfVariation(i, k));
         }
+        progress.Advance(static_cast<std::size_t>(RecordOf(i).lVariationCount) + 1);
     }
-    SortVariationKeys(keys, 1, static_cast<std::int32_t>(std::ssize(keys)) - 1);
+    SortVariationKeys(keys, 1, static_cast<std::int32_t>(std::ssize(keys)) - 1, progress);
     return keys;
 }
 
@@ -40,14 +47,20 @@ std::string Finding(const VariationKey& key, const VariationKey& next) {
 
 } // namespace
 
-Report CompleteVariationCheck() {
-    const std::vector<VariationKey> keys = SortedKeys();
+Report CompleteVariationCheck(Desktop& desktop) {
+    desktop.ShowBusy(true);
+    const std::size_t count = KeyCount();
+    // Every key is made, gets its place and is compared with the next one.
+    Progress progress(desktop, "Looking for duplicates", 3 * count);
+    const std::vector<VariationKey> keys = SortedKeys(count, progress);
     Report report;
     for (std::size_t j = 1; j + 1 < keys.size(); ++j) {
         if (SameSpelling(keys[j], keys[j + 1])) {
             report.Items.push_back(Finding(keys[j], keys[j + 1]));
         }
+        progress.Advance(1);
     }
+    desktop.ShowBusy(false);
     if (report.Items.empty()) {
         report.Items.emplace_back("No duplicates found");
     }

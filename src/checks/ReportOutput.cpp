@@ -37,11 +37,13 @@ void SaveReport(const Report& report, const std::string& dataFile, Desktop& desk
     if (!path) {
         return;
     }
+    desktop.ShowBusy(true);
     std::string content;
     for (const std::string& line : ReportLines(report, dataFile, desktop)) {
         content += line + "\r\n";
     }
     desktop.ReplaceFile(*path, content);
+    desktop.ShowBusy(false);
 }
 
 } // namespace CommonRoutines

@@ -81,5 +81,9 @@ public:
     virtual std::string Today() = 0;     // as "05 Mar 2026"
     virtual std::string ShortTime() = 0; // hours and minutes, as the user's country writes them
     virtual void Beep() = 0;
+    // Work that may take long begins or ends.
     virtual void ShowBusy(bool busy) = 0;
+    // What is being done, of which a part (0 to 1) is over. Between ShowBusy(true) and ShowBusy(false) only; the
+    // desktop may paint its windows meanwhile, so that what they show must be fit to be painted.
+    virtual void ShowProgress(std::string_view doing, double part) = 0;
 };

@@ -3,6 +3,7 @@
 #include "core/Ansi.h"
 #include "core/Desktop.h"
 #include "core/Lines.h"
+#include "core/Progress.h"
 #include "core/State.h"
 #include "file/CommentTypes.h"
 #include "file/DistrictLine.h"
@@ -38,7 +39,8 @@ class FileRead {
 public:
     explicit FileRead(Desktop& desktop) : m_desktop(desktop) {}
 
-    void Run(std::string_view content);
+    // `lineCount` is about how many lines the content has.
+    void Run(std::string_view content, std::size_t lineCount);
 
 private:
     DistrictRecord& AddRecord();
@@ -88,7 +90,8 @@ DistrictRecord& FileRead::AddRecord() {
     return RecordOf(lLineCount);
 }
 
-void FileRead::Run(std::string_view content) {
+void FileRead::Run(std::string_view content, std::size_t lineCount) {
+    Progress progress(m_desktop, "Checking the lines of the file", lineCount);
     Lines lines(content);
     while (!m_stopped) {
         const auto line = lines.Next();
@@ -96,6 +99,7 @@ void FileRead::Run(std::string_view content) {
             break;
         }
         ReadLine(Ansi::Trim(*line));
+        progress.Advance(1);
     }
     m_desktop.ShowBusy(false);
     if (iRepairAction != Quit) {
@@ -299,9 +303,10 @@ bool ReadTable(Desktop& desktop) {
     Unsaved.Begin(desktop, sDataFileName, *content, Numbering::AsRead);
     eFileEncoding = EncodingOf(*content);
     content = Decoded(std::move(*content), eFileEncoding);
-    Districts.reserve(static_cast<std::size_t>(std::count(content->begin(), content->end(), '\n')) + InitialUpperBound);
+    const auto lineCount = static_cast<std::size_t>(std::count(content->begin(), content->end(), '\n')) + 1;
+    Districts.reserve(lineCount + InitialUpperBound);
     Districts.resize(InitialUpperBound + 1);
-    FileRead(desktop).Run(*content);
+    FileRead(desktop).Run(*content, lineCount);
     return true;
 }
 

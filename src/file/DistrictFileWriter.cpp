@@ -49,15 +49,20 @@ void SaveDistrictFile(Desktop& desktop) {
     if (!path) {
         return;
     }
+    desktop.ShowBusy(true);
     const std::string content = Encoded(DistrictFileContent(), eFileEncoding);
-    if (desktop.ReplaceFile(*path, content)) {
+    const bool saved = desktop.ReplaceFile(*path, content);
+    if (saved) {
         Unsaved.Remove(desktop);
         Unsaved.Begin(desktop, *path, content, Numbering::AsSaved);
-        desktop.MsgBox("File Saved to " + Ansi::FromUtf8(*path), BoxIcon::Information);
     } else if (desktop.ReadFile(*path) == content) {
         // It is there, but perhaps not to stay. What is changed from now on belongs to it; what was
         // changed before stays left over in case the old file comes back.
         Unsaved.Begin(desktop, *path, content, Numbering::AsSaved);
+    }
+    desktop.ShowBusy(false);
+    if (saved) {
+        desktop.MsgBox("File Saved to " + Ansi::FromUtf8(*path), BoxIcon::Information);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "rules/VariationKeys.h"
 
 #include "core/Ansi.h"
+#include "core/Progress.h"
 #include "core/State.h"
 #include "rules/Markers.h"
 #include "rules/Matching.h"
@@ -64,12 +65,18 @@ bool SameSpelling(const VariationKey& a, const VariationKey& b) {
 }
 
 void SortVariationKeys(std::vector<VariationKey>& Keys, std::int32_t lLow, std::int32_t lHigh) {
+    Progress untold;
+    SortVariationKeys(Keys, lLow, lHigh, untold);
+}
+
+void SortVariationKeys(std::vector<VariationKey>& Keys, std::int32_t lLow, std::int32_t lHigh, Progress& progress) {
     if (lLow >= lHigh) {
         return;
     }
     const auto first = static_cast<std::size_t>(lLow);
     const auto count = static_cast<std::size_t>(lHigh - lLow) + 1;
-    MiddlePivotSort::Sort(std::span(Keys).subspan(first, count), KeyPrecedes);
+    MiddlePivotSort::Sort(std::span(Keys).subspan(first, count), KeyPrecedes,
+                          [&](std::size_t placed) { progress.Advance(placed); });
 }
 
 } // namespace CommonRoutines

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+class Progress;
+
 namespace CommonRoutines {
 
 // Sort record of a duplicate search: a variation, or a district's own name. It names its text instead of
@@ -32,7 +34,8 @@ struct VariationKey {
 [[nodiscard]] bool SameSpelling(const VariationKey& a, const VariationKey& b);
 
 // Sorts Keys(lLow..lHigh) by Key. The order of equal keys is part of the result, since it decides which
-// neighbours are reported as pairs.
+// neighbours are reported as pairs. `progress` is advanced by a step for each key.
+void SortVariationKeys(std::vector<VariationKey>& Keys, std::int32_t lLow, std::int32_t lHigh, Progress& progress);
 void SortVariationKeys(std::vector<VariationKey>& Keys, std::int32_t lLow, std::int32_t lHigh);
 
 } // namespace CommonRoutines

@@ -13,6 +13,7 @@
 #include <cerrno>
 #endif
 
+#include <algorithm>
 #include <limits>
 
 namespace DurableFile {
@@ -53,20 +54,40 @@ bool SyncFolder(const QString& /*folder*/) {
 
 #endif
 
+// Goes through the bytes of a file piece by piece, at least once, until `transfer` refuses one.
+bool InPieces(std::size_t all, const Listener& listener,
+              const std::function<bool(std::size_t start, std::size_t size)>& transfer) {
+    constexpr std::size_t largestPiece = std::size_t{16} << 20;
+    std::size_t done = 0;
+    do {
+        const std::size_t size = std::min(all - done, largestPiece);
+        if (!transfer(done, size)) {
+            return false;
+        }
+        done += size;
+        if (listener) {
+            listener(static_cast<double>(done) / static_cast<double>(std::max<std::size_t>(all, 1)));
+        }
+    } while (done < all);
+    return true;
+}
+
 } // namespace
 
-std::optional<std::string> Read(const QString& path) {
+std::optional<std::string> Read(const QString& path, const Listener& listener) {
     QFile file(path);
     if (!QFileInfo(path).isFile() || file.size() > LargestFile || !file.open(QIODevice::ReadOnly)) {
         return std::nullopt;
     }
     std::string content(static_cast<std::size_t>(file.size()), '\0');
-    const qint64 length = file.read(content.data(), static_cast<qint64>(content.size()));
-    // A disk that fails half way must not make a part pass for the file.
-    return length == static_cast<qint64>(content.size()) ? std::optional(std::move(content)) : std::nullopt;
+    const bool isRead = InPieces(content.size(), listener, [&](std::size_t start, std::size_t size) {
+        // A disk that fails half way must not make a part pass for the file.
+        return file.read(content.data() + start, static_cast<qint64>(size)) == static_cast<qint64>(size);
+    });
+    return isRead ? std::optional(std::move(content)) : std::nullopt;
 }
 
-bool Replace(const QString& path, std::string_view content) {
+bool Replace(const QString& path, std::string_view content, const Listener& listener) {
     const QFileInfo target(path);
     if (target.exists() && !target.isFile()) {
         return false;
@@ -77,8 +98,11 @@ bool Replace(const QString& path, std::string_view content) {
     }
     // Everything is on the disk before the commit, which would put a file that is not in the place of
     // the old one without a word.
-    const auto size = static_cast<qint64>(content.size());
-    if (file.write(content.data(), size) != size || !file.flush() || !SyncContent(file.handle())) {
+    const bool isWritten = InPieces(content.size(), listener, [&](std::size_t start, std::size_t size) {
+        return file.write(content.data() + start, static_cast<qint64>(size)) == static_cast<qint64>(size) &&
+               file.flush() && SyncContent(file.handle());
+    });
+    if (!isWritten) {
         file.cancelWriting();
     }
     // A link leads to the folder in which the name of the new file stands.

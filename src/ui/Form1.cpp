@@ -6,10 +6,11 @@
 #include "recovery/UnsavedChanges.h"
 #include "rules/Capitals.h"
 #include "ui/ChangeModel.h"
+#include "ui/Commands.h"
 #include "ui/CommentModels.h"
 #include "ui/DistrictModel.h"
 #include "ui/EditBox.h"
-#include "ui/Memory.h"
+#include "ui/LongWork.h"
 #include "ui/PlainLabel.h"
 #include "ui/RowList.h"
 #include "ui/StateColours.h"
@@ -47,7 +48,7 @@ Form1::Form1(Desktop& desktop) : m_desktop(desktop), m_controls(this) {
 }
 
 void Form1::Run(void (Form1::*handler)()) {
-    Memory::Run(m_desktop, [=, this] { (this->*handler)(); });
+    Commands::Run(m_desktop, [=, this] { (this->*handler)(); });
 }
 
 void Form1::SetModels() {
@@ -84,7 +85,7 @@ void Form1::ConnectButtons() {
 
     const auto onApply = [this](QPushButton* button, bool selectedOnly, bool asSpelling) {
         connect(button, &QPushButton::clicked, this,
-                [=, this] { Memory::Run(m_desktop, [=, this] { Apply(selectedOnly, asSpelling); }); });
+                [=, this] { Commands::Run(m_desktop, [=, this] { Apply(selectedOnly, asSpelling); }); });
     };
     onApply(m_controls.cbApplyAll, false, false);
     onApply(m_controls.cbApplyAllSpell, false, true);
@@ -93,8 +94,8 @@ void Form1::ConnectButtons() {
 }
 
 void Form1::ConnectEditPanel() {
-    connect(m_controls.cbSpelling, &QCheckBox::clicked, this, &Form1::SpellingClicked);
-    connect(m_controls.cbVariation, &QCheckBox::clicked, this, &Form1::VariationClicked);
+    connect(m_controls.cbSpelling, &QCheckBox::clicked, this, [this] { Run(&Form1::SpellingClicked); });
+    connect(m_controls.cbVariation, &QCheckBox::clicked, this, [this] { Run(&Form1::VariationClicked); });
 
     EditBox* edit = m_controls.tbEdit;
     connect(edit, &QLineEdit::textChanged, this, [this] { Run(&Form1::EditTextChanged); });
@@ -161,7 +162,7 @@ void Form1::showEvent(QShowEvent* event) {
 }
 
 void Form1::closeEvent(QCloseEvent* event) {
-    event->setAccepted(MayDiscardChanges());
+    event->setAccepted(!LongWork::IsPainting() && MayDiscardChanges());
     if (event->isAccepted() && bChanged) {
         Unsaved.Remove(m_desktop);
     }
@@ -170,7 +171,8 @@ void Form1::closeEvent(QCloseEvent* event) {
 // One file that is dropped on the window is opened, wherever "Open File" could be pressed.
 void Form1::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.constFirst().isLocalFile() && m_controls.cbOpen->isEnabled()) {
+    if (urls.size() == 1 && urls.constFirst().isLocalFile() && m_controls.cbOpen->isEnabled() &&
+        !LongWork::IsPainting()) {
         event->acceptProposedAction();
     }
 }
@@ -179,7 +181,7 @@ void Form1::dropEvent(QDropEvent* event) {
     const std::string path = Text::PathFromQt(event->mimeData()->urls().constFirst().toLocalFile());
     event->acceptProposedAction();
     // Questions come up only when the program that the file was dragged from has been answered.
-    QTimer::singleShot(0, this, [=, this] { Memory::Run(m_desktop, [&] { OpenDropped(path); }); });
+    QTimer::singleShot(0, this, [=, this] { Commands::Run(m_desktop, [&] { OpenDropped(path); }); });
 }
 
 void Form1::ApplyWindowMode() {

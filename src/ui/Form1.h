@@ -47,7 +47,7 @@ private:
         static constexpr std::string_view ChangeFolder = "ProcessFile";
     };
 
-    void Run(void (Form1::*handler)()); // as Memory::Run does
+    void Run(void (Form1::*handler)()); // as Commands::Run does
     void SetModels();
     void ConnectButtons();
     void ConnectEditPanel();

@@ -33,7 +33,9 @@ void Form1::ProcessClicked() {
         return;
     }
     RememberFolder(*path, Settings::ChangeFolder);
+    m_desktop.ShowBusy(true);
     const auto content = m_desktop.ReadFile(*path);
+    m_desktop.ShowBusy(false);
     if (!content) {
         m_desktop.MsgBox("The file cannot be read:\r\n" + Ansi::FromUtf8(*path), BoxIcon::Exclamation);
         return;
@@ -135,10 +137,7 @@ void Form1::ClearSelClicked() {
 
 void Form1::CompleteCheckClicked() {
     ClearWhyError();
-    m_desktop.ShowBusy(true);
-    const Report report = CompleteVariationCheck();
-    m_desktop.ShowBusy(false);
-    m_desktop.ShowReport(report);
+    m_desktop.ShowReport(CompleteVariationCheck(m_desktop));
 }
 
 void Form1::SaveVariationsClicked() {

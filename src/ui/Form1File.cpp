@@ -2,6 +2,7 @@
 
 #include "core/Desktop.h"
 #include "core/Paths.h"
+#include "core/Progress.h"
 #include "core/State.h"
 #include "edit/RestoreChanges.h"
 #include "edit/UndoJournal.h"
@@ -110,13 +111,17 @@ void Form1::SaveClicked() {
 }
 
 void Form1::FillDistrictList() {
+    m_desktop.ShowBusy(true);
+    Progress progress(m_desktop, "Listing the districts", static_cast<std::size_t>(lLineCount));
     DistrictColumns columns(m_controls.lvAlpha->font());
     m_districtsByName = DistrictsByName();
     for (std::int32_t line = 1; line <= lLineCount; ++line) {
         if (IsDistrict(line)) {
             columns.AddDistrictRow(RecordOf(line));
         }
+        progress.Advance(1);
     }
+    m_desktop.ShowBusy(false);
     m_districts->SetDistricts(m_districtsByName);
     ReportDuplicatedDistricts(m_districtsByName, m_desktop);
     for (std::size_t column = 0; column < DistrictHeadings.size(); ++column) {

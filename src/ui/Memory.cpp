@@ -1,11 +1,8 @@
 #include "ui/Memory.h"
 
-#include "core/Desktop.h"
-#include "recovery/UnsavedChanges.h"
-
 #include <QFile>
 
-#include <new>
+#include <algorithm>
 #include <optional>
 
 #ifdef Q_OS_LINUX
@@ -66,16 +63,6 @@ void LimitToWhatIsLeft() {
         setrlimit(RLIMIT_DATA, &limit);
     }
 #endif
-}
-
-void Run(Desktop& desktop, const std::function<void()>& command) {
-    try {
-        command();
-    } catch (const std::bad_alloc&) {
-        CommonRoutines::Unsaved.Write(desktop); // whatever the command has changed before
-        desktop.ShowBusy(false);
-        desktop.MsgBox("There is not enough memory for that.", BoxIcon::Critical);
-    }
 }
 
 } // namespace Memory

@@ -104,7 +104,9 @@ bool IsReadOnly(const QString& path) {
 BoxAnswer QtDesktop::ShowBox(const QString& title, std::string_view text, BoxIcon icon, BoxButtons buttons) {
     QMessageBox box(IconOf(icon), title, Text::ForBox(text), ButtonsOf(buttons), m_window);
     box.setTextFormat(Qt::PlainText);
-    switch (box.exec()) {
+    const int answer = box.exec();
+    m_work.GoOn();
+    switch (answer) {
     case QMessageBox::Yes:
         return BoxAnswer::Yes;
     case QMessageBox::No:
@@ -126,6 +128,7 @@ std::string QtDesktop::MyMsgBox(const std::string& Prompt, std::int32_t Img, con
     const auto showCopy = [&] { ShowBox(title, Prompt, StandardBoxIcon(Img), BoxButtons::Ok); };
     frmCustomMessageBox box(Prompt, StandardPicture(Img), title, ButtonCaptions, showCopy, m_window);
     box.exec();
+    m_work.GoOn();
     return box.Result();
 }
 
@@ -140,10 +143,9 @@ std::optional<std::string> QtDesktop::InputBox(std::string_view prompt) {
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         label->setMinimumWidth(PromptWidth);
     }
-    if (dialog.exec() != QDialog::Accepted) {
-        return std::nullopt;
-    }
-    return Text::FromQt(dialog.textValue());
+    const int answer = dialog.exec();
+    m_work.GoOn();
+    return answer == QDialog::Accepted ? std::optional(Text::FromQt(dialog.textValue())) : std::nullopt;
 }
 
 void QtDesktop::ShowReport(const Report& report) {
@@ -188,11 +190,12 @@ std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& reques
 
 std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
     Memory::LimitToWhatIsLeft(); // what a file asks for must not be more
-    return DurableFile::Read(Text::PathToQt(path));
+    return DurableFile::Read(Text::PathToQt(path), [this](double part) { ShowProgress("Reading the file", part); });
 }
 
 bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
-    return DurableFile::Replace(Text::PathToQt(path), content);
+    return DurableFile::Replace(Text::PathToQt(path), content,
+                                [this](double part) { ShowProgress("Writing the file", part); });
 }
 
 std::string QtDesktop::TruePath(const std::string& path) {
@@ -256,12 +259,15 @@ void QtDesktop::Beep() {
 }
 
 void QtDesktop::ShowBusy(bool busy) {
-    if (m_window.isNull()) {
-        return;
-    }
     if (busy) {
-        m_window->setCursor(Qt::WaitCursor);
+        // A report window that is open stands before the main window.
+        QWidget* dialogue = QApplication::activeModalWidget();
+        m_work.Begin(dialogue != nullptr ? dialogue : m_window.data());
     } else {
-        m_window->unsetCursor();
+        m_work.End();
     }
+}
+
+void QtDesktop::ShowProgress(std::string_view doing, double part) {
+    m_work.Show(Text::ToQt(doing), part);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Desktop.h"
+#include "ui/LongWork.h"
 #include "ui/QtStateFolder.h"
 
 #include <QPointer>
@@ -34,6 +35,7 @@ public:
     std::string ShortTime() override;
     void Beep() override;
     void ShowBusy(bool busy) override;
+    void ShowProgress(std::string_view doing, double part) override;
 
 private:
     BoxAnswer ShowBox(const QString& title, std::string_view text, BoxIcon icon, BoxButtons buttons);
@@ -41,4 +43,5 @@ private:
 
     QPointer<QWidget> m_window;
     QtStateFolder m_state;
+    LongWork m_work;
 };

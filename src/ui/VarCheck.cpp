@@ -2,7 +2,7 @@
 
 #include "checks/ReportOutput.h"
 #include "core/State.h"
-#include "ui/Memory.h"
+#include "ui/Commands.h"
 #include "ui/ReportModel.h"
 #include "ui/RowList.h"
 #include "ui/Text.h"
@@ -62,7 +62,7 @@ void VarCheck::BuildButtons() {
     }
     const auto onClick = [this](QPushButton* button, auto command) {
         connect(button, &QPushButton::clicked, this,
-                [=, this] { Memory::Run(m_desktop, [=, this] { command(m_report, DataFile(), m_desktop); }); });
+                [=, this] { Commands::Run(m_desktop, [=, this] { command(m_report, DataFile(), m_desktop); }); });
     };
     onClick(cbPrint, &PrintReport);
     onClick(cbSave, &SaveReport);

@@ -4,6 +4,7 @@
 #include "checks/CompleteCheck.h"
 #include "core/Ansi.h"
 #include "rules/SlowMatching.h"
+#include "support/ScriptedDesktop.h"
 #include "support/Table.h"
 
 using namespace CommonRoutines;
@@ -103,7 +104,10 @@ private:
     std::mt19937 m_random;
 };
 
-class CompleteCheckReference : public StateTest {};
+class CompleteCheckReference : public StateTest {
+protected:
+    ScriptedDesktop desktop;
+};
 
 } // namespace
 
@@ -112,7 +116,7 @@ TEST_F(CompleteCheckReference, AgreesLineByLineOnRandomTables) {
     for (unsigned seed = 0; seed < 4000; ++seed) {
         ResetEverything();
         const RandomTable table(seed);
-        const std::vector<std::string> lines = CompleteVariationCheck().Items;
+        const std::vector<std::string> lines = CompleteVariationCheck(desktop).Items;
         ASSERT_EQ(lines, SlowCheck().Lines()) << "seed " << seed;
         found += lines.size();
     }
@@ -131,7 +135,7 @@ TEST_F(CompleteCheckReference, AgreesLineByLineOnLongTextsThatShareTheirBeginnin
             }
             AddDistrict(Slow::SimilarText(random), variations);
         }
-        const std::vector<std::string> lines = CompleteVariationCheck().Items;
+        const std::vector<std::string> lines = CompleteVariationCheck(desktop).Items;
         ASSERT_EQ(lines, SlowCheck().Lines()) << "round " << round;
         found += lines.size();
     }
@@ -147,7 +151,7 @@ TEST_F(CompleteCheckReference, AgreesLineByLineOnALargeTable) {
         }
         AddDistrict("D" + std::to_string(i), variations);
     }
-    const std::vector<std::string> lines = CompleteVariationCheck().Items;
+    const std::vector<std::string> lines = CompleteVariationCheck(desktop).Items;
     EXPECT_GT(lines.size(), 1000U);
     EXPECT_EQ(lines, SlowCheck().Lines());
 }

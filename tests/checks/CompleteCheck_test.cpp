@@ -1,4 +1,5 @@
 #include "checks/CompleteCheck.h"
+#include "support/ScriptedDesktop.h"
 #include "support/Table.h"
 
 using namespace CommonRoutines;
@@ -9,7 +10,7 @@ class CompleteCheckTest : public StateTest {
 protected:
     using Texts = std::vector<std::string>;
 
-    static Texts Lines() { return CompleteVariationCheck().Items; }
+    Texts Lines() { return CompleteVariationCheck(desktop).Items; }
 
     static void AddDistrictOf(const std::string& name, const Texts& variations, std::int16_t founded,
                               std::int16_t abolished) {
@@ -18,6 +19,7 @@ protected:
         record.Abolished = abolished;
     }
 
+    ScriptedDesktop desktop;
     const Texts Nothing{"No duplicates found"};
 };
 
@@ -50,7 +52,7 @@ TEST_F(CompleteCheckTest, SlotsBehindTheOnesInUseAreNotLookedAt) {
 }
 
 TEST_F(CompleteCheckTest, TheReportMayBePrintedAndSaved) {
-    const Report report = CompleteVariationCheck();
+    const Report report = CompleteVariationCheck(desktop);
     EXPECT_EQ(report.sCaption, "Duplicate Check");
     EXPECT_TRUE(report.bCanPrintAndSave);
 }
@@ -188,4 +190,13 @@ TEST_F(CompleteCheckTest, AThousandSpellingsAreAllCompared) {
     ASSERT_EQ(lines.size(), 1200U);
     EXPECT_TRUE(lines[0].ends_with(" both use the variation V0")) << lines[0];
     EXPECT_TRUE(lines[1199].ends_with(" both use the variation V999")) << lines[1199];
+}
+
+TEST_F(CompleteCheckTest, TheDesktopIsBusyMeanwhileAndToldHowFarItIs) {
+    AddDistrict("Alpha", {"Elm", "Oak"});
+    AddDistrict("Beta", {"Ash"});
+    Lines();
+    EXPECT_EQ(desktop.tasks, Texts{"Looking for duplicates"});
+    EXPECT_GT(desktop.part, 0.9); // the last spelling has none behind it
+    EXPECT_FALSE(desktop.busy);
 }

@@ -41,6 +41,13 @@ constexpr const char* NotEditable =
 
 } // namespace
 
+TEST_F(ReadLinesTest, TheDesktopIsBusyMeanwhileAndToldHowFarItIs) {
+    Read("# one\r\n# two\r\n# three");
+    EXPECT_EQ(m_desktop.tasks, std::vector<std::string>{"Checking the lines of the file"});
+    EXPECT_EQ(m_desktop.part, 1);
+    EXPECT_FALSE(m_desktop.busy);
+}
+
 TEST_F(ReadLinesTest, ADistrictFillsItsRecord) {
     Read(" Ash + 12 + Shire +1837+3+1900+4+a+b+c|Elm|!Oak%12 \r\n");
     ASSERT_EQ(lLineCount, 1);

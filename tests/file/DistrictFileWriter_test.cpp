@@ -111,3 +111,25 @@ TEST_F(DistrictFileWriterTest, AFailedWriteEndsSilentlyAndLeavesTheOldFile) {
     SaveDistrictFile(m_desktop);
     EXPECT_EQ(m_desktop.files["/data/old.txt"], "old");
 }
+
+TEST_F(DistrictFileWriterTest, TheDesktopIsBusyUntilTheFileIsWritten) {
+    class WatchedDesktop : public ScriptedDesktop {
+    public:
+        bool ReplaceFile(const std::string& path, std::string_view content) override {
+            EXPECT_TRUE(busy);
+            return ScriptedDesktop::ReplaceFile(path, content);
+        }
+        BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override {
+            EXPECT_FALSE(busy);
+            return ScriptedDesktop::MsgBox(text, icon, buttons);
+        }
+    } desktop;
+    AddRetained("# note");
+    desktop.ExpectSave("/data/new.txt");
+    desktop.ExpectBox("File Saved to /data/new.txt", BoxIcon::Information);
+    SaveDistrictFile(desktop);
+    desktop.canWrite = false;
+    desktop.ExpectSave("/data/new.txt");
+    SaveDistrictFile(desktop);
+    EXPECT_FALSE(desktop.busy);
+}

@@ -44,16 +44,20 @@ void ExpectTheSameOrder(const Elements& elements) {
     Elements expected = elements;
     Slow::Sort(expected, 0, std::ssize(expected) - 1, ByKey());
     Elements sorted = elements;
-    MiddlePivotSort::Sort(std::span(sorted), ByKey());
+    std::size_t inPlace = 0;
+    const auto placed = [&](std::size_t count) { inPlace += count; };
+    MiddlePivotSort::Sort(std::span(sorted), ByKey(), placed);
     ASSERT_TRUE(sorted == expected);
+    ASSERT_EQ(inPlace, elements.size());
     // The scan for unlucky pivots from the beginning.
     Elements byTree = elements;
     if (!byTree.empty()) {
         const ByKey less;
         MiddlePivotSort::TreeScan<Element, ByKey> tree(byTree, less);
-        MiddlePivotSort::SortRange(tree, std::span(byTree), 0, std::ssize(byTree) - 1, less, 0);
+        MiddlePivotSort::SortRange(tree, std::span(byTree), 0, std::ssize(byTree) - 1, less, 0, placed);
     }
     ASSERT_TRUE(byTree == expected);
+    ASSERT_EQ(inPlace, 2 * elements.size());
 }
 
 TEST(MiddlePivotSort, RandomKeysWithManyEqualOnesComeInTheOrderOfThePlainAlgorithm) {

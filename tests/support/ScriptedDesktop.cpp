@@ -139,3 +139,24 @@ bool ScriptedDesktop::Print(std::span<const std::string> lines) {
     }
     return hasPrinter;
 }
+
+void ScriptedDesktop::ShowBusy(bool isBusy) {
+    if (isBusy) {
+        tasks.clear();
+    }
+    busy = isBusy;
+}
+
+void ScriptedDesktop::ShowProgress(std::string_view doing, double newPart) {
+    if (!busy) {
+        ADD_FAILURE() << "progress without work: " << doing;
+    }
+    if (tasks.empty() || tasks.back() != doing) {
+        tasks.emplace_back(doing);
+        part = 0;
+    }
+    if (newPart < part || newPart > 1) {
+        ADD_FAILURE() << doing << " went from " << part << " to " << newPart;
+    }
+    part = newPart;
+}

@@ -42,8 +42,10 @@ public:
     bool failsAfterWriting = false; // says so though the file is in its place
     int beeps = 0;
     bool busy = false;
-    int programFolderEntries = 0; // how often the program's folder became the current one
-    FileRequest lastRequest;      // of the last file dialogue
+    std::vector<std::string> tasks; // what was done, one after the other, since it was last busy
+    double part = 0;                // of the last of them that is over
+    int programFolderEntries = 0;   // how often the program's folder became the current one
+    FileRequest lastRequest;        // of the last file dialogue
     MemoryStateFolder state;
 
     BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override;
@@ -65,7 +67,8 @@ public:
     std::string Today() override { return "05 Mar 2026"; }
     std::string ShortTime() override { return "14:07"; }
     void Beep() override { ++beeps; }
-    void ShowBusy(bool isBusy) override { busy = isBusy; }
+    void ShowBusy(bool isBusy) override;
+    void ShowProgress(std::string_view doing, double newPart) override;
 
 private:
     // One prompt as text, with whatever a user could tell apart, and the answer to give.

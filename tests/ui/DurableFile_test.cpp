@@ -148,3 +148,25 @@ TEST_F(DurableFileTest, ALinkThatLeadsNowhereIsFollowed) {
     EXPECT_EQ(DurableFile::Read(Path("target")), "new");
     EXPECT_TRUE(QFileInfo(Path("link")).isSymLink());
 }
+
+TEST_F(DurableFileTest, AFileOfSeveralPiecesIsReadAndWrittenAsAWhole) {
+    std::string content(40'000'000, 'x');
+    for (std::size_t i = 0; i < content.size(); i += 1000) {
+        content[i] = static_cast<char>(i / 1000);
+    }
+    std::vector<double> parts;
+    const auto listener = [&](double part) { parts.push_back(part); };
+    EXPECT_TRUE(DurableFile::Replace(file, content, listener));
+    ASSERT_EQ(parts.size(), 3U);
+    EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
+    EXPECT_EQ(parts.back(), 1);
+    parts.clear();
+    EXPECT_TRUE(DurableFile::Read(file, listener) == content);
+    EXPECT_EQ(parts.size(), 3U);
+    EXPECT_EQ(parts.back(), 1);
+}
+
+TEST_F(DurableFileTest, AnEmptyFileIsReadAndWrittenToo) {
+    EXPECT_TRUE(DurableFile::Replace(file, ""));
+    EXPECT_EQ(DurableFile::Read(file), "");
+}

@@ -2,6 +2,7 @@
 
 #include "rules/Capitals.h"
 #include "support/Table.h"
+#include "ui/Commands.h"
 #include "ui/Form1.h"
 #include "ui/Memory.h"
 #include "ui/QtDesktop.h"
@@ -110,9 +111,9 @@ TEST_F(RefusedFiles, AsTheWordList) {
 
 TEST_F(RefusedFiles, ACommandWithoutMemoryEndsWithAMessage) {
     int runs = 0;
-    Memory::Run(desktop, [&] { ++runs; });
+    Commands::Run(desktop, [&] { ++runs; });
     EXPECT_TRUE(desktop.messages.empty());
-    Memory::Run(desktop, [&]() {
+    Commands::Run(desktop, [&]() {
         ++runs;
         throw std::bad_alloc();
     });

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <functional>
+
+class Desktop;
+
+// The commands of all windows are run through here.
+namespace Commands {
+
+// Runs a command. One that there is not enough memory for ends with a message, since the toolkit must not
+// meet with an exception. One that comes while a window is only painted in the middle of another command,
+// as a screen reader's may, is left out.
+void Run(Desktop& desktop, const std::function<void()>& command);
+
+} // namespace Commands
