@@ -1,6 +1,7 @@
 #include "ui/DistrictModel.h"
 
 #include "core/State.h"
+#include "core/UpperCase.h"
 #include "file/DistrictList.h"
 #include "ui/StateColours.h"
 #include "ui/Text.h"
@@ -78,4 +79,29 @@ QVariant DistrictModel::headerData(int section, Qt::Orientation orientation, int
         return {};
     }
     return Text::ToQt(DistrictHeadings[static_cast<std::size_t>(section)]);
+}
+
+QModelIndexList DistrictModel::match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                                     Qt::MatchFlags flags) const {
+    const bool isTypeAhead = start.isValid() && start.column() == 0 && role == Qt::DisplayRole && hits == 1 &&
+                             flags == (Qt::MatchStartsWith | Qt::MatchWrap);
+    if (!isTypeAhead) {
+        return QAbstractTableModel::match(start, role, value, hits, flags);
+    }
+    const std::string typed = Text::FromQt(value.toString());
+    const auto beginning = [&](std::int32_t district) {
+        return RecordOf(district).Name.View().substr(0, typed.size());
+    };
+    const auto first = std::partition_point(m_districts.begin(), m_districts.end(), [&](std::int32_t district) {
+        return Ansi::CompareUpper(beginning(district), typed) < 0;
+    });
+    const auto last = std::partition_point(first, m_districts.end(), [&](std::int32_t district) {
+        return Ansi::CompareUpper(beginning(district), typed) == 0;
+    });
+    if (first == last) {
+        return {};
+    }
+    const auto from = m_districts.begin() + start.row();
+    const auto found = first <= from && from < last ? from : first;
+    return {index(static_cast<int>(found - m_districts.begin()), 0)};
 }

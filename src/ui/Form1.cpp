@@ -168,6 +168,16 @@ void Form1::closeEvent(QCloseEvent* event) {
     }
 }
 
+// A button that its own command disables gives the focus to the list that it belongs to, not to whatever
+// control comes next.
+bool Form1::focusNextPrevChild(bool next) {
+    if (const QWidget* control = focusWidget(); control != nullptr && !control->isEnabled()) {
+        m_controls.ListBeside(control)->setFocus();
+        return true;
+    }
+    return QWidget::focusNextPrevChild(next);
+}
+
 // One file that is dropped on the window is opened, wherever "Open File" could be pressed.
 void Form1::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> urls = event->mimeData()->urls();

@@ -339,3 +339,11 @@ QWidget* Form1Controls::Widget(CommonRoutines::Control control) const {
         cbShriek,   cbDate,          lbComments,      cbEditSel};
     return widgets[static_cast<std::size_t>(control)];
 }
+
+RowList* Form1Controls::ListBeside(const QWidget* button) const {
+    const QWidget* frame = button->parentWidget();
+    if (frame == cbAdd->parentWidget()) {
+        return lvVariations;
+    }
+    return frame == cbApplyAll->parentWidget() ? LvChanges : lvAlpha;
+}

@@ -10,7 +10,7 @@ namespace {
 bool s_painting = false;
 
 bool HasRun(const QElapsedTimer& timer, std::chrono::milliseconds time) {
-    return timer.hasExpired(time.count());
+    return timer.elapsed() >= time.count();
 }
 
 } // namespace

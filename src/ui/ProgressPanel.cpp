@@ -15,7 +15,7 @@ constexpr int Steps = 100;
 ProgressPanel::ProgressPanel(QWidget* window)
     : QFrame(window), m_doing(new QLabel(this)), m_bar(new QProgressBar(this)) {
     setObjectName(QStringLiteral("ProgressPanel"));
-    setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
     setAutoFillBackground(true);
     m_doing->setTextFormat(Qt::PlainText);
     m_bar->setRange(0, Steps);

@@ -1,11 +1,13 @@
 #include "ui/RowList.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -26,7 +28,38 @@ public:
 
 } // namespace
 
-RowList::RowList(QWidget* parent) : QTreeView(parent) {
+// Column headings, of which one can be underlined.
+class RowList::Header : public QHeaderView {
+public:
+    explicit Header(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+        setSectionsMovable(true);
+        setStretchLastSection(true);
+        setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+
+    // A column, or -1.
+    void Underline(int column) {
+        m_underlined = column;
+        viewport()->update();
+    }
+
+protected:
+    void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override {
+        painter->save(); // the style leaves a clip behind
+        QHeaderView::paintSection(painter, rect, logicalIndex);
+        painter->restore();
+        if (logicalIndex == m_underlined) {
+            constexpr int thickness = 2;
+            painter->fillRect(rect.adjusted(0, rect.height() - thickness, 0, 0), palette().highlight());
+        }
+    }
+
+private:
+    int m_underlined = -1;
+};
+
+RowList::RowList(QWidget* parent) : QTreeView(parent), m_header(new Header(this)) {
+    setHeader(m_header);
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
@@ -94,7 +127,7 @@ void RowList::CopySelection() const {
         }
         lines.append(cells.join(QLatin1Char('\t')));
     }
-    QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+    QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
 }
 
 void RowList::Announce() {
@@ -117,9 +150,107 @@ void RowList::mousePressEvent(QMouseEvent* event) {
     }
 }
 
+// Ctrl and an arrow key go to another column, with Shift they move the column there; Alt and an arrow key make it
+// narrower or wider, Ctrl and "+" as wide as what is in it.
+bool RowList::HandleColumnKey(const QKeyEvent& event) {
+    const int columns = header()->count();
+    if (columns == 0 || isHeaderHidden()) {
+        return false;
+    }
+    // On many keyboards "+" needs the Shift key.
+    if (event.key() == Qt::Key_Plus && event.modifiers().testFlag(Qt::ControlModifier)) {
+        resizeColumnToContents(m_column);
+        return true;
+    }
+    if (event.key() != Qt::Key_Left && event.key() != Qt::Key_Right) {
+        return false;
+    }
+    const int step = event.key() == Qt::Key_Left ? -1 : 1;
+    const int place = header()->visualIndex(m_column);
+    const int newPlace = std::clamp(place + step, 0, columns - 1);
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::ControlModifier) {
+        MarkColumn(header()->logicalIndex(newPlace));
+    } else if (modifiers == (Qt::ControlModifier | Qt::ShiftModifier)) {
+        header()->moveSection(place, newPlace);
+        MarkColumn(m_column);
+    } else if (modifiers == Qt::AltModifier) {
+        const int stride = 2 * fontMetrics().averageCharWidth();
+        setColumnWidth(m_column, std::max(columnWidth(m_column) + step * stride, header()->minimumSectionSize()));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// The current row's cell in the column becomes the current one, which a screen reader tells.
+void RowList::MarkColumn(int column) {
+    m_column = column;
+    UpdateFocusMarks();
+    if (currentIndex().isValid()) {
+        selectionModel()->setCurrentIndex(currentIndex().siblingAtColumn(column), QItemSelectionModel::NoUpdate);
+    }
+    const int left = header()->sectionViewportPosition(column);
+    const int right = left + header()->sectionSize(column);
+    QScrollBar& bar = *horizontalScrollBar();
+    if (left < 0 || right > viewport()->width()) {
+        bar.setValue(bar.value() + (left < 0 ? left : std::min(left, right - viewport()->width())));
+    }
+}
+
+void RowList::UpdateFocusMarks() {
+    m_header->Underline(hasFocus() ? m_column : -1);
+    update();
+}
+
+void RowList::focusInEvent(QFocusEvent* event) {
+    QTreeView::focusInEvent(event);
+    UpdateFocusMarks();
+}
+
+void RowList::focusOutEvent(QFocusEvent* event) {
+    QTreeView::focusOutEvent(event);
+    UpdateFocusMarks();
+}
+
+// The frame shows the focus also where there is no row that could.
+bool RowList::event(QEvent* event) {
+    const bool handled = QTreeView::event(event);
+    if (event->type() == QEvent::Paint && hasFocus()) {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    return handled;
+}
+
+// The toolkit's own search looks at one row after the other; here the model may know better.
+void RowList::keyboardSearch(const QString& search) {
+    if (search.isEmpty() || model()->rowCount() == 0) {
+        return;
+    }
+    const bool goesOn = m_lastTyped.isValid() && !m_lastTyped.hasExpired(QApplication::keyboardInputInterval());
+    m_typed = goesOn ? m_typed + search : search;
+    m_lastTyped.start();
+    const bool isOneLetter = m_typed.count(m_typed.front()) == m_typed.size();
+    int start = selectionModel()->hasSelection() ? currentIndex().row() : 0;
+    if (isOneLetter && selectionModel()->hasSelection()) {
+        start = (start + 1) % model()->rowCount(); // the same letter again means the next row
+    }
+    const QModelIndexList found =
+        model()->match(model()->index(start, 0), Qt::DisplayRole, isOneLetter ? m_typed.left(1) : m_typed, 1,
+                       Qt::MatchStartsWith | Qt::MatchWrap);
+    if (!found.isEmpty()) {
+        setCurrentIndex(found.constFirst().siblingAtColumn(m_column));
+    }
+}
+
 void RowList::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
         CopySelection();
+        return;
+    }
+    if (HandleColumnKey(*event)) {
         return;
     }
     // A list that has just got its rows or the focus has a current row but no selected one: the first

@@ -201,3 +201,18 @@ TEST_F(DistrictsTest, AWiderWindowWrapsTheCommentsAnew) {
     QCoreApplication::processEvents();
     EXPECT_LT(Column("lvComments").size(), before);
 }
+
+TEST_F(DistrictsTest, ABlankIsPartOfTheNameThatIsTyped) {
+    OpenContent(HeaderOf("St Albans") + "|A\r\n" + HeaderOf("Stafford") + "|B\r\n" + HeaderOf("St Neots") + "|C\r\n");
+    QTest::keyClicks(&Find<RowList>("lvAlpha"), QStringLiteral("st n"));
+    EXPECT_EQ(Selected("lvAlpha"), QStringList{QStringLiteral("St Neots")});
+}
+
+TEST_F(DistrictsTest, TheSameLetterAgainGoesToTheNextName) {
+    OpenContent(HeaderOf("Sale") + "|A\r\n" + HeaderOf("Stoke") + "|B\r\n" + HeaderOf("Ware") + "|C\r\n");
+    RowList& list = Find<RowList>("lvAlpha");
+    for (const char* name : {"Sale", "Stoke", "Sale"}) {
+        QTest::keyClicks(&list, QStringLiteral("s"));
+        EXPECT_EQ(Selected("lvAlpha"), QStringList{QString::fromLatin1(name)});
+    }
+}

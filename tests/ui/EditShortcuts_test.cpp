@@ -140,6 +140,26 @@ TEST_F(EditingTest, CtrlOAndCtrlSAreIgnoredWhileTheirButtonsAreDisabled) {
     EXPECT_EQ(iEditMode, OneSelected);
 }
 
+TEST_F(EditingTest, AButtonThatItsCommandDisablesGivesTheFocusToItsList) {
+    OpenDistrict();
+    Select(QStringLiteral("Alfa"));
+    Find<QPushButton>("cbShriek").setFocus();
+    Press(Qt::Key_Space);
+    EXPECT_FALSE(Enabled("cbShriek"));
+    EXPECT_EQ(Focus(), "lvVariations");
+    Process("Alvah\r\nAlfar\r\n");
+    ClickBox(QStringLiteral("Alvah"));
+    Find<QPushButton>("cbClearSel").setFocus();
+    Press(Qt::Key_Space);
+    EXPECT_FALSE(Enabled("cbClearSel"));
+    EXPECT_EQ(Focus(), "LvChanges");
+    Click("cbAdd");
+    Type(QStringLiteral("Alvah"));
+    Find<QPushButton>("cbOk").setFocus();
+    Press(Qt::Key_Space);
+    EXPECT_EQ(Focus(), "lvAlpha");
+}
+
 TEST_F(EditingTest, AWholeDaysWorkNeedsNoMouse) {
     const std::string rest = "#QX_NOTE kept as it is\r\n" + HeaderOf("Beta") + "|Bee\r\n";
     ExpectFile(HeaderOf("Alpha") + "|Alfa\r\n" + rest);

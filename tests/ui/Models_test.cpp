@@ -1,6 +1,7 @@
 // The models keep the rules that the views rely on.
 
 #include "core/State.h"
+#include "file/DistrictList.h"
 #include "support/Reading.h"
 #include "support/Table.h"
 #include "ui/ChangeModel.h"
@@ -13,6 +14,8 @@
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
+
+#include <random>
 
 using namespace CommonRoutines;
 
@@ -143,4 +146,42 @@ TEST_F(ModelsTest, TheReportModelKeepsTheRules) {
     const auto tester = Tester(model);
     EXPECT_EQ(model.rowCount(), 2);
     EXPECT_EQ(Cell(model, 1), QStringLiteral("Two lines"));
+}
+
+// The rows that typing leads to, as the toolkit finds them by looking at one after the other.
+TEST_F(ModelsTest, TypingFindsTheDistrictThatALookAtEveryRowFinds) {
+    std::mt19937 random(41);
+    for (int round = 0; round < 40; ++round) {
+        ResetState();
+        for (auto count = random() % 30; count > 0; --count) {
+            std::string name;
+            for (auto length = 1 + random() % 4; length > 0; --length) {
+                name += "ABab\xE9\xC9 z"[random() % 8];
+            }
+            AddDistrict(name);
+        }
+        DistrictModel model;
+        model.SetDistricts(DistrictsByName());
+        for (const char* typed : {"a", "B", "ab", "\xC3\xA9", "a ", "z", "zz", "abab", "c"}) {
+            for (int row = 0; row < model.rowCount(); ++row) {
+                const auto start = model.index(row, 0);
+                const auto flags = Qt::MatchStartsWith | Qt::MatchWrap;
+                const QVariant text = QString::fromUtf8(typed);
+                ASSERT_EQ(model.match(start, Qt::DisplayRole, text, 1, flags),
+                          model.QAbstractTableModel::match(start, Qt::DisplayRole, text, 1, flags))
+                    << round << ' ' << typed << ' ' << row;
+            }
+        }
+    }
+}
+
+TEST_F(ModelsTest, OtherSearchesAmongDistrictsAreThoseOfTheToolkit) {
+    const std::int32_t alpha = AddDistrict("Alpha");
+    DistrictAt(alpha).County = "Kent";
+    DistrictModel model;
+    model.SetDistricts({alpha});
+    const auto beginning = Qt::MatchStartsWith | Qt::MatchWrap;
+    EXPECT_EQ(model.match(model.index(0, 2), Qt::DisplayRole, QStringLiteral("ke"), 1, beginning).size(), 1);
+    EXPECT_EQ(model.match(model.index(0, 0), Qt::DisplayRole, QStringLiteral("ph"), 1, Qt::MatchContains).size(), 1);
+    EXPECT_TRUE(model.match({}, Qt::DisplayRole, QStringLiteral("a"), 1, beginning).isEmpty());
 }
