@@ -4,6 +4,8 @@
 
 #include "core/State.h"
 
+#include <QApplication>
+
 #include <vector>
 
 using namespace CommonRoutines;
@@ -17,7 +19,7 @@ constexpr int Rounds = 21;
 using Times = std::vector<double>;
 
 struct ListTimes {
-    Times click, down, end, filter, all;
+    Times click, down, end, letter, filter, all;
 };
 
 // A place in the list of districts; another one every time.
@@ -33,6 +35,9 @@ void ChooseOnce(BenchWindow& window, int round, ListTimes& times) {
     times.click.push_back(window.TimeOf([&] { window.ClickRow("lvAlpha", row); }, "lvVariations"));
     times.down.push_back(window.TimeOf([&] { window.Key("lvAlpha", Qt::Key_Down); }, "lvVariations"));
     times.end.push_back(window.TimeOf([&] { window.Key("lvAlpha", Qt::Key_End); }, "lvVariations"));
+    // The first names with a letter from the end of the alphabet, far from where the list begins.
+    const auto letter = round % 2 == 0 ? Qt::Key_T : Qt::Key_W;
+    times.letter.push_back(window.TimeOf([&] { window.Key("lvAlpha", letter); }, "lvVariations"));
 }
 
 void FilterOnce(BenchWindow& window, int round, ListTimes& times) {
@@ -50,6 +55,7 @@ void MeasureLists(const std::string& file) {
     const PrivateSettings settings;
     BenchWindow window;
     window.Open(file);
+    QApplication::setKeyboardInputInterval(0); // every letter is the first one
     ListTimes times;
     for (int round = 0; round < Rounds; ++round) {
         ChooseOnce(window, round, times);
@@ -59,6 +65,7 @@ void MeasureLists(const std::string& file) {
     Print("choose_click_ms", Median(times.click));
     Print("choose_down_ms", Median(times.down));
     Print("end_ms", Median(times.end));
+    Print("letter_ms", Median(times.letter));
     Print("filter_ms", Median(times.filter));
     Print("all_ms", Median(times.all));
 }
