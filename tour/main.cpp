@@ -1,5 +1,6 @@
 // Drives the real window through the main job on the sample data, as a user would, and leaves a
-// screenshot of every station: quexal-tour FOLDER. Needs no display (QT_QPA_PLATFORM=offscreen).
+// screenshot of every station: quexal-tour FOLDER [dark]. Needs no display (QT_QPA_PLATFORM=offscreen); with
+// QT_SCALE_FACTOR the pictures are those of a finer screen.
 
 #include "DialogueGuide.h"
 
@@ -17,6 +18,7 @@
 #include <QTest>
 
 #include <cstdio>
+#include <string_view>
 
 namespace {
 
@@ -26,6 +28,10 @@ public:
         m_desktop.SetWindow(&m_form);
         m_form.LoadForm();
         m_form.show();
+        m_form.activateWindow();
+        if (!QTest::qWaitForWindowActive(&m_form)) {
+            qWarning("the window does not get the focus");
+        }
     }
 
     // Returns false when a station was not reached.
@@ -56,6 +62,7 @@ private:
 };
 
 void Tour::Picture(QWidget& widget, const QString& name) {
+    widget.activateWindow();
     QTest::qWait(50);
     const QString path = m_folder.filePath(name + QStringLiteral(".png"));
     widget.grab().save(path);
@@ -186,6 +193,23 @@ bool Tour::Play() {
     return m_guide.AllAnswered() && m_guide.Surprises() == 0;
 }
 
+// The colours of a dark desktop.
+QPalette DarkPalette() {
+    const QColor ground(53, 53, 53);
+    const QColor base(30, 30, 30);
+    const QColor disabled(127, 127, 127);
+    QPalette palette(ground);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, ground);
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, Qt::white);
+        palette.setColor(QPalette::Disabled, role, disabled);
+    }
+    return palette;
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -195,9 +219,13 @@ int main(int argc, char* argv[]) {
     qputenv("XDG_STATE_HOME", settings.path().toUtf8());
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
-    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        std::fputs("usage: quexal-tour FOLDER\n", stderr);
+    const bool isDark = argc == 3 && std::string_view(argv[2]) == "dark";
+    if ((argc != 2 && !isDark) || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        std::fputs("usage: quexal-tour FOLDER [dark]\n", stderr);
         return 2;
+    }
+    if (isDark) {
+        QApplication::setPalette(DarkPalette());
     }
     // Made absolute before the editor makes its own folder the current one.
     Tour tour(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());

@@ -104,6 +104,7 @@ bool IsReadOnly(const QString& path) {
 BoxAnswer QtDesktop::ShowBox(const QString& title, std::string_view text, BoxIcon icon, BoxButtons buttons) {
     QMessageBox box(IconOf(icon), title, Text::ForBox(text), ButtonsOf(buttons), m_window);
     box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     const int answer = box.exec();
     m_work.GoOn();
     switch (answer) {

@@ -1,5 +1,7 @@
 #include "ui/RowList.h"
 
+#include "ui/StateColours.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
@@ -280,7 +282,7 @@ void RowList::paintEvent(QPaintEvent* event) {
     if (model() != nullptr && model()->rowCount() == 0) {
         constexpr int margin = 12;
         QPainter painter(viewport());
-        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.setPen(StateColours::Hint(palette()));
         painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
                          Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_hint);
     }

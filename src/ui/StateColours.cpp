@@ -51,4 +51,12 @@ QColor InList(VariationState state, const QPalette& palette) {
     return dark ? OnDark(state) : OnLight(state);
 }
 
+QColor Hint(const QPalette& palette) {
+    constexpr double textShare = 0.65; // the palette's own half, that of placeholders, is too faint
+    const QColor text = palette.color(QPalette::Text);
+    const QColor base = palette.color(QPalette::Base);
+    const auto mixed = [](int a, int b) { return qRound(textShare * a + (1 - textShare) * b); };
+    return {mixed(text.red(), base.red()), mixed(text.green(), base.green()), mixed(text.blue(), base.blue())};
+}
+
 } // namespace StateColours

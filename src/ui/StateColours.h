@@ -19,4 +19,7 @@ inline constexpr QColor BlueGreen(0, 255, 255);
 // and the palette's own where there is nothing to say.
 [[nodiscard]] QColor InList(CommonRoutines::VariationState state, const QPalette& palette);
 
+// The grey of what an empty list says: between the text and the background, but well legible.
+[[nodiscard]] QColor Hint(const QPalette& palette);
+
 } // namespace StateColours

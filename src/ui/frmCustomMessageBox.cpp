@@ -109,3 +109,12 @@ void frmCustomMessageBox::mousePressEvent(QMouseEvent* event) {
         m_showCopy();
     }
 }
+
+// The key for those who have no mouse.
+void frmCustomMessageBox::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        m_showCopy();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}

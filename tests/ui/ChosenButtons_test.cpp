@@ -255,3 +255,15 @@ TEST_F(ChosenButtonsTest, OtherClicksShowNoCopy) {
         DialogueGuide::Press(box, "Ok");
     });
 }
+
+TEST_F(ChosenButtonsTest, CtrlCShowsThePromptInAStandardBoxToo) {
+    guide.Next([this](QWidget& box) {
+        guide.Next([](QWidget& copy) {
+            EXPECT_EQ(dynamic_cast<QMessageBox&>(copy).text(), QStringLiteral("Which?"));
+            DialogueGuide::Press(copy, "OK");
+        });
+        QTest::keyClick(&box, Qt::Key_C, Qt::ControlModifier);
+        DialogueGuide::Press(box, "One");
+    });
+    EXPECT_EQ(desktop.MyMsgBox("Which?", IconQuestion, "", std::vector<std::string>{"One"}), "One");
+}

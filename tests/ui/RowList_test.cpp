@@ -179,6 +179,28 @@ TEST_F(ColumnKeys, TypingFindsTheFirstColumnWhicheverIsAtHand) {
     EXPECT_EQ(m_list.SelectedRows(), std::vector<int>{27});
 }
 
+TEST_F(ColumnKeys, LeftAndRightScrollSideways) {
+    m_list.resize(150, 200);
+    m_list.SelectRow(3);
+    Press(Qt::Key_Right, Qt::NoModifier);
+    EXPECT_GT(m_list.horizontalScrollBar()->value(), 0);
+    Press(Qt::Key_Left, Qt::NoModifier);
+    EXPECT_EQ(m_list.horizontalScrollBar()->value(), 0);
+    EXPECT_EQ(m_list.SelectedRows(), std::vector<int>{3});
+}
+
+TEST_F(ColumnKeys, CtrlMovesWithoutChoosingAndCtrlSpaceChooses) {
+    m_list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list.SelectRow(3);
+    Press(Qt::Key_Down, Qt::ControlModifier);
+    Press(Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(m_list.SelectedRows(), std::vector<int>{3});
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(m_list.SelectedRows(), (std::vector<int>{3, 5}));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(m_list.SelectedRows(), std::vector<int>{3});
+}
+
 // How many pixels of a picture have a colour.
 int Count(const QImage& image, const QColor& colour) {
     int count = 0;

@@ -2,6 +2,8 @@
 
 #include "DesktopTest.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -145,4 +147,18 @@ TEST_F(StandardBoxesTest, ALongPromptKeepsTheInputBoxOnTheScreen) {
         DialogueGuide::Press(dialogue, "Cancel");
     });
     desktop.InputBox("Please enter a replacement for the variation " + std::string(600, 'x'));
+}
+
+TEST_F(StandardBoxesTest, TheTextCanBeCopiedWithoutAMouse) {
+    guide.Next([](QWidget& dialogue) {
+        auto* label = dialogue.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        ASSERT_NE(label, nullptr);
+        EXPECT_FALSE(label->hasFocus());
+        label->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(label, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(label, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Copy me"));
+        DialogueGuide::Press(dialogue, "OK");
+    });
+    desktop.MsgBox("Copy me", BoxIcon::Information, BoxButtons::Ok);
 }

@@ -77,3 +77,13 @@ TEST(StateColoursTest, PlainRowsHaveThePalettesColour) {
 TEST(StateColoursTest, TheGroundOfTheProblemsIsLightGrey) {
     EXPECT_EQ(StateColours::LightGrey, QColor(192, 192, 192));
 }
+
+TEST(StateColoursTest, AHintIsGreyAndLegible) {
+    for (const auto& [base, text] :
+         {std::pair<QColor, QColor>{Qt::white, Qt::black}, {QColor(30, 30, 30), Qt::white}}) {
+        const QColor hint = StateColours::Hint(PaletteOf(base, text));
+        EXPECT_GE(Contrast(hint, base), 4.5);
+        EXPECT_LT(Contrast(hint, base), Contrast(text, base) / 1.5);
+        EXPECT_EQ(hint.saturation(), 0);
+    }
+}
