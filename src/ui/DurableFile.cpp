@@ -57,7 +57,7 @@ bool SyncFolder(const QString& /*folder*/) {
 // Goes through the bytes of a file piece by piece, at least once, until `transfer` refuses one.
 bool InPieces(std::size_t all, const Listener& listener,
               const std::function<bool(std::size_t start, std::size_t size)>& transfer) {
-    constexpr std::size_t largestPiece = std::size_t{16} << 20;
+    constexpr std::size_t largestPiece = std::size_t{32} << 20;
     std::size_t done = 0;
     do {
         const std::size_t size = std::min(all - done, largestPiece);

@@ -11,7 +11,7 @@
 // Files that survive faults: of the disk, of the program, of the power.
 namespace DurableFile {
 
-// Is told, at every few megabytes, which part (0 to 1) of a file has been read or is on the disk.
+// Is told, now and then, which part (0 to 1) of a file has been read or is on the disk.
 using Listener = std::function<void(double part)>;
 
 // The whole content of a regular file of up to 2 GiB; nothing when it cannot be read.

@@ -16,6 +16,7 @@ ProgressPanel::ProgressPanel(QWidget* window)
     : QFrame(window), m_doing(new QLabel(this)), m_bar(new QProgressBar(this)) {
     setObjectName(QStringLiteral("ProgressPanel"));
     setFrameStyle(QFrame::Box | QFrame::Plain);
+    setForegroundRole(QPalette::Mid); // of the frame
     setAutoFillBackground(true);
     m_doing->setTextFormat(Qt::PlainText);
     m_bar->setRange(0, Steps);
