@@ -1,6 +1,8 @@
 #include "core/Progress.h"
 #include "support/ScriptedDesktop.h"
 
+#include <gtest/gtest.h>
+
 namespace {
 
 // Counts what it is told.

@@ -2,6 +2,8 @@
 
 #include "EditingTest.h"
 
+#include <QPushButton>
+
 #include <map>
 
 using namespace CommonRoutines;
