@@ -87,13 +87,16 @@ std::vector<std::string_view> Split(std::string_view text, char separator) {
     return pieces;
 }
 
-void SplitInto(std::vector<std::string_view>& pieces, std::string_view text, char separator) {
+void SplitInto(std::vector<std::string_view>& pieces, std::string_view text, char separator, std::size_t most) {
     pieces.clear();
-    for (auto end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
+    while (pieces.size() < most) {
+        const auto end = text.find(separator);
         pieces.push_back(text.substr(0, end));
+        if (end == std::string_view::npos) {
+            break;
+        }
         text.remove_prefix(end + 1);
     }
-    pieces.push_back(text);
 }
 
 char16_t ToUnicode(char c) {

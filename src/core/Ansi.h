@@ -39,8 +39,9 @@ namespace Ansi {
 
 // The pieces between separators, always at least one. The pieces are parts of `text`.
 [[nodiscard]] std::vector<std::string_view> Split(std::string_view text, char separator);
-// The same into a vector that is used again and again.
-void SplitInto(std::vector<std::string_view>& pieces, std::string_view text, char separator);
+// The same into a vector that is used again and again; of more than `most` pieces, the first ones.
+void SplitInto(std::vector<std::string_view>& pieces, std::string_view text, char separator,
+               std::size_t most = std::string_view::npos);
 
 // The Unicode code point of a byte. The five bytes that the code page leaves open (81, 8D, 8F, 90
 // and 9D hexadecimal) stand for the control characters of the same number, so that no byte is lost.

@@ -23,22 +23,6 @@ std::optional<std::int16_t> NumberIn(std::string_view text) {
     return number;
 }
 
-// The parts of a header, at most one more than `most`, which is one too many: of a line with a million of
-// them no more is looked at.
-std::vector<std::string_view>& PartsOf(std::string_view text, std::size_t most) {
-    static std::vector<std::string_view> parts; // kept for its memory
-    parts.clear();
-    while (parts.size() <= most) {
-        const auto end = text.find('+');
-        parts.push_back(text.substr(0, end));
-        if (end == std::string_view::npos) {
-            break;
-        }
-        text.remove_prefix(end + 1);
-    }
-    return parts;
-}
-
 bool IsSpecialQuarter(std::int16_t quarter) {
     return quarter == 8 || quarter == 9;
 }
@@ -46,7 +30,9 @@ bool IsSpecialQuarter(std::int16_t quarter) {
 } // namespace
 
 HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size_t maxParts) {
-    const std::vector<std::string_view>& parts = PartsOf(text, maxParts);
+    static std::vector<std::string_view> parts; // kept for its memory
+    // One too many is enough: of a line with a million of them no more is looked at.
+    Ansi::SplitInto(parts, text, '+', maxParts + 1);
     if (parts.size() < MinHeaderParts || parts.size() > maxParts) {
         return HeaderResult::WrongPartCount;
     }

@@ -56,4 +56,14 @@ TEST(AnsiSplit, ATextWithoutSeparatorsIsOnePiece) {
     EXPECT_EQ(Ansi::Split("", '|'), Pieces{""});
 }
 
+TEST(AnsiText, OfMorePiecesThanAreWantedTheFirstOnesAreGiven) {
+    Pieces pieces;
+    Ansi::SplitInto(pieces, "a|b|c", '|', 2);
+    EXPECT_EQ(pieces, (Pieces{"a", "b"}));
+    Ansi::SplitInto(pieces, "a|b|c", '|', 3);
+    EXPECT_EQ(pieces, (Pieces{"a", "b", "c"}));
+    Ansi::SplitInto(pieces, "a", '|', 2);
+    EXPECT_EQ(pieces, Pieces{"a"});
+}
+
 } // namespace

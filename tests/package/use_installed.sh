@@ -12,24 +12,9 @@ if [ -z "${QUEXAL_ON_XVFB-}" ]; then
     QUEXAL_ON_XVFB=1 exec xvfb-run -a -s "-screen 0 1366x768x24" "$0" "$root" "$user" "$word"
 fi
 
-work=$(mktemp -d)
 home=$root/home/$user
-# shellcheck disable=SC2317 # called by the trap
-cleanup() {
-    jobs -p | xargs -r kill 2>/dev/null || true
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
-fail() {
-    echo "use_installed: $*" >&2
-    [ -z "${QUEXAL_PICTURE-}" ] || import -window root "$QUEXAL_PICTURE"
-    xdotool search --onlyvisible --name . getwindowname %@ >&2 2>/dev/null || true
-    cat "$work/editor.log" >&2 || true
-    exit 1
-}
-# shellcheck source=tests/program/keyboard.sh
-. "$(dirname "$(readlink -f "$0")")/../program/keyboard.sh"
+# shellcheck source=tests/program/session.sh
+. "$(dirname "$(readlink -f "$0")")/../program/session.sh"
 
 entry=$root/usr/share/applications/quexal-editor.desktop
 command=$(sed -n 's/^Exec=//p' "$entry")

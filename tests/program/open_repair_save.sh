@@ -10,26 +10,9 @@ if [ -z "${QUEXAL_ON_XVFB-}" ]; then
     QUEXAL_ON_XVFB=1 exec xvfb-run -a -s "-screen 0 1366x768x24" "$0" "$editor" "$gazetteer"
 fi
 
-work=$(mktemp -d)
-# shellcheck disable=SC2317 # called by the trap
-cleanup() {
-    jobs -p | xargs -r kill 2>/dev/null || true
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
-fail() {
-    echo "open_repair_save: $*" >&2
-    [ -z "${QUEXAL_PICTURE-}" ] || import -window root "$QUEXAL_PICTURE"
-    xdotool search --onlyvisible --name . getwindowname %@ >&2 2>/dev/null || true
-    exit 1
-}
+# shellcheck source=tests/program/session.sh
+. "$(dirname "$(readlink -f "$0")")/session.sh"
 
-# shellcheck source=tests/program/keyboard.sh
-. "$(dirname "$(readlink -f "$0")")/keyboard.sh"
-
-unset QT_QPA_PLATFORM # a real X server is meant, whatever else is asked for outside
-export HOME=$work XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
 # A last variation that is only a mark: removing it gives back the file as it was.
 sed '3s/\r$/|%\r/' "$gazetteer" >"$work/damaged.txt"
 cmp -s "$work/damaged.txt" "$gazetteer" && fail "the null variation was not added"
