@@ -55,6 +55,9 @@ std::string Rewritten(const RecoveryFile& file) {
     for (const SlotChange& change : file.changes) {
         content += RecoveryRecord(change.lLine, change.lSlot, change.sText);
     }
+    if (file.savedAs) {
+        content += SavingRecord(*file.savedAs);
+    }
     return content;
 }
 
@@ -70,7 +73,7 @@ void OpenWith(const std::string& leftOver) {
 
 // Changes without checksums to begin with, since no mutation would get past those.
 RecoveryFile ChangesIn(std::string_view bytes) {
-    RecoveryFile file{IdentityOf("/data", DataFile), {}};
+    RecoveryFile file{IdentityOf("/data", DataFile), {}, std::nullopt};
     while (bytes.size() >= 3) {
         const auto length = std::min<std::size_t>(static_cast<unsigned char>(bytes[2]) % 40, bytes.size() - 3);
         file.changes.push_back({bytes[0] % 5, bytes[1] % 6, std::string(bytes.substr(3, length))});

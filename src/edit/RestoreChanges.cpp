@@ -109,6 +109,11 @@ bool IsWanted(Desktop& desktop, const LeftOver& leftOver) {
                           BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
 }
 
+// Whether the open file is what the editor of the changes saved before it was stopped, so that they are all in it.
+bool AreSaved(const RecoveryFile& leftOver) {
+    return leftOver.savedAs && leftOver.savedAs->HasBytesOf(Unsaved.File());
+}
+
 // Whether a left-over file holds nothing that another does not. Its editor was stopped while it took the
 // changes of the one over into the other.
 bool IsPartOf(const RecoveryFile& part, const RecoveryFile& whole) {
@@ -144,6 +149,8 @@ std::vector<const LeftOver*> AskFor(Desktop& desktop, std::span<const LeftOver> 
             TellSetAside(desktop, leftOver, "The recovery file with " + changes + " is damaged.");
         } else if (leftOver.file->changes.empty() || std::any_of(asked.begin(), asked.end(), holdsIt)) {
             Drop(desktop.State(), leftOver);
+        } else if (AreSaved(*leftOver.file)) {
+            SetAside(desktop.State(), leftOver); // the saved file's name may not be on the disk yet
         } else if (!leftOver.file->file.HasBytesOf(Unsaved.File())) {
             TellSetAside(desktop, leftOver, "There are " + changes + " to an earlier state of this file.");
         } else if (!FitsTable(leftOver.file->changes)) {

@@ -51,6 +51,7 @@ void SaveDistrictFile(Desktop& desktop) {
     }
     desktop.ShowBusy(true);
     const std::string content = Encoded(DistrictFileContent(), eFileEncoding);
+    Unsaved.NoteSaving(desktop, *path, content);
     const bool saved = desktop.ReplaceFile(*path, content);
     if (saved) {
         Unsaved.Remove(desktop);

@@ -11,6 +11,7 @@ namespace {
 constexpr std::string_view FirstLine = "Quexal Editor, unsaved changes, version 1";
 constexpr std::size_t CheckLength = 16;
 constexpr char LineEnd = '\n';
+constexpr std::string_view Saving = "saving "; // in the place of a line number
 constexpr int Hexadecimal = 16;
 
 std::string Hex(XXH64_hash_t number) {
@@ -83,7 +84,11 @@ bool TakeNumber(std::string_view& rest, Number& number) {
     return error == std::errc() && end == word.data() + word.size();
 }
 
-std::optional<FileIdentity> ParseHeader(std::string_view body) {
+std::string Identity(const FileIdentity& file) {
+    return std::to_string(file.size) + ' ' + file.sDigest + ' ' + Escaped(file.sPath);
+}
+
+std::optional<FileIdentity> ParseIdentity(std::string_view body) {
     FileIdentity file;
     if (!TakeNumber(body, file.size)) {
         return std::nullopt;
@@ -97,7 +102,7 @@ std::optional<FileIdentity> ParseHeader(std::string_view body) {
     return file;
 }
 
-std::optional<SlotChange> ParseRecord(std::string_view body) {
+std::optional<SlotChange> ParseChange(std::string_view body) {
     SlotChange change;
     std::size_t length = 0;
     if (!TakeNumber(body, change.lLine) || !TakeNumber(body, change.lSlot) || !TakeNumber(body, length)) {
@@ -109,6 +114,20 @@ std::optional<SlotChange> ParseRecord(std::string_view body) {
     }
     change.sText = std::move(*text);
     return change;
+}
+
+// Adds what a line says; returns false when it says nothing that is known.
+bool AddRecord(RecoveryFile& recovery, std::string_view body) {
+    if (body.starts_with(Saving)) {
+        recovery.savedAs = ParseIdentity(body.substr(Saving.size()));
+        return recovery.savedAs.has_value();
+    }
+    auto change = ParseChange(body);
+    if (change) {
+        recovery.changes.push_back(std::move(*change));
+        recovery.savedAs.reset(); // it lacks this one
+    }
+    return change.has_value();
 }
 
 // The lines that have an end.
@@ -125,13 +144,16 @@ FileIdentity IdentityOf(std::string_view path, std::string_view bytes) {
 }
 
 std::string RecoveryHeader(const FileIdentity& file) {
-    return std::string(FirstLine) + LineEnd +
-           Checked(std::to_string(file.size) + ' ' + file.sDigest + ' ' + Escaped(file.sPath));
+    return std::string(FirstLine) + LineEnd + Checked(Identity(file));
 }
 
 std::string RecoveryRecord(std::int32_t line, std::int32_t slot, std::string_view text) {
     return Checked(std::to_string(line) + ' ' + std::to_string(slot) + ' ' + std::to_string(text.size()) + ' ' +
                    Escaped(text));
+}
+
+std::string SavingRecord(const FileIdentity& file) {
+    return Checked(std::string(Saving) + Identity(file));
 }
 
 std::optional<RecoveryFile> ParseRecoveryFile(std::string_view content) {
@@ -145,18 +167,16 @@ std::optional<RecoveryFile> ParseRecoveryFile(std::string_view content) {
         return std::nullopt;
     }
     const auto header = BodyOf(nextLine());
-    auto file = header ? ParseHeader(*header) : std::nullopt;
+    auto file = header ? ParseIdentity(*header) : std::nullopt;
     if (!file) {
         return std::nullopt;
     }
-    RecoveryFile recovery{std::move(*file), {}};
+    RecoveryFile recovery{std::move(*file), {}, std::nullopt};
     while (!rest.empty()) {
         const auto body = BodyOf(nextLine());
-        auto change = body ? ParseRecord(*body) : std::nullopt;
-        if (!change) {
+        if (!body || !AddRecord(recovery, *body)) {
             return std::nullopt;
         }
-        recovery.changes.push_back(std::move(*change));
     }
     return recovery;
 }

@@ -36,15 +36,18 @@ struct SlotChange {
 struct RecoveryFile {
     FileIdentity file;
     std::vector<SlotChange> changes; // in the order in which they were made
+    // What was to be saved with all of these changes in it, under whichever name. When it is there, they are.
+    std::optional<FileIdentity> savedAs;
 };
 
 // What identifies a file with these bytes. The digest is XXH3 of 128 bits, which tells versions of a
 // file apart at the speed of memory; it does not protect from somebody who forges one.
 [[nodiscard]] FileIdentity IdentityOf(std::string_view path, std::string_view bytes);
 
-// The beginning of a recovery file, and what each change adds to it.
+// The beginning of a recovery file, and what each change and each attempt to save adds to it.
 [[nodiscard]] std::string RecoveryHeader(const FileIdentity& file);
 [[nodiscard]] std::string RecoveryRecord(std::int32_t line, std::int32_t slot, std::string_view text);
+[[nodiscard]] std::string SavingRecord(const FileIdentity& file);
 
 // A recovery file from its bytes; nothing when it is damaged, or is none. A last line without its end
 // was never written whole and does not count, nor do zero bytes that a power cut left at the end.

@@ -64,6 +64,13 @@ void UnsavedChanges::NoteInFile(std::int32_t line, std::int32_t slot, std::strin
     m_content += RecoveryRecord(line, slot, text);
 }
 
+void UnsavedChanges::NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes) {
+    if (!m_content.empty()) {
+        m_content += SavingRecord(IdentityOf(desktop.TruePath(path), bytes));
+        Write(desktop);
+    }
+}
+
 std::vector<std::string> UnsavedChanges::FieldsAsRead(std::int32_t line) const {
     const auto fields = m_fields.find(line);
     return fields == m_fields.end() ? std::vector<std::string>() : fields->second;

@@ -33,6 +33,10 @@ public:
     // fails, the user is told, once for every file, and the next call tries again.
     void Write(Desktop& desktop);
 
+    // The table is about to be saved as these bytes, under any name. Should the editor be stopped between that and
+    // Remove, the changes are then known to be in the file.
+    void NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes);
+
     // What is noted and not yet written holds what this left-over file does. Its lock is taken over; the
     // file goes when it is not needed any more.
     void TakeOver(const std::string& leftOver) { m_takenOver.push_back(leftOver); }

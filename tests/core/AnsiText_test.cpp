@@ -56,7 +56,7 @@ TEST(AnsiSplit, ATextWithoutSeparatorsIsOnePiece) {
     EXPECT_EQ(Ansi::Split("", '|'), Pieces{""});
 }
 
-TEST(AnsiText, OfMorePiecesThanAreWantedTheFirstOnesAreGiven) {
+TEST(AnsiSplit, OfMorePiecesThanAreWantedTheFirstOnesAreGiven) {
     Pieces pieces;
     Ansi::SplitInto(pieces, "a|b|c", '|', 2);
     EXPECT_EQ(pieces, (Pieces{"a", "b"}));

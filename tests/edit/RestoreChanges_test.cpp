@@ -172,6 +172,32 @@ TEST_F(RestoreChangesTest, OfAnEarlierStateAreSetAside) {
     EXPECT_EQ(desktop.state.Kept(), Texts{"1002.aside"});
 }
 
+TEST_F(RestoreChangesTest, ThatTheFileHasSinceTheyWereSavedAreSetAsideUnasked) {
+    Leave({{1, 2, "Fir"}}, "bytes of yesterday");
+    std::string& leftOver = desktop.state.storage->files["0001.changes"];
+    leftOver += SavingRecord(IdentityOf("/data/whatever.txt", Content));
+    Open();
+    ExpectUntouched();
+    EXPECT_EQ(desktop.state.Kept(), Texts{"1002.aside"});
+}
+
+TEST_F(RestoreChangesTest, MadeAfterAnAttemptToSaveAreNotTakenForSaved) {
+    Leave({{1, 2, "Fir"}}, "bytes of yesterday");
+    std::string& leftOver = desktop.state.storage->files["0001.changes"];
+    leftOver += SavingRecord(IdentityOf(DataFilePath, Content)) + RecoveryRecord(1, 3, "Larch");
+    ExpectSetAside("There are unsaved changes of 05 Mar 2026 14:07 to an earlier state of this file.");
+    Open();
+    ExpectUntouched();
+}
+
+TEST_F(RestoreChangesTest, OfASaveThatDidNotComeAboutAreOffered) {
+    Leave({{1, 2, "Fir"}});
+    desktop.state.storage->files["0001.changes"] += SavingRecord(IdentityOf(DataFilePath, "never written"));
+    ExpectQuestion(BoxAnswer::Yes);
+    Open();
+    EXPECT_EQ(VariationAt(1, 2).Text, "Fir");
+}
+
 TEST_F(RestoreChangesTest, ThatAreDamagedAreSetAside) {
     Leave({{1, 2, "Fir"}, {1, 1, "Larch"}});
     desktop.state.storage->files["0001.changes"][70] ^= 1;

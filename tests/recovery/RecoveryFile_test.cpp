@@ -36,6 +36,20 @@ TEST(RecoveryFile, MayHaveNoChangesYet) {
     EXPECT_EQ(read->changes, Changes());
 }
 
+TEST(RecoveryFile, SaysAsWhatAllOfItsChangesWereToBeSaved) {
+    const FileIdentity first{"/data/first.txt", 5, "00112233445566778899aabbccddeeff"};
+    const FileIdentity last{"/data/last\n.txt", 6, "00112233445566778899aabbccddeefe"};
+    const std::string saving = Written(Several) + SavingRecord(first) + SavingRecord(last);
+    const auto read = ParseRecoveryFile(saving);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->changes, Several);
+    EXPECT_EQ(read->savedAs, last);
+    const auto changedAgain = ParseRecoveryFile(saving + RecoveryRecord(1, 1, "Yew"));
+    ASSERT_TRUE(changedAgain);
+    EXPECT_EQ(changedAgain->changes.size(), Several.size() + 1);
+    EXPECT_EQ(changedAgain->savedAs, std::nullopt);
+}
+
 TEST(RecoveryFile, KeepsEveryByteOfATextAndOfAPath) {
     std::string all;
     for (int byte = 0; byte < 256; ++byte) {

@@ -109,6 +109,16 @@ TEST_F(UnsavedChangesTest, AfterARemovalAreNotNotedSinceTheyWouldNotFit) {
     EXPECT_TRUE(desktop.state.Names().empty());
 }
 
+TEST_F(UnsavedChangesTest, NameTheFileThatIsToHaveThem) {
+    Unsaved.NoteSaving(desktop, Path, "nothing has changed");
+    EXPECT_TRUE(desktop.state.Names().empty());
+    Store(1, "Fir");
+    Unsaved.NoteSaving(desktop, "/data/new.txt", "new bytes");
+    EXPECT_EQ(OnDisk()->savedAs, IdentityOf("/data/new.txt", "new bytes"));
+    Store(1, "Larch");
+    EXPECT_EQ(OnDisk()->savedAs, std::nullopt);
+}
+
 TEST_F(UnsavedChangesTest, ThatAreReleasedAreLeftOver) {
     Store(1, "Fir");
     Unsaved.Release(desktop);
