@@ -21,7 +21,10 @@ std::string ReportFileName(std::string_view dataFile) {
 }
 
 void PrintReport(const Report& report, const std::string& dataFile, Desktop& desktop) {
-    if (!desktop.Print(ReportLines(report, dataFile, desktop))) {
+    desktop.ShowBusy(true);
+    const bool isPrinted = desktop.Print(ReportLines(report, dataFile, desktop));
+    desktop.ShowBusy(false);
+    if (!isPrinted) {
         desktop.MsgBox("The list cannot be printed: there is no printer, or it did not accept the job.",
                        BoxIcon::Exclamation);
     }

@@ -9,13 +9,16 @@
 namespace Commands {
 
 void Run(Desktop& desktop, const std::function<void()>& command) {
-    if (LongWork::IsPainting()) {
-        return;
+    if (!LongWork::IsPainting()) {
+        Show(desktop, command);
     }
+}
+
+void Show(Desktop& desktop, const std::function<void()>& update) {
     try {
-        command();
+        update();
     } catch (const std::bad_alloc&) {
-        CommonRoutines::Unsaved.Write(desktop); // whatever the command has changed before
+        CommonRoutines::Unsaved.Write(desktop); // whatever a command has changed before
         desktop.ShowBusy(false);
         desktop.MsgBox("There is not enough memory for that.", BoxIcon::Critical);
     }

@@ -12,4 +12,7 @@ namespace Commands {
 // as a screen reader's may, is left out.
 void Run(Desktop& desktop, const std::function<void()>& command);
 
+// The same for what only shows the table as it is, which is also done while a window is painted.
+void Show(Desktop& desktop, const std::function<void()>& update);
+
 } // namespace Commands

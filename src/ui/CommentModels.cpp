@@ -40,11 +40,12 @@ QVariant CommentModel::headerData(int section, Qt::Orientation orientation, int 
 
 void CommentTypeModel::Refresh() {
     beginResetModel();
+    m_count = static_cast<int>(CommentTypes.Items().size());
     endResetModel();
 }
 
 int CommentTypeModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(CommentTypes.Items().size());
+    return parent.isValid() ? 0 : m_count;
 }
 
 QVariant CommentTypeModel::data(const QModelIndex& index, int role) const {

@@ -29,10 +29,13 @@ class CommentTypeModel : public QAbstractListModel {
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    // CommentTypes has changed.
+    // CommentTypes has changed. Until this is called, types that are being added do not count.
     void Refresh();
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    int m_count = static_cast<int>(CommonRoutines::CommentTypes.Items().size());
 };

@@ -66,7 +66,7 @@ QVariant DistrictModel::data(const QModelIndex& index, int role) const {
         return StateColours::InList(problem ? VariationState::Invalid : VariationState::Plain,
                                     QGuiApplication::palette());
     case Qt::AccessibleTextRole:
-        return problem && index.column() == 0 ? text + tr(", has problems") : text;
+        return problem ? text + tr(", has problems") : text;
     case Qt::ToolTipRole:
         return Text::ForToolTip(problem ? text + tr(" - this district has problems") : text);
     default:

@@ -18,6 +18,7 @@
 #include "ui/VariationModel.h"
 #include "ui/WindowFit.h"
 
+#include <QAccessibleWidget>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QMimeData>
@@ -33,9 +34,16 @@ namespace {
 
 constexpr QSize DesignSize(1240, 680);
 
+// A bare widget would be a nameless part of a window to a screen reader.
+QAccessibleInterface* AccessibleWindow(const QString& /*className*/, QObject* object) {
+    auto* form = dynamic_cast<Form1*>(object);
+    return form == nullptr ? nullptr : new QAccessibleWidget(form, QAccessible::Window);
+}
+
 } // namespace
 
 Form1::Form1(Desktop& desktop) : m_desktop(desktop), m_controls(this) {
+    QAccessible::installFactory(&AccessibleWindow);
     setObjectName(QStringLiteral("Form1"));
     setWindowTitle(QStringLiteral("Quexal Editor"));
     resize(DesignSize);
@@ -115,13 +123,14 @@ void Form1::ConnectLists() {
         SizeCommentColumn();
         // A filter may have cleared the comments since the district was chosen.
         if (m_comments->rowCount() > 0) {
-            Run(&Form1::ShowDistrictComments);
+            Commands::Show(m_desktop, [this] { ShowDistrictComments(); });
         }
     });
-    connect(m_changes, &ChangeModel::Ticked, this, &Form1::ChangeTicked);
-    connect(m_changes, &ChangeModel::TickRefused, this, &Form1::ChangeTickRefused);
+    connect(m_changes, &ChangeModel::Ticked, this, [this] { Run(&Form1::ChangeTicked); });
+    connect(m_changes, &ChangeModel::TickRefused, this, [this] { Run(&Form1::ChangeTickRefused); });
     connect(m_controls.LvChanges, &QAbstractItemView::pressed, this, [this] { m_tickedByClick = false; });
-    connect(m_controls.LvChanges, &QAbstractItemView::clicked, this, &Form1::ChangeRowClicked);
+    connect(m_controls.LvChanges, &QAbstractItemView::clicked, this,
+            [this](const QModelIndex& index) { Commands::Run(m_desktop, [&] { ChangeRowClicked(index); }); });
 }
 
 void Form1::AddShortcuts() {
@@ -137,6 +146,9 @@ void Form1::AddShortcuts() {
     auto* deleteKey = new QShortcut(QKeySequence::Delete, m_controls.lvVariations);
     deleteKey->setContext(Qt::WidgetShortcut);
     connect(deleteKey, &QShortcut::activated, m_controls.cbDelete, &QPushButton::click);
+    auto* escapeKey = new QShortcut(Qt::Key_Escape, m_controls.lvVariations);
+    escapeKey->setContext(Qt::WidgetShortcut);
+    connect(escapeKey, &QShortcut::activated, this, [this] { Run(&Form1::LeaveVariations); });
     connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, this, [this] {
         if (m_controls.tbEdit->isEnabled()) {
             m_controls.tbEdit->setFocus(Qt::ShortcutFocusReason);
@@ -221,7 +233,8 @@ void Form1::ShowHints() {
                                          ? tr("This district has no variations: press Add to enter one")
                                          : tr("Choose a district to see its variations"));
     m_controls.LvChanges->SetHint(tr("Process File shows proposals here"));
-    m_controls.lvComments->SetHint(IsDistrict(lCurrentDistrict) ? tr("This district has no comments") : QString());
+    m_controls.lvComments->SetHint(IsDistrict(lCurrentDistrict) ? tr("This district has no comments")
+                                                                : tr("Choose a district to see its comments"));
 }
 
 void Form1::FitWindowToScreen() {

@@ -84,6 +84,7 @@ private:
     void AddClicked();
     void OkClicked();
     void CancelClicked();
+    void LeaveVariations();
     void DeleteClicked();
     void ShriekClicked();
     void DateClicked();

@@ -35,12 +35,13 @@ void Form1::ProcessClicked() {
     RememberFolder(*path, Settings::ChangeFolder);
     m_desktop.ShowBusy(true);
     const auto content = m_desktop.ReadFile(*path);
-    m_desktop.ShowBusy(false);
     if (!content) {
+        m_desktop.ShowBusy(false);
         m_desktop.MsgBox("The file cannot be read:\r\n" + Ansi::FromUtf8(*path), BoxIcon::Exclamation);
         return;
     }
     ChangeList changes = ReadChanges(*content);
+    m_desktop.ShowBusy(false);
     const std::string summary = changes.Summary();
     ShowChanges(std::move(changes.rows));
     iEditMode = DistrictIdle;
@@ -48,6 +49,7 @@ void Form1::ProcessClicked() {
     if (!summary.empty()) {
         ShowWhyError(summary, VariationState::Plain);
     }
+    m_controls.LvChanges->setFocus();
 }
 
 void Form1::ShowChanges(std::vector<ChangeRow> rows) {
@@ -120,6 +122,7 @@ void Form1::EditSelClicked() {
     if (ticked != rows.end()) {
         PutIntoEditBox(ticked->sText);
         EditTextChanged();
+        m_controls.tbEdit->setFocus();
     }
 }
 

@@ -104,6 +104,13 @@ void Form1::CancelClicked() {
     m_controls.lvAlpha->setFocus();
 }
 
+// As "Cancel" does, which is disabled while several variations are chosen.
+void Form1::LeaveVariations() {
+    if (iEditMode == OneSelected || iEditMode == SeveralSelected) {
+        CancelClicked();
+    }
+}
+
 void Form1::ReturnToIdle() {
     ResetEditPanel();
     iEditMode = DistrictIdle;

@@ -55,6 +55,7 @@ void PlainLabel::ShowText(const QString& text) {
 
 void PlainLabel::Describe(const QString& text) {
     setToolTip(text.isEmpty() ? QString() : Text::ForToolTip(text));
+    setAccessibleDescription(m_purpose); // otherwise the tooltip is read out, with its mark-up
     setAccessibleName(text.isEmpty() ? m_purpose : m_purpose + QStringLiteral(": ") + text);
 }
 

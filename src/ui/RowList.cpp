@@ -272,9 +272,20 @@ void RowList::keyPressEvent(QKeyEvent* event) {
 void RowList::SetHint(const QString& hint) {
     if (hint != m_hint) {
         m_hint = hint;
-        setAccessibleDescription(hint);
+        DescribeEmptiness();
         viewport()->update();
     }
+}
+
+void RowList::setModel(QAbstractItemModel* newModel) {
+    QTreeView::setModel(newModel);
+    connect(newModel, &QAbstractItemModel::modelReset, this, &RowList::DescribeEmptiness);
+    DescribeEmptiness();
+}
+
+// What is painted in an empty list is also what a screen reader says of it, and only then.
+void RowList::DescribeEmptiness() {
+    setAccessibleDescription(model() != nullptr && model()->rowCount() == 0 ? m_hint : QString());
 }
 
 void RowList::paintEvent(QPaintEvent* event) {

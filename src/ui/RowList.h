@@ -14,6 +14,8 @@ class RowList : public QTreeView {
 public:
     explicit RowList(QWidget* parent = nullptr);
 
+    void setModel(QAbstractItemModel* newModel) override;
+
     // The numbers of the selected rows, in list order.
     [[nodiscard]] std::vector<int> SelectedRows() const;
 
@@ -54,12 +56,13 @@ private:
     [[nodiscard]] bool HandleColumnKey(const QKeyEvent& event);
     void MarkColumn(int column);
     void UpdateFocusMarks();
+    void DescribeEmptiness();
 
     class Header;
 
     Header* m_header;
     int m_column = 0; // at hand
-    QString m_typed; // of the row that is looked for, as long as the next letter comes in time
+    QString m_typed;  // of the row that is looked for, as long as the next letter comes in time
     QElapsedTimer m_lastTyped;
     QString m_hint;
     bool m_announced = false; // since the mouse was pressed

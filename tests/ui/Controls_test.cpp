@@ -3,6 +3,7 @@
 #include "FormTest.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QCheckBox>
 #include <QFrame>
 #include <QHeaderView>
@@ -182,4 +183,30 @@ TEST_F(FormTest, TabLeadsThroughTheControlsAndOutOfTheLists) {
     }
     EXPECT_EQ(visited.join(QLatin1Char(' ')),
               QStringLiteral("lvVariations cbAdd cbVariation cbSpelling cbValidinyears cbVNF"));
+}
+
+TEST_F(FormTest, AHintIsReadOutOnlyWhileItsListIsEmpty) {
+    const auto hint = [&](const char* list) { return Find<RowList>(list).accessibleDescription(); };
+    EXPECT_FALSE(hint("lvAlpha").isEmpty());
+    OpenContent("#QX_NOTE Of Alpha\r\n" + HeaderOf("Alpha") + "|Alfa\r\n");
+    EXPECT_TRUE(hint("lvAlpha").isEmpty());
+    EXPECT_TRUE(hint("lbComments").isEmpty());
+    for (const char* list : {"lvVariations", "lvComments", "LvChanges"}) {
+        EXPECT_EQ(hint(list), Find<RowList>(list).Hint()) << list;
+        EXPECT_FALSE(hint(list).isEmpty()) << list;
+    }
+    ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    EXPECT_TRUE(hint("lvVariations").isEmpty());
+}
+
+TEST_F(FormTest, LabelsAreReadOutWithoutMarkup) {
+    OpenContent(HeaderOf("Alpha") + "|Alfa\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    QAccessibleInterface* label = QAccessible::queryAccessibleInterface(&Find<QLabel>("lbApplyTo"));
+    EXPECT_EQ(label->text(QAccessible::Name), QStringLiteral("Current district: Alpha"));
+    EXPECT_EQ(label->text(QAccessible::Description), QStringLiteral("Current district"));
+}
+
+TEST_F(FormTest, TheWindowIsOneToScreenReaders) {
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(form.get())->role(), QAccessible::Window);
 }

@@ -142,6 +142,34 @@ TEST_F(EditingTest, CtrlOAndCtrlSAreIgnoredWhileTheirButtonsAreDisabled) {
     EXPECT_EQ(iEditMode, OneSelected);
 }
 
+TEST_F(EditingTest, EscInTheListEndsTheChoiceOfVariations) {
+    OpenDistrict();
+    Select(QStringLiteral("Alfa"));
+    EXPECT_FALSE(Enabled("cbOpen"));
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(iEditMode, DistrictIdle);
+    EXPECT_TRUE(Enabled("cbOpen"));
+    EXPECT_EQ(EditText(), QString());
+    Select(QStringLiteral("Alfa"));
+    Select(QStringLiteral("Betta"), Qt::ControlModifier);
+    EXPECT_EQ(iEditMode, SeveralSelected);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(iEditMode, DistrictIdle);
+}
+
+TEST_F(EditingTest, ProposalsGetTheFocusWhenTheyAreReadAndTheEditBoxWhenOneIsEdited) {
+    OpenDistrict();
+    Process("Alvah\r\nAlfar\r\n");
+    EXPECT_EQ(Focus(), "LvChanges");
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Space);
+    EXPECT_EQ(Ticked(), QStringList{QStringLiteral("Alvah")});
+    Find<QPushButton>("cbEditSel").setFocus();
+    Press(Qt::Key_Space);
+    EXPECT_EQ(Focus(), "tbEdit");
+    EXPECT_EQ(EditText(), QStringLiteral("Alvah"));
+}
+
 TEST_F(EditingTest, AButtonThatItsCommandDisablesGivesTheFocusToItsList) {
     OpenDistrict();
     Select(QStringLiteral("Alfa"));

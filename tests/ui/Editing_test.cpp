@@ -339,3 +339,14 @@ TEST_F(EditingTest, WhileATextIsEditedSpellingStaysAsClickedAndVariationDoesNot)
     EXPECT_EQ(desktop.beeps, 0);
     EXPECT_EQ(EditText(), QStringLiteral("!Gamma"));
 }
+
+TEST_F(EditingTest, ADistrictWhoseDuplicatesAreDeletedIsNoLongerRed) {
+    OpenDistrict("|Cold Elm|!Cold elm|Oak");
+    EXPECT_NE(RowColour("lvAlpha", QStringLiteral("Alpha")), RowColour("lvAlpha", QStringLiteral("Beta")));
+    Select(QStringLiteral("Cold Elm"));
+    Select(QStringLiteral("!Cold elm"), Qt::ControlModifier);
+    ExpectDeleteQuestion("these 2 variations?");
+    Click("cbDelete");
+    EXPECT_EQ(Column("lvVariations"), QStringList{QStringLiteral("Oak")});
+    EXPECT_EQ(RowColour("lvAlpha", QStringLiteral("Alpha")), RowColour("lvAlpha", QStringLiteral("Beta")));
+}
