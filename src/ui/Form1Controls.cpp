@@ -136,6 +136,11 @@ void Form1Controls::CreateEditRow() {
     tbEdit->setObjectName(Name("tbEdit"));
     tbEdit->setAccessibleName(QObject::tr("Variation text"));
     tbEdit->setToolTip(QObject::tr("The variation with its markers (F2)"));
+    for (QWidget* box : std::initializer_list<QWidget*>{cbVariation, cbSpelling, cbValidinyears, cbVNF, tbEdit}) {
+        QPalette outlined;
+        outlined.setColor(QPalette::Window, StateColours::ShadedToOutline);
+        box->setPalette(outlined);
+    }
     cbOk = Button("cbOk", QObject::tr("Ok"), QObject::tr("Store the text (Enter)"));
     cbCancel = Button("cbCancel", QObject::tr("Cancel"), QObject::tr("Give up the text (Esc)"));
     lbStatus = Status("lbStatus", QObject::tr("Status of the text"), 3);

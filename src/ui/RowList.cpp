@@ -26,6 +26,14 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, RowPadding);
     }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->features.testFlag(QStyleOptionViewItem::HasCheckIndicator)) {
+            option->palette.setColor(QPalette::Window, StateColours::ShadedToOutline);
+        }
+    }
 };
 
 } // namespace

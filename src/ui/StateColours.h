@@ -19,6 +19,10 @@ inline constexpr QColor BlueGreen(0, 255, 255);
 // and the palette's own where there is nothing to say.
 [[nodiscard]] QColor InList(CommonRoutines::VariationState state, const QPalette& palette);
 
+// Boxes to tick and to write in are outlined in a darker shade of the window's colour, which cannot be seen on a
+// dark ground. With this for the window's colour it is a grey that stands out from light and dark grounds.
+inline constexpr QColor ShadedToOutline(165, 165, 165);
+
 // The grey of what an empty list says: between the text and the background, but well legible.
 [[nodiscard]] QColor Hint(const QPalette& palette);
 

@@ -87,3 +87,11 @@ TEST(StateColoursTest, AHintIsGreyAndLegible) {
         EXPECT_EQ(hint.saturation(), 0);
     }
 }
+
+TEST(StateColoursTest, TheOutlineOfABoxStandsOutFromLightAndDarkGrounds) {
+    constexpr int fusionShade = 140; // what the style makes of it, in per cent
+    const QColor outline = StateColours::ShadedToOutline.darker(fusionShade);
+    for (const QColor& ground : {QColor(Qt::white), QColor(30, 30, 30)}) {
+        EXPECT_GE(Contrast(outline, ground), 3) << ground.name().toStdString();
+    }
+}
