@@ -96,7 +96,8 @@ def row_named(tree, text):
     """The number of the row whose first cell says this."""
     table = tree.queryTable()
     for row in range(table.nRows):
-        if table.getAccessibleAt(row, 0).name.startswith(text):
+        cell = table.getAccessibleAt(row, 0)
+        if cell and cell.name.startswith(text):  # none: the list has just been filled anew
             return row
     return None
 
