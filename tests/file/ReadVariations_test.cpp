@@ -1,3 +1,4 @@
+#include "file/DistrictFileWriter.h"
 #include "support/LowerCaseWords.h"
 #include "support/Reading.h"
 #include "support/Table.h"
@@ -61,6 +62,12 @@ TEST_F(ReadVariationsTest, ATrailingBarIsABlankVariation) {
     ExpectReport({Blanks(1, "Ash"), NoCapitals});
     Read(HeaderOf("Ash") + "|Elm|\n");
     EXPECT_EQ(Texts(1), (std::vector<std::string>{"Elm", "\t"}));
+}
+
+TEST_F(ReadVariationsTest, AVariationThatTheTrimmedLineMakesALoneTabIsADeletedOne) {
+    Read(HeaderOf("Ash") + "|Elm|\t \n");
+    EXPECT_EQ(Texts(1), (std::vector<std::string>{"Elm", "\t"}));
+    EXPECT_EQ(DistrictFileContent(), HeaderOf("Ash") + "|Elm\r\n");
 }
 
 TEST_F(ReadVariationsTest, OnceABlankVariationHasBeenMetEveryLaterLineButABlankOneRepeatsTheCount) {
