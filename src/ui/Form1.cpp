@@ -34,6 +34,15 @@ namespace {
 
 constexpr QSize DesignSize(1240, 680);
 
+// The list whose rows a button works on.
+RowList* ListBeside(const QWidget& button, const Form1Controls& controls) {
+    const QWidget* frame = button.parentWidget();
+    if (frame == controls.cbAdd->parentWidget()) {
+        return controls.lvVariations;
+    }
+    return frame == controls.cbApplyAll->parentWidget() ? controls.LvChanges : controls.lvAlpha;
+}
+
 // A bare widget would be a nameless part of a window to a screen reader.
 QAccessibleInterface* AccessibleWindow(const QString& /*className*/, QObject* object) {
     auto* form = dynamic_cast<Form1*>(object);
@@ -184,7 +193,7 @@ void Form1::closeEvent(QCloseEvent* event) {
 // control comes next.
 bool Form1::focusNextPrevChild(bool next) {
     if (const QWidget* control = focusWidget(); control != nullptr && !control->isEnabled()) {
-        m_controls.ListBeside(control)->setFocus();
+        ListBeside(*control, m_controls)->setFocus();
         return true;
     }
     return QWidget::focusNextPrevChild(next);

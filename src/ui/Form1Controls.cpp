@@ -33,6 +33,12 @@ void KeepWidthFor(QPushButton* button, const QStringList& captions) {
     button->setText(present);
 }
 
+void Outline(QWidget* box) {
+    QPalette palette;
+    palette.setColor(QPalette::Window, StateColours::ShadedToOutline);
+    box->setPalette(palette);
+}
+
 // A sub-layout inside another, without margins of its own.
 template <typename Layout>
 Layout* Inner(QWidget* of = nullptr) {
@@ -81,6 +87,7 @@ QCheckBox* Form1Controls::OptionBox(const char* name, const QString& caption, co
     box->setObjectName(Name(name));
     box->setAccessibleName(caption);
     box->setToolTip(toolTip);
+    Outline(box);
     return box;
 }
 
@@ -136,11 +143,7 @@ void Form1Controls::CreateEditRow() {
     tbEdit->setObjectName(Name("tbEdit"));
     tbEdit->setAccessibleName(QObject::tr("Variation text"));
     tbEdit->setToolTip(QObject::tr("The variation with its markers (F2)"));
-    for (QWidget* box : std::initializer_list<QWidget*>{cbVariation, cbSpelling, cbValidinyears, cbVNF, tbEdit}) {
-        QPalette outlined;
-        outlined.setColor(QPalette::Window, StateColours::ShadedToOutline);
-        box->setPalette(outlined);
-    }
+    Outline(tbEdit);
     cbOk = Button("cbOk", QObject::tr("Ok"), QObject::tr("Store the text (Enter)"));
     cbCancel = Button("cbCancel", QObject::tr("Cancel"), QObject::tr("Give up the text (Esc)"));
     lbStatus = Status("lbStatus", QObject::tr("Status of the text"), 3);
@@ -343,12 +346,4 @@ QWidget* Form1Controls::Widget(CommonRoutines::Control control) const {
         cbApplyAll, cbApplyAllSpell, cbApplySelSpell, cbClearSel,       cbCompleteCheck,
         cbShriek,   cbDate,          lbComments,      cbEditSel};
     return widgets[static_cast<std::size_t>(control)];
-}
-
-RowList* Form1Controls::ListBeside(const QWidget* button) const {
-    const QWidget* frame = button->parentWidget();
-    if (frame == cbAdd->parentWidget()) {
-        return lvVariations;
-    }
-    return frame == cbApplyAll->parentWidget() ? LvChanges : lvAlpha;
 }

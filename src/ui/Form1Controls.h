@@ -23,9 +23,6 @@ public:
     // The control that a row of the mode table is about.
     [[nodiscard]] QWidget* Widget(CommonRoutines::Control control) const;
 
-    // The list whose rows a button works on.
-    [[nodiscard]] RowList* ListBeside(const QWidget* button) const;
-
     RowList* lvAlpha = nullptr;
     RowList* lvVariations = nullptr;
     RowList* LvChanges = nullptr;

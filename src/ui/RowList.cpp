@@ -243,9 +243,10 @@ void RowList::keyboardSearch(const QString& search) {
     m_typed = goesOn ? m_typed + search : search;
     m_lastTyped.start();
     const bool isOneLetter = m_typed.count(m_typed.front()) == m_typed.size();
-    int start = selectionModel()->hasSelection() ? currentIndex().row() : 0;
-    if (isOneLetter && selectionModel()->hasSelection()) {
-        start = (start + 1) % model()->rowCount(); // the same letter again means the next row
+    int start = 0;
+    if (selectionModel()->hasSelection()) {
+        // One letter, for the first time or again, means another row; more letters may still mean this one.
+        start = (currentIndex().row() + (isOneLetter ? 1 : 0)) % model()->rowCount();
     }
     const QModelIndexList found =
         model()->match(model()->index(start, 0), Qt::DisplayRole, isOneLetter ? m_typed.left(1) : m_typed, 1,
