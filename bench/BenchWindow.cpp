@@ -3,7 +3,7 @@
 #include "Figures.h"
 #include "core/State.h"
 #include "ui/Text.h"
-#include "ui/VarCheck.h"
+#include "ui/windows/VarCheck.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -14,6 +14,7 @@
 #include <algorithm>
 
 using namespace CommonRoutines;
+using namespace Ui;
 
 namespace {
 

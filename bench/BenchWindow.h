@@ -2,8 +2,8 @@
 
 #include "AnsweringDesktop.h"
 #include "PaintWatch.h"
-#include "ui/Form1.h"
-#include "ui/RowList.h"
+#include "ui/lists/RowList.h"
+#include "ui/windows/Form1.h"
 
 #include <QTemporaryDir>
 
@@ -30,7 +30,7 @@ public:
     [[nodiscard]] Widget& Find(const char* name) {
         return *m_form.findChild<Widget*>(QString::fromLatin1(name));
     }
-    [[nodiscard]] RowList& List(const char* name) { return Find<RowList>(name); }
+    [[nodiscard]] Ui::RowList& List(const char* name) { return Find<Ui::RowList>(name); }
 
     // Clicks on a button that must be enabled.
     void Click(const char* button);
@@ -63,8 +63,8 @@ public:
     AnsweringDesktop desktop;
 
 private:
-    void ShowReport(const Report& report, const std::function<void()>& onPainted);
+    void ShowReport(const CommonRoutines::Report& report, const std::function<void()>& onPainted);
 
     PaintWatch m_paints;
-    Form1 m_form;
+    Ui::Form1 m_form;
 };

@@ -3,7 +3,7 @@
 #include "core/Desktop.h"
 
 // A state folder into which nothing can be put.
-class NoStateFolder : public StateFolder {
+class NoStateFolder : public CommonRoutines::StateFolder {
 public:
     std::vector<std::string> Names() override { return {}; }
     std::string NewName() override { return "name"; }
@@ -14,7 +14,9 @@ public:
     }
     bool Rename(const std::string& /*name*/, const std::string& /*newName*/) override { return false; }
     bool Remove(const std::string& /*name*/) override { return false; }
-    LockResult Lock(const std::string& /*name*/) override { return LockResult::Impossible; }
+    CommonRoutines::LockResult Lock(const std::string& /*name*/) override {
+        return CommonRoutines::LockResult::Impossible;
+    }
     void Unlock(const std::string& /*name*/) override {}
     std::string PathOf(const std::string& name) override { return name; }
     std::string TimeOf(const std::string& name) override { return name; }
@@ -22,12 +24,13 @@ public:
 
 // A desktop without a person: one file in memory, and a choice for every repair taken in turn from a
 // list of answers, as are the texts that are typed.
-class QuietDesktop : public Desktop {
+class QuietDesktop : public CommonRoutines::Desktop {
 public:
     QuietDesktop(std::string content, std::string_view answers) : m_content(std::move(content)), m_answers(answers) {}
 
-    BoxAnswer MsgBox(std::string_view /*text*/, BoxIcon /*icon*/, BoxButtons /*buttons*/) override {
-        return BoxAnswer::Ok;
+    CommonRoutines::BoxAnswer MsgBox(std::string_view /*text*/, CommonRoutines::BoxIcon /*icon*/,
+                                     CommonRoutines::BoxButtons /*buttons*/) override {
+        return CommonRoutines::BoxAnswer::Ok;
     }
     std::string MyMsgBox(const std::string& /*Prompt*/, std::int32_t /*Img*/, const std::string& /*Title*/,
                          std::span<const std::string> ButtonCaptions) override {
@@ -38,13 +41,17 @@ public:
         // Every second text is a valid one: the question is asked until there is one.
         return ++m_inputs % 2 == 0 ? "Typed" : texts[NextAnswer() % texts.size()];
     }
-    void ShowReport(const Report& /*report*/) override {}
-    std::optional<std::string> ChooseFileToOpen(const FileRequest& /*request*/) override { return std::nullopt; }
-    std::optional<std::string> ChooseFileToSave(const FileRequest& /*request*/) override { return std::nullopt; }
+    void ShowReport(const CommonRoutines::Report& /*report*/) override {}
+    std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& /*request*/) override {
+        return std::nullopt;
+    }
+    std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& /*request*/) override {
+        return std::nullopt;
+    }
     std::optional<std::string> ReadFile(const std::string& /*path*/) override { return m_content; }
     bool ReplaceFile(const std::string& /*path*/, std::string_view /*content*/) override { return true; }
     std::string TruePath(const std::string& path) override { return path; }
-    StateFolder& State() override { return m_state; }
+    CommonRoutines::StateFolder& State() override { return m_state; }
     std::string ProgramFolder() override { return "/program"; }
     void EnterProgramFolder() override {}
     std::string GetSetting(std::string_view /*section*/, std::string_view /*key*/) override { return {}; }

@@ -1,5 +1,5 @@
-#include "ui/Form1.h"
-#include "ui/QtDesktop.h"
+#include "ui/machine/QtDesktop.h"
+#include "ui/windows/Form1.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -12,8 +12,8 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setDesktopFileName(QStringLiteral("quexal-editor"));
     QGuiApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("quexal-editor"), QIcon(QStringLiteral(":/quexal-editor.png"))));
-    QtDesktop desktop;
-    Form1 form(desktop);
+    Ui::QtDesktop desktop;
+    Ui::Form1 form(desktop);
     desktop.SetWindow(&form);
     form.LoadForm();
     form.show();

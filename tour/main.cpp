@@ -4,9 +4,9 @@
 
 #include "DialogueGuide.h"
 
-#include "ui/Form1.h"
-#include "ui/QtDesktop.h"
-#include "ui/RowList.h"
+#include "ui/lists/RowList.h"
+#include "ui/machine/QtDesktop.h"
+#include "ui/windows/Form1.h"
 
 #include <QApplication>
 #include <QDir>
@@ -19,6 +19,8 @@
 
 #include <cstdio>
 #include <string_view>
+
+using namespace Ui;
 
 namespace {
 

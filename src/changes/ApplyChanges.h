@@ -6,9 +6,9 @@
 #include <optional>
 #include <span>
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 // What became of the proposals.
 struct AppliedChanges {

@@ -2,9 +2,9 @@
 
 #include "core/Report.h"
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 // Looks through the whole table for spellings that are used twice: within a district, by two
 // districts, or as a variation and as a district's name. Every match of neighbours in sorted order is

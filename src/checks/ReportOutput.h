@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 // The report as it is printed and saved: three heading lines with the data file's path and the
 // present time, then the items.

@@ -3,9 +3,9 @@
 #include <span>
 #include <string>
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 // Asks for a file name, writes the variations there, a line each, and says how many they are. A
 // cancelled dialogue ends silently.

@@ -14,6 +14,8 @@
 #include <string>
 #include <string_view>
 
+namespace CommonRoutines {
+
 enum class BoxIcon { None, Critical, Question, Exclamation, Information };
 enum class BoxButtons { Ok, OkCancel, YesNo };
 enum class BoxAnswer { Ok, Cancel, Yes, No };
@@ -87,3 +89,5 @@ public:
     // desktop may paint its windows meanwhile, so that what they show must be fit to be painted.
     virtual void ShowProgress(std::string_view doing, double part) = 0;
 };
+
+} // namespace CommonRoutines

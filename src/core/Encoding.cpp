@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace CommonRoutines {
+
 namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
@@ -60,3 +62,5 @@ std::string Encoded(std::string text, Encoding encoding) {
     }
     return bytes;
 }
+
+} // namespace CommonRoutines

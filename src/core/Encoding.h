@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace CommonRoutines {
+
 enum class Encoding {
     Windows1252,
     Utf8,
@@ -19,3 +21,5 @@ enum class Encoding {
 // The bytes of a file as Windows-1252, and back. Nothing is lost on the way there and back again.
 [[nodiscard]] std::string Decoded(std::string bytes, Encoding encoding);
 [[nodiscard]] std::string Encoded(std::string text, Encoding encoding);
+
+} // namespace CommonRoutines

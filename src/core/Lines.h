@@ -3,6 +3,8 @@
 #include <optional>
 #include <string_view>
 
+namespace CommonRoutines {
+
 // Walks through the lines of a text in memory. A line ends at LF, with or without a CR before it; the
 // last line needs no end. A CR anywhere else is a character of its line. The lines are parts of the text.
 class Lines {
@@ -26,3 +28,5 @@ public:
 private:
     std::string_view m_rest;
 };
+
+} // namespace CommonRoutines

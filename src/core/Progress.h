@@ -4,6 +4,8 @@
 #include <limits>
 #include <string_view>
 
+namespace CommonRoutines {
+
 class Desktop;
 
 // How far a long piece of work has come, as it is told to the desktop: at its start, and then about a
@@ -32,3 +34,5 @@ private:
     std::size_t m_done = 0;
     std::size_t m_next = std::numeric_limits<std::size_t>::max(); // when it is told again
 };
+
+} // namespace CommonRoutines

@@ -4,6 +4,8 @@
 
 #include <xxhash.h>
 
+namespace CommonRoutines {
+
 std::size_t SeededHash::operator()(std::string_view text) const {
     static const XXH64_hash_t seed = [] {
         std::random_device random;
@@ -11,3 +13,5 @@ std::size_t SeededHash::operator()(std::string_view text) const {
     }();
     return XXH3_64bits_withSeed(text.data(), text.size(), seed);
 }
+
+} // namespace CommonRoutines

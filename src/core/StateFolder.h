@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+namespace CommonRoutines {
+
 enum class LockResult {
     Taken,
     HeldByAnother, // by a living process, this one included
@@ -44,3 +46,5 @@ public:
     virtual std::string PathOf(const std::string& name) = 0;
     virtual std::string TimeOf(const std::string& name) = 0;
 };
+
+} // namespace CommonRoutines

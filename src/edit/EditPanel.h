@@ -9,11 +9,11 @@
 #include <string>
 #include <string_view>
 
-class Desktop;
-
 // The decisions of the edit panel: which keys may be typed, what a text is good for, and what its
 // commands do to lCurrentDistrict.
 namespace CommonRoutines {
+
+class Desktop;
 
 // Whether a character may be typed into the text behind `caret` characters. Markers are kept where
 // the rules for variations want them; other characters than blank to "|" always pass.

@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-class Desktop;
-
 // Adding and removing the markers in front of variations.
 namespace CommonRoutines {
+
+class Desktop;
 
 enum class MarkerCommand { AddShriek, RemoveShriek, AddDate, RemoveDate };
 

@@ -1,8 +1,8 @@
 #pragma once
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 // What there is to say when a data file has just been read into the table, and before it is shown:
 // tells when another editor has the file open, and asks whether changes of it that were never saved

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 enum UndoType : std::int16_t { UndoNothing = 0, UndoAdd = 1, UndoChange = 2, UndoDelete = 3 };
 

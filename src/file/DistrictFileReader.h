@@ -1,8 +1,8 @@
 #pragma once
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 // Reads the file sDataFileName into Districts, one record a line, checking every variation on the way:
 // null variations go to the repair dialogue, other problems to message boxes and to a report that is

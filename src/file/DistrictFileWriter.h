@@ -2,9 +2,9 @@
 
 #include <string>
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 // The table as a data file: every line's header text, a district's surviving variations behind it,
 // each line ended by CR LF.

@@ -9,9 +9,9 @@
 #include <string_view>
 #include <vector>
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 // The columns of the districts list.
 inline constexpr std::array<std::string_view, 7> DistrictHeadings{"Name", "Volume",    "County", "Founded",

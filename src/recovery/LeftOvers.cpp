@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace CommonRoutines {
+
 namespace {
 
 constexpr std::string_view Ending = ".changes";
@@ -73,3 +75,5 @@ std::string SetAside(StateFolder& folder, const LeftOver& leftOver) {
     }
     return folder.PathOf(renamed ? aside : leftOver.sName);
 }
+
+} // namespace CommonRoutines

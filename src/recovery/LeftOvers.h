@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace CommonRoutines {
+
 class StateFolder;
 
 // The recovery files of the state folder. One is left over when no living editor has its lock: its
@@ -33,3 +35,5 @@ void Drop(StateFolder& folder, const LeftOver& leftOver);
 // Keeps a left-over file where it is not offered any more, and no more than the last three of such.
 // Returns where it is kept, for a message.
 std::string SetAside(StateFolder& folder, const LeftOver& leftOver);
+
+} // namespace CommonRoutines

@@ -3,6 +3,8 @@
 #include "core/Desktop.h"
 #include "recovery/RecoveryFile.h"
 
+namespace CommonRoutines {
+
 OpenMark DataFileMark;
 
 namespace {
@@ -46,3 +48,5 @@ void OpenMark::Clear(Desktop& desktop) {
         m_name.clear();
     }
 }
+
+} // namespace CommonRoutines

@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace CommonRoutines {
+
 class Desktop;
 
 // The mark by which other editors of the same user know that this one has a data file open.
@@ -16,3 +18,5 @@ private:
 };
 
 extern OpenMark DataFileMark;
+
+} // namespace CommonRoutines

@@ -6,6 +6,8 @@
 
 #include <xxhash.h>
 
+namespace CommonRoutines {
+
 namespace {
 
 constexpr std::string_view FirstLine = "Quexal Editor, unsaved changes, version 1";
@@ -180,3 +182,5 @@ std::optional<RecoveryFile> ParseRecoveryFile(std::string_view content) {
     }
     return recovery;
 }
+
+} // namespace CommonRoutines

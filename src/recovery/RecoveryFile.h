@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+namespace CommonRoutines {
+
 // The data file to which changes belong.
 struct FileIdentity {
     std::string sPath; // without links, in the machine's own encoding
@@ -52,3 +54,5 @@ struct RecoveryFile {
 // A recovery file from its bytes; nothing when it is damaged, or is none. A last line without its end
 // was never written whole and does not count, nor do zero bytes that a power cut left at the end.
 [[nodiscard]] std::optional<RecoveryFile> ParseRecoveryFile(std::string_view content);
+
+} // namespace CommonRoutines

@@ -9,10 +9,10 @@
 #include <unordered_map>
 #include <vector>
 
+namespace CommonRoutines {
+
 class Desktop;
 class StateFolder;
-
-namespace CommonRoutines {
 
 // How the slots of the table stand in the file from which it would be read again.
 enum class Numbering { AsRead, AsSaved };

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 // Lets the user repair the variation at `index` of a line's fields, which is only a marker, and asks
 // until that has been done. `district.lVariationCount` bounds the next neighbour; `position` is the

@@ -2,9 +2,9 @@
 
 #include <string_view>
 
-class Desktop;
-
 namespace CommonRoutines {
+
+class Desktop;
 
 // Reads the words that need no capital from "qx_lower.txt" in the program's folder, which becomes the
 // current folder, into LowerCaseWords. Without the file, or enough memory for it, the list is empty and one

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-class Progress;
-
 namespace CommonRoutines {
+
+class Progress;
 
 // Sort record of a duplicate search: a variation, or a district's own name. It names its text instead of
 // holding it, so that a million of them are sorted as small records; the table must not change meanwhile.

@@ -40,7 +40,7 @@ std::string FromQt(const QString& text) {
 
 QString ForBox(std::string_view text) {
     QString result;
-    Lines lines(text);
+    CommonRoutines::Lines lines(text);
     for (auto line = lines.Next(); line; line = lines.Next()) {
         result += Shortened(*line) + QLatin1Char('\n');
     }

@@ -51,10 +51,10 @@ protected:
         EXPECT_TRUE(applied.has_value());
         return applied.value_or(CommonRoutines::AppliedChanges{});
     }
-    void ExpectQuestion(int count, BoxAnswer answer) {
+    void ExpectQuestion(int count, CommonRoutines::BoxAnswer answer) {
         desktop.ExpectBox("Warning - That will add approximately " + std::to_string(count) +
                               " Variations\r\nIs that what you want to do?",
-                          BoxIcon::Question, BoxButtons::YesNo, answer);
+                          CommonRoutines::BoxIcon::Question, CommonRoutines::BoxButtons::YesNo, answer);
     }
 
     // The variations of the current district.

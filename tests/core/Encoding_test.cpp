@@ -6,6 +6,8 @@
 
 #include <random>
 
+using namespace CommonRoutines;
+
 namespace {
 
 TEST(Encoding, PlainTextIsWindows1252) {

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+using namespace CommonRoutines;
+
 namespace {
 
 using namespace std::string_literals;

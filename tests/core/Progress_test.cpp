@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace CommonRoutines;
+
 namespace {
 
 // Counts what it is told.

@@ -5,6 +5,8 @@
 #include <set>
 #include <string>
 
+using namespace CommonRoutines;
+
 TEST(SeededHashTest, IsTheSameForEqualTexts) {
     const std::string text = "Ashby de la Zouch";
     EXPECT_EQ(SeededHash()(text), SeededHash()(std::string(text)));

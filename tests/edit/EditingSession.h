@@ -163,7 +163,7 @@ public:
         if (!m_desktop.state.Kept(".changes").empty()) {
             m_desktop.ExpectBox(
                 "There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
-                BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
+                CommonRoutines::BoxIcon::Question, CommonRoutines::BoxButtons::YesNo, CommonRoutines::BoxAnswer::Yes);
         }
         ReadText(m_desktop, std::string(m_desktop.files[DataFilePath]));
         CommonRoutines::RestoreChanges(m_desktop);
@@ -312,7 +312,7 @@ private:
             const bool cancels = m_wild || UpTo(1) == 0;
             m_desktop.ExpectSave(cancels ? std::nullopt : std::optional(DataFilePath));
             if (!cancels) {
-                m_desktop.ExpectBox("File Saved to " + DataFilePath, BoxIcon::Information);
+                m_desktop.ExpectBox("File Saved to " + DataFilePath, CommonRoutines::BoxIcon::Information);
                 m_hasSaved = true;
             }
             CommonRoutines::SaveDistrictFile(m_desktop);

@@ -17,7 +17,7 @@
 // window does, and keeps what the window would show. Whether a command is enabled is for the caller.
 class HeadlessWindow {
 public:
-    explicit HeadlessWindow(Desktop& desktop) : m_desktop(desktop) {}
+    explicit HeadlessWindow(CommonRoutines::Desktop& desktop) : m_desktop(desktop) {}
 
     std::string status;
     std::string box;
@@ -137,7 +137,7 @@ private:
         return slot > 0 ? CommonRoutines::VariationInCurrentDistrict(slot).Text : std::string();
     }
 
-    Desktop& m_desktop;
+    CommonRoutines::Desktop& m_desktop;
     std::string m_shriekCaption = "Add !";
     std::string m_dateCaption = "Add Date%";
 };

@@ -6,6 +6,9 @@
 
 #include <unistd.h>
 
+using namespace CommonRoutines;
+using namespace Ui;
+
 namespace {
 
 constexpr std::string_view UnsavedChanges = "There are unsaved changes of ";

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ui/Form1.h"
-#include "ui/QtDesktop.h"
-#include "ui/RowList.h"
+#include "ui/lists/RowList.h"
+#include "ui/machine/QtDesktop.h"
+#include "ui/windows/Form1.h"
 
 #include <functional>
 #include <string>
@@ -13,19 +13,24 @@ void Milestone(std::string_view text);
 
 // The real desktop with its dialogues answered: questions with Yes, unless they are about unsaved changes
 // and these are not wanted. Boxes and the outcome of a save are milestones. Files stay those of the machine.
-class SessionDesktop : public QtDesktop {
+class SessionDesktop : public Ui::QtDesktop {
 public:
     std::string fileToOpen;
     std::string fileToSave;
     bool wantsUnsavedChanges = true;
 
-    BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override;
+    CommonRoutines::BoxAnswer MsgBox(std::string_view text, CommonRoutines::BoxIcon icon,
+                                     CommonRoutines::BoxButtons buttons) override;
     std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
                          std::span<const std::string> ButtonCaptions) override;
     std::optional<std::string> InputBox(std::string_view prompt) override;
-    void ShowReport(const Report& /*report*/) override {}
-    std::optional<std::string> ChooseFileToOpen(const FileRequest& /*request*/) override { return fileToOpen; }
-    std::optional<std::string> ChooseFileToSave(const FileRequest& /*request*/) override { return fileToSave; }
+    void ShowReport(const CommonRoutines::Report& /*report*/) override {}
+    std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& /*request*/) override {
+        return fileToOpen;
+    }
+    std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& /*request*/) override {
+        return fileToSave;
+    }
     // The word list is there.
     std::string ProgramFolder() override { return QUEXAL_DATA_DIR; }
     void Beep() override {}
@@ -61,5 +66,5 @@ private:
     void Press(const char* button, int number);
     void ApplyProposals();
 
-    Form1 m_form;
+    Ui::Form1 m_form;
 };

@@ -9,6 +9,8 @@
 #include <map>
 #include <stdexcept>
 
+using namespace CommonRoutines;
+
 namespace {
 
 constexpr std::string_view CrLf = "\r\n";

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace CommonRoutines;
+
 namespace {
 
 // What is wrong with a dialogue that nobody is going to play.

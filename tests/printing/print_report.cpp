@@ -2,12 +2,15 @@
 // items are numbered lines, every tenth one too long for a line of the paper.
 
 #include "checks/ReportOutput.h"
-#include "ui/QtDesktop.h"
+#include "ui/machine/QtDesktop.h"
 
 #include <QApplication>
 
 #include <cstdio>
 #include <cstdlib>
+
+using namespace CommonRoutines;
+using namespace Ui;
 
 namespace {
 

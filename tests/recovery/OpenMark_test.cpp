@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace CommonRoutines;
+
 namespace {
 
 // Two editors of one user.

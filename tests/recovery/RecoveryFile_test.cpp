@@ -4,6 +4,8 @@
 
 #include <random>
 
+using namespace CommonRoutines;
+
 namespace {
 
 using Changes = std::vector<SlotChange>;

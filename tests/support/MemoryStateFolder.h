@@ -7,7 +7,7 @@
 #include <set>
 
 // A state folder in memory. Editors that are to see each other's files share their storage.
-class MemoryStateFolder : public StateFolder {
+class MemoryStateFolder : public CommonRoutines::StateFolder {
 public:
     struct Storage {
         std::map<std::string, std::string> files;
@@ -82,15 +82,15 @@ public:
     }
     bool Remove(const std::string& name) override { return storage->files.erase(name) > 0; }
 
-    LockResult Lock(const std::string& name) override {
+    CommonRoutines::LockResult Lock(const std::string& name) override {
         if (!canLock) {
-            return LockResult::Impossible;
+            return CommonRoutines::LockResult::Impossible;
         }
         if (!storage->locks.insert(name).second) {
-            return LockResult::HeldByAnother;
+            return CommonRoutines::LockResult::HeldByAnother;
         }
         m_locks.insert(name);
-        return LockResult::Taken;
+        return CommonRoutines::LockResult::Taken;
     }
     void Unlock(const std::string& name) override {
         if (m_locks.erase(name) > 0) {

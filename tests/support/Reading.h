@@ -33,7 +33,7 @@ inline void ExpectReadReport(ScriptedDesktop& desktop, std::vector<std::string> 
 // A file as reading takes it: every line without blanks at its ends, and ended by CR LF.
 inline std::string TrimLines(std::string_view content) {
     std::string trimmed;
-    Lines lines(content);
+    CommonRoutines::Lines lines(content);
     while (const auto line = lines.Next()) {
         trimmed.append(Ansi::Trim(*line)).append("\r\n");
     }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace CommonRoutines;
+
 namespace {
 
 std::string Listed(std::span<const std::string> texts) {

@@ -13,14 +13,15 @@
 // A desktop that plays a script: the prompts that a test expects, in order and word for word, each
 // with its answer. A prompt that was not expected fails the test, and so does an answer left over.
 // Files, settings and the printer live in memory.
-class ScriptedDesktop : public Desktop {
+class ScriptedDesktop : public CommonRoutines::Desktop {
 public:
     ScriptedDesktop() = default;
     ~ScriptedDesktop() override;
 
     // The script.
-    void ExpectBox(std::string text, BoxIcon icon, BoxButtons buttons = BoxButtons::Ok,
-                   BoxAnswer answer = BoxAnswer::Ok);
+    void ExpectBox(std::string text, CommonRoutines::BoxIcon icon,
+                   CommonRoutines::BoxButtons buttons = CommonRoutines::BoxButtons::Ok,
+                   CommonRoutines::BoxAnswer answer = CommonRoutines::BoxAnswer::Ok);
     void ExpectChoice(std::string prompt, std::vector<std::string> captions, std::string answer);
     void ExpectInput(std::string prompt, std::optional<std::string> answer);
     void ExpectOpen(std::optional<std::string> path);
@@ -31,7 +32,7 @@ public:
     // Reports are collected instead of being compared with the script: for those that are too long
     // or too far from the point to be written out.
     bool recordReports = false;
-    std::vector<Report> reports;
+    std::vector<CommonRoutines::Report> reports;
 
     // The machine.
     std::map<std::string, std::string> files;
@@ -42,23 +43,24 @@ public:
     bool failsAfterWriting = false; // says so though the file is in its place
     int beeps = 0;
     bool busy = false;
-    std::vector<std::string> tasks; // what was done, one after the other, since it was last busy
-    double part = 0;                // of the last of them that is over
-    int programFolderEntries = 0;   // how often the program's folder became the current one
-    FileRequest lastRequest;        // of the last file dialogue
+    std::vector<std::string> tasks;          // what was done, one after the other, since it was last busy
+    double part = 0;                         // of the last of them that is over
+    int programFolderEntries = 0;            // how often the program's folder became the current one
+    CommonRoutines::FileRequest lastRequest; // of the last file dialogue
     MemoryStateFolder state;
 
-    BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override;
+    CommonRoutines::BoxAnswer MsgBox(std::string_view text, CommonRoutines::BoxIcon icon,
+                                     CommonRoutines::BoxButtons buttons) override;
     std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
                          std::span<const std::string> ButtonCaptions) override;
     std::optional<std::string> InputBox(std::string_view prompt) override;
-    void ShowReport(const Report& report) override;
-    std::optional<std::string> ChooseFileToOpen(const FileRequest& request) override;
-    std::optional<std::string> ChooseFileToSave(const FileRequest& request) override;
+    void ShowReport(const CommonRoutines::Report& report) override;
+    std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& request) override;
+    std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ReadFile(const std::string& path) override;
     bool ReplaceFile(const std::string& path, std::string_view content) override;
     std::string TruePath(const std::string& path) override { return path; }
-    StateFolder& State() override { return state; }
+    CommonRoutines::StateFolder& State() override { return state; }
     std::string ProgramFolder() override { return "/program"; }
     void EnterProgramFolder() override { ++programFolderEntries; }
     std::string GetSetting(std::string_view section, std::string_view key) override;

@@ -1,0 +1,71 @@
+#include "ui/lists/CommentModels.h"
+
+#include "ui/Text.h"
+
+namespace Ui {
+
+using namespace CommonRoutines;
+
+void CommentModel::SetRows(std::vector<CommentRow> rows) {
+    beginResetModel();
+    m_rows = std::move(rows);
+    endResetModel();
+}
+
+int CommentModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int CommentModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : 2;
+}
+
+QVariant CommentModel::data(const QModelIndex& index, int role) const {
+    const CommentRow& row = m_rows[static_cast<std::size_t>(index.row())];
+    const QString text = Text::ForList(index.column() == 0 ? row.sType : row.sComment);
+    switch (role) {
+    case Qt::DisplayRole:
+        return text;
+    case Qt::ToolTipRole:
+        return Text::ForToolTip(text);
+    default:
+        return {};
+    }
+}
+
+QVariant CommentModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return {};
+    }
+    return section == 0 ? tr("Type") : tr("Comment");
+}
+
+void CommentTypeModel::Refresh() {
+    beginResetModel();
+    m_count = static_cast<int>(CommentTypes.Items().size());
+    endResetModel();
+}
+
+int CommentTypeModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : m_count;
+}
+
+QVariant CommentTypeModel::data(const QModelIndex& index, int role) const {
+    const CommentType& item = CommentTypes.Items()[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return Text::ForList(item.sType);
+    case Qt::ToolTipRole:
+        return Text::ForToolTip(Text::ForList(item.sType));
+    case Qt::UserRole:
+        return item.lItemData;
+    default:
+        return {};
+    }
+}
+
+QVariant CommentTypeModel::headerData(int /*section*/, Qt::Orientation orientation, int role) const {
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(tr("Comment type")) : QVariant();
+}
+
+} // namespace Ui

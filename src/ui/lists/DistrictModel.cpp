@@ -1,0 +1,111 @@
+#include "ui/lists/DistrictModel.h"
+
+#include "core/State.h"
+#include "core/UpperCase.h"
+#include "file/DistrictList.h"
+#include "ui/Text.h"
+#include "ui/lists/StateColours.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+
+namespace Ui {
+
+using namespace CommonRoutines;
+
+namespace {
+
+// A cell as the list shows it; of a name as long as its file, no more is copied than that.
+QString CellText(const DistrictRecord& record, int column) {
+    switch (column) {
+    case 0:
+        return Text::ForList(record.Name);
+    case 1:
+        return Text::ForList(record.Volume);
+    case 2:
+        return Text::ForList(record.County);
+    default:
+        return Text::ToQt(DistrictCell(record, static_cast<std::size_t>(column)));
+    }
+}
+
+} // namespace
+
+void DistrictModel::SetDistricts(std::vector<std::int32_t> districts) {
+    beginResetModel();
+    m_districts = std::move(districts);
+    endResetModel();
+}
+
+int DistrictModel::RowOf(std::int32_t district) const {
+    const auto found = std::find(m_districts.begin(), m_districts.end(), district);
+    return found == m_districts.end() ? -1 : static_cast<int>(found - m_districts.begin());
+}
+
+void DistrictModel::Refresh(std::int32_t district) {
+    if (const int row = RowOf(district); row >= 0) {
+        Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+    }
+}
+
+int DistrictModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_districts.size());
+}
+
+int DistrictModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(DistrictHeadings.size());
+}
+
+QVariant DistrictModel::data(const QModelIndex& index, int role) const {
+    const DistrictRecord& record = RecordOf(DistrictAt(index.row()));
+    const QString text = CellText(record, index.column());
+    const bool problem = DistrictHasProblem(record);
+    switch (role) {
+    case Qt::DisplayRole:
+        return text;
+    case Qt::ForegroundRole:
+        return StateColours::InList(problem ? VariationState::Invalid : VariationState::Plain,
+                                    QGuiApplication::palette());
+    case Qt::AccessibleTextRole:
+        return problem ? text + tr(", has problems") : text;
+    case Qt::ToolTipRole:
+        return Text::ForToolTip(problem ? text + tr(" - this district has problems") : text);
+    default:
+        return {};
+    }
+}
+
+QVariant DistrictModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return {};
+    }
+    return Text::ToQt(DistrictHeadings[static_cast<std::size_t>(section)]);
+}
+
+QModelIndexList DistrictModel::match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                                     Qt::MatchFlags flags) const {
+    const bool isTypeAhead = start.isValid() && start.column() == 0 && role == Qt::DisplayRole && hits == 1 &&
+                             flags == (Qt::MatchStartsWith | Qt::MatchWrap);
+    if (!isTypeAhead) {
+        return QAbstractTableModel::match(start, role, value, hits, flags);
+    }
+    const std::string typed = Text::FromQt(value.toString());
+    const auto beginning = [&](std::int32_t district) {
+        return RecordOf(district).Name.View().substr(0, typed.size());
+    };
+    const auto first = std::partition_point(m_districts.begin(), m_districts.end(), [&](std::int32_t district) {
+        return Ansi::CompareUpper(beginning(district), typed) < 0;
+    });
+    const auto last = std::partition_point(first, m_districts.end(), [&](std::int32_t district) {
+        return Ansi::CompareUpper(beginning(district), typed) == 0;
+    });
+    if (first == last) {
+        return {};
+    }
+    const auto from = m_districts.begin() + start.row();
+    const auto found = first <= from && from < last ? from : first;
+    return {index(static_cast<int>(found - m_districts.begin()), 0)};
+}
+
+} // namespace Ui

@@ -1,0 +1,318 @@
+#include "ui/lists/RowList.h"
+
+#include "ui/lists/StateColours.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace Ui {
+
+namespace {
+
+// Room above and below the text of a row, together, in pixels.
+constexpr int RowPadding = 5;
+
+class RoomyDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, RowPadding);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->features.testFlag(QStyleOptionViewItem::HasCheckIndicator)) {
+            option->palette.setColor(QPalette::Window, StateColours::ShadedToOutline);
+        }
+    }
+};
+
+} // namespace
+
+// Column headings, of which one can be underlined.
+class RowList::Header : public QHeaderView {
+public:
+    explicit Header(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+        setSectionsMovable(true);
+        setStretchLastSection(true);
+        setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+
+    // A column, or -1.
+    void Underline(int column) {
+        m_underlined = column;
+        viewport()->update();
+    }
+
+protected:
+    void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override {
+        painter->save(); // the style leaves a clip behind
+        QHeaderView::paintSection(painter, rect, logicalIndex);
+        painter->restore();
+        if (logicalIndex == m_underlined) {
+            constexpr int thickness = 2;
+            painter->fillRect(rect.adjusted(0, rect.height() - thickness, 0, 0), palette().highlight());
+        }
+    }
+
+private:
+    int m_underlined = -1;
+};
+
+RowList::RowList(QWidget* parent) : QTreeView(parent), m_header(new Header(this)) {
+    setHeader(m_header);
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setAlternatingRowColors(false);
+    setSelectionBehavior(SelectRows);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setItemDelegate(new RoomyDelegate(this));
+    // Tab leads on to the next control, arrow keys lead through the rows.
+    setTabKeyNavigation(false);
+}
+
+std::vector<int> RowList::SelectedRows() const {
+    std::vector<int> rows;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange& range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            rows.push_back(row);
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+void RowList::SelectRow(int row) {
+    m_quiet = true;
+    setCurrentIndex(model()->index(row, 0));
+    m_quiet = false;
+}
+
+// The base class looks for a row among all others, going out from the one that it looked at last. In a
+// list of a million, a jump to its end would be felt; here a row is where its number says.
+QRect RowList::visualRect(const QModelIndex& index) const {
+    const QModelIndex top = indexAt(QPoint(0, 0));
+    if (!index.isValid() || !top.isValid() || isColumnHidden(index.column()) || verticalScrollMode() != ScrollPerItem) {
+        return QTreeView::visualRect(index);
+    }
+    const int height = rowHeight(top);
+    return {columnViewportPosition(index.column()), (index.row() - top.row()) * height, columnWidth(index.column()),
+            height};
+}
+
+void RowList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    // What the base class adds: it looks for both rows, to paint their frames and to tell a screen reader.
+    if (QAccessible::isActive()) {
+        QTreeView::currentChanged(current, previous);
+        return;
+    }
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): to leave out the search of the class between is the point
+    QAbstractItemView::currentChanged(current, previous);
+    for (const QModelIndex& index : {previous, current}) {
+        const QRect row = visualRect(index);
+        viewport()->update(0, row.top(), viewport()->width(), row.height());
+    }
+}
+
+void RowList::CopySelection() const {
+    QStringList lines;
+    for (const int row : SelectedRows()) {
+        QStringList cells;
+        for (int column = 0; column < model()->columnCount(); ++column) {
+            cells.append(model()->index(row, column).data().toString());
+        }
+        lines.append(cells.join(QLatin1Char('\t')));
+    }
+    QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+void RowList::Announce() {
+    m_announced = true;
+    if (!m_quiet) {
+        Q_EMIT Chosen();
+    }
+}
+
+void RowList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTreeView::selectionChanged(selected, deselected);
+    Announce();
+}
+
+void RowList::mousePressEvent(QMouseEvent* event) {
+    m_announced = false;
+    QTreeView::mousePressEvent(event);
+    if (!m_announced && event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
+        Announce();
+    }
+}
+
+// Ctrl and an arrow key go to another column, with Shift they move the column there; Alt and an arrow key make it
+// narrower or wider, Ctrl and "+" as wide as what is in it.
+bool RowList::HandleColumnKey(const QKeyEvent& event) {
+    const int columns = header()->count();
+    if (columns == 0 || isHeaderHidden()) {
+        return false;
+    }
+    // On many keyboards "+" needs the Shift key.
+    if (event.key() == Qt::Key_Plus && event.modifiers().testFlag(Qt::ControlModifier)) {
+        resizeColumnToContents(m_column);
+        return true;
+    }
+    if (event.key() != Qt::Key_Left && event.key() != Qt::Key_Right) {
+        return false;
+    }
+    const int step = event.key() == Qt::Key_Left ? -1 : 1;
+    const int place = header()->visualIndex(m_column);
+    const int newPlace = std::clamp(place + step, 0, columns - 1);
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::ControlModifier) {
+        MarkColumn(header()->logicalIndex(newPlace));
+    } else if (modifiers == (Qt::ControlModifier | Qt::ShiftModifier)) {
+        header()->moveSection(place, newPlace);
+        MarkColumn(m_column);
+    } else if (modifiers == Qt::AltModifier) {
+        const int stride = 2 * fontMetrics().averageCharWidth();
+        setColumnWidth(m_column, std::max(columnWidth(m_column) + step * stride, header()->minimumSectionSize()));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// The current row's cell in the column becomes the current one, which a screen reader tells.
+void RowList::MarkColumn(int column) {
+    m_column = column;
+    UpdateFocusMarks();
+    if (currentIndex().isValid()) {
+        selectionModel()->setCurrentIndex(currentIndex().siblingAtColumn(column), QItemSelectionModel::NoUpdate);
+    }
+    const int left = header()->sectionViewportPosition(column);
+    const int right = left + header()->sectionSize(column);
+    QScrollBar& bar = *horizontalScrollBar();
+    if (left < 0 || right > viewport()->width()) {
+        bar.setValue(bar.value() + (left < 0 ? left : std::min(left, right - viewport()->width())));
+    }
+}
+
+void RowList::UpdateFocusMarks() {
+    m_header->Underline(hasFocus() ? m_column : -1);
+    update();
+}
+
+void RowList::focusInEvent(QFocusEvent* event) {
+    QTreeView::focusInEvent(event);
+    UpdateFocusMarks();
+}
+
+void RowList::focusOutEvent(QFocusEvent* event) {
+    QTreeView::focusOutEvent(event);
+    UpdateFocusMarks();
+}
+
+// The frame shows the focus also where there is no row that could.
+bool RowList::event(QEvent* event) {
+    const bool handled = QTreeView::event(event);
+    if (event->type() == QEvent::Paint && hasFocus()) {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    return handled;
+}
+
+// The toolkit's own search looks at one row after the other; here the model may know better.
+void RowList::keyboardSearch(const QString& search) {
+    if (search.isEmpty() || model()->rowCount() == 0) {
+        return;
+    }
+    const bool goesOn = m_lastTyped.isValid() && !m_lastTyped.hasExpired(QApplication::keyboardInputInterval());
+    m_typed = goesOn ? m_typed + search : search;
+    m_lastTyped.start();
+    const bool isOneLetter = m_typed.count(m_typed.front()) == m_typed.size();
+    int start = 0;
+    if (selectionModel()->hasSelection()) {
+        // One letter, for the first time or again, means another row; more letters may still mean this one.
+        start = (currentIndex().row() + (isOneLetter ? 1 : 0)) % model()->rowCount();
+    }
+    const QModelIndexList found =
+        model()->match(model()->index(start, 0), Qt::DisplayRole, isOneLetter ? m_typed.left(1) : m_typed, 1,
+                       Qt::MatchStartsWith | Qt::MatchWrap);
+    if (!found.isEmpty()) {
+        setCurrentIndex(found.constFirst().siblingAtColumn(m_column));
+    }
+}
+
+void RowList::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        CopySelection();
+        return;
+    }
+    if (HandleColumnKey(*event)) {
+        return;
+    }
+    // A list that has just got its rows or the focus has a current row but no selected one: the first
+    // key selects that row instead of stepping over it.
+    const bool towardsFirst =
+        event->key() == Qt::Key_Down || event->key() == Qt::Key_Up || event->key() == Qt::Key_Home;
+    if (towardsFirst && event->modifiers() == Qt::NoModifier && model()->rowCount() > 0 &&
+        !selectionModel()->hasSelection()) {
+        const QModelIndex first =
+            currentIndex().isValid() && event->key() != Qt::Key_Home ? currentIndex() : model()->index(0, 0);
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void RowList::SetHint(const QString& hint) {
+    if (hint != m_hint) {
+        m_hint = hint;
+        DescribeEmptiness();
+        viewport()->update();
+    }
+}
+
+void RowList::setModel(QAbstractItemModel* newModel) {
+    QTreeView::setModel(newModel);
+    connect(newModel, &QAbstractItemModel::modelReset, this, &RowList::DescribeEmptiness);
+    DescribeEmptiness();
+}
+
+// What is painted in an empty list is also what a screen reader says of it, and only then.
+void RowList::DescribeEmptiness() {
+    setAccessibleDescription(model() != nullptr && model()->rowCount() == 0 ? m_hint : QString());
+}
+
+void RowList::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (model() != nullptr && model()->rowCount() == 0) {
+        constexpr int margin = 12;
+        QPainter painter(viewport());
+        painter.setPen(StateColours::Hint(palette()));
+        painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_hint);
+    }
+}
+
+void RowList::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    Q_EMIT Resized();
+}
+
+} // namespace Ui

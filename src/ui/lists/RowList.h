@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTreeView>
+
+#include <vector>
+
+namespace Ui {
+
+// A report list: rows under column headings, nothing edited in place, whole rows selected. Rows are
+// all of one height, so that a million of them cost what is visible. What the mouse does to the columns,
+// keys do to the column at hand, whose heading is underlined while the list has the focus.
+class RowList : public QTreeView {
+    Q_OBJECT
+
+public:
+    explicit RowList(QWidget* parent = nullptr);
+
+    void setModel(QAbstractItemModel* newModel) override;
+
+    // The numbers of the selected rows, in list order.
+    [[nodiscard]] std::vector<int> SelectedRows() const;
+
+    // Selects one row and scrolls to it, as the program's own doing: nothing is announced.
+    void SelectRow(int row);
+
+    // What an empty list says, in grey: what to do next.
+    void SetHint(const QString& hint);
+    [[nodiscard]] const QString& Hint() const { return m_hint; }
+
+    // Where an index is shown, also outside of what is visible.
+    [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
+
+    // Selects the next row whose first cell begins with what is typed.
+    void keyboardSearch(const QString& search) override;
+
+    // Copies the selected rows as lines, their cells separated by tabs.
+    void CopySelection() const;
+
+Q_SIGNALS:
+    // The user has changed the selection, or has clicked on a row that was selected already.
+    void Chosen();
+    void Resized();
+
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    bool event(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void Announce();
+    [[nodiscard]] bool HandleColumnKey(const QKeyEvent& event);
+    void MarkColumn(int column);
+    void UpdateFocusMarks();
+    void DescribeEmptiness();
+
+    class Header;
+
+    Header* m_header;
+    int m_column = 0; // at hand
+    QString m_typed;  // of the row that is looked for, as long as the next letter comes in time
+    QElapsedTimer m_lastTyped;
+    QString m_hint;
+    bool m_announced = false; // since the mouse was pressed
+    bool m_quiet = false;
+};
+
+} // namespace Ui

@@ -1,0 +1,121 @@
+#include "ui/machine/DurableFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+// Goes past the toolkit to the system, since the toolkit neither reports that the disk refused what it
+// was given nor writes down the names in a folder.
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#endif
+
+#include <algorithm>
+#include <limits>
+
+namespace DurableFile {
+
+namespace {
+
+// Positions in a file are 32-bit numbers.
+constexpr qint64 LargestFile = std::numeric_limits<std::int32_t>::max();
+
+#ifdef Q_OS_UNIX
+
+// Of what is kept about a file, only its size matters here, which is put on the disk with its content.
+bool SyncContent(int handle) {
+    return fdatasync(handle) == 0;
+}
+
+// A folder that the user may not read cannot be synced, and some file systems sync none: there the name is
+// as safe as it gets.
+bool SyncFolder(const QString& folder) {
+    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) {
+        return errno == EACCES;
+    }
+    const bool synced = fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
+    close(handle);
+    return synced;
+}
+
+#else
+
+// There the toolkit's own flushing has to do.
+bool SyncContent(int /*handle*/) {
+    return true;
+}
+bool SyncFolder(const QString& /*folder*/) {
+    return true;
+}
+
+#endif
+
+// Goes through the bytes of a file piece by piece, at least once, until `transfer` refuses one.
+bool InPieces(std::size_t all, const Listener& listener,
+              const std::function<bool(std::size_t start, std::size_t size)>& transfer) {
+    constexpr std::size_t largestPiece = std::size_t{32} << 20;
+    std::size_t done = 0;
+    do {
+        const std::size_t size = std::min(all - done, largestPiece);
+        if (!transfer(done, size)) {
+            return false;
+        }
+        done += size;
+        if (listener) {
+            listener(static_cast<double>(done) / static_cast<double>(std::max<std::size_t>(all, 1)));
+        }
+    } while (done < all);
+    return true;
+}
+
+} // namespace
+
+std::optional<std::string> Read(const QString& path, const Listener& listener) {
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || file.size() > LargestFile || !file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    std::string content(static_cast<std::size_t>(file.size()), '\0');
+    const bool isRead = InPieces(content.size(), listener, [&](std::size_t start, std::size_t size) {
+        // A disk that fails half way must not make a part pass for the file.
+        return file.read(content.data() + start, static_cast<qint64>(size)) == static_cast<qint64>(size);
+    });
+    return isRead ? std::optional(std::move(content)) : std::nullopt;
+}
+
+bool Replace(const QString& path, std::string_view content, const Listener& listener) {
+    const QFileInfo target(path);
+    if (target.exists() && !target.isFile()) {
+        return false;
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    // Everything is on the disk before the commit, which would put a file that is not in the place of
+    // the old one without a word.
+    const bool isWritten = InPieces(content.size(), listener, [&](std::size_t start, std::size_t size) {
+        return file.write(content.data() + start, static_cast<qint64>(size)) == static_cast<qint64>(size) &&
+               file.flush() && SyncContent(file.handle());
+    });
+    if (!isWritten) {
+        file.cancelWriting();
+    }
+    // A link leads to the folder in which the name of the new file stands.
+    return file.commit() && SyncFolder(QFileInfo(QFileInfo(path).canonicalFilePath()).absolutePath());
+}
+
+bool Extend(const QString& path, std::size_t kept, std::string_view added) {
+    QFile file(path);
+    const auto start = static_cast<qint64>(kept);
+    const auto size = static_cast<qint64>(added.size());
+    return file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered) && file.size() >= start &&
+           (file.size() == start || file.resize(start)) && file.seek(start) && file.write(added.data(), size) == size &&
+           SyncContent(file.handle());
+}
+
+} // namespace DurableFile

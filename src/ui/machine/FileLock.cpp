@@ -1,0 +1,82 @@
+#include "ui/machine/FileLock.h"
+
+#include <QFile>
+
+// Goes past the toolkit to the system, since the toolkit tells who has a lock from what is written in it.
+// A process that is killed, or finds the disk full, before it has written that leaves a lock for ever.
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#endif
+
+#ifdef Q_OS_UNIX
+
+namespace Ui {
+
+using namespace CommonRoutines;
+
+namespace {
+
+// Whether the file that is open is still the one with this name: whoever had it before may just have
+// removed it.
+bool IsStillThere(int handle, const char* path) {
+    struct stat opened {};
+    struct stat named {};
+    return fstat(handle, &opened) == 0 && stat(path, &named) == 0 && opened.st_dev == named.st_dev &&
+           opened.st_ino == named.st_ino;
+}
+
+} // namespace
+
+LockResult FileLock::Take(const QString& path) {
+    const QByteArray name = QFile::encodeName(path);
+    for (;;) {
+        const int handle = open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+        if (handle < 0) {
+            return LockResult::Impossible;
+        }
+        if (flock(handle, LOCK_EX | LOCK_NB) != 0) {
+            const bool held = errno == EWOULDBLOCK;
+            close(handle);
+            return held ? LockResult::HeldByAnother : LockResult::Impossible;
+        }
+        if (IsStillThere(handle, name.constData())) {
+            m_path = path;
+            m_handle = handle;
+            return LockResult::Taken;
+        }
+        close(handle);
+    }
+}
+
+void FileLock::Release() {
+    if (m_handle >= 0) {
+        QFile::remove(m_path); // while it is locked, so that nobody else's is removed
+        close(m_handle);
+        m_handle = -1;
+    }
+}
+
+#else
+
+// There the toolkit's lock has to do.
+LockResult FileLock::Take(const QString& path) {
+    m_lock = std::make_unique<QLockFile>(path);
+    m_lock->setStaleLockTime(0); // a lock ends with its process, not with time
+    if (m_lock->tryLock(0)) {
+        return LockResult::Taken;
+    }
+    return m_lock->error() == QLockFile::LockFailedError ? LockResult::HeldByAnother : LockResult::Impossible;
+}
+
+void FileLock::Release() {
+    m_lock.reset();
+}
+
+#endif
+
+} // namespace Ui

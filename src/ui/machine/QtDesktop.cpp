@@ -1,0 +1,280 @@
+#include "ui/machine/QtDesktop.h"
+
+#include "ui/Text.h"
+#include "ui/machine/DateTimeText.h"
+#include "ui/machine/DurableFile.h"
+#include "ui/machine/Memory.h"
+#include "ui/windows/VarCheck.h"
+#include "ui/windows/frmCustomMessageBox.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPageLayout>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QSettings>
+#include <QStyle>
+#include <QTextDocument>
+
+namespace Ui {
+
+using namespace CommonRoutines;
+
+namespace {
+
+constexpr QLatin1String ProgramTitle("Quexal Editor");
+constexpr QLatin1String SettingsOrganisation("Quexal");
+constexpr QLatin1String SettingsApplication("QXEdit");
+
+constexpr QMarginsF PageMargins(20, 20, 20, 20); // millimetres
+
+constexpr int PromptWidth = 438;
+
+QMessageBox::Icon IconOf(BoxIcon icon) {
+    switch (icon) {
+    case BoxIcon::Critical:
+        return QMessageBox::Critical;
+    case BoxIcon::Question:
+        return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case BoxIcon::Information:
+        return QMessageBox::Information;
+    case BoxIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
+    switch (buttons) {
+    case BoxButtons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case BoxButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+BoxIcon StandardBoxIcon(std::int32_t number) {
+    switch (number) {
+    case IconStop:
+        return BoxIcon::Critical;
+    case IconQuestion:
+        return BoxIcon::Question;
+    case IconExclamation:
+        return BoxIcon::Exclamation;
+    case IconInformation:
+        return BoxIcon::Information;
+    default:
+        return BoxIcon::None;
+    }
+}
+
+QIcon StandardPicture(std::int32_t number) {
+    const QStyle* style = QApplication::style();
+    switch (number) {
+    case IconStop:
+        return style->standardIcon(QStyle::SP_MessageBoxCritical);
+    case IconQuestion:
+        return style->standardIcon(QStyle::SP_MessageBoxQuestion);
+    case IconExclamation:
+        return style->standardIcon(QStyle::SP_MessageBoxWarning);
+    case IconInformation:
+        return style->standardIcon(QStyle::SP_MessageBoxInformation);
+    default:
+        return {};
+    }
+}
+
+QString SettingName(std::string_view section, std::string_view key) {
+    return Text::ToQt(section) + QLatin1Char('/') + Text::ToQt(key);
+}
+
+bool IsReadOnly(const QString& path) {
+    const QFileInfo file(path);
+    return file.exists() && !file.isWritable();
+}
+
+} // namespace
+
+BoxAnswer QtDesktop::ShowBox(const QString& title, std::string_view text, BoxIcon icon, BoxButtons buttons) {
+    QMessageBox box(IconOf(icon), title, Text::ForBox(text), ButtonsOf(buttons), m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    const int answer = box.exec();
+    m_work.GoOn();
+    switch (answer) {
+    case QMessageBox::Yes:
+        return BoxAnswer::Yes;
+    case QMessageBox::No:
+        return BoxAnswer::No;
+    case QMessageBox::Ok:
+        return BoxAnswer::Ok;
+    default:
+        return BoxAnswer::Cancel;
+    }
+}
+
+BoxAnswer QtDesktop::MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) {
+    return ShowBox(ProgramTitle, text, icon, buttons);
+}
+
+std::string QtDesktop::MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
+                                std::span<const std::string> ButtonCaptions) {
+    const QString title = Title.empty() ? QString(ProgramTitle) : Text::ToQt(Title);
+    const auto showCopy = [&] { ShowBox(title, Prompt, StandardBoxIcon(Img), BoxButtons::Ok); };
+    frmCustomMessageBox box(Prompt, StandardPicture(Img), title, ButtonCaptions, showCopy, m_window);
+    box.exec();
+    m_work.GoOn();
+    return box.Result();
+}
+
+std::optional<std::string> QtDesktop::InputBox(std::string_view prompt) {
+    QInputDialog dialog(m_window);
+    dialog.setWindowTitle(ProgramTitle);
+    dialog.setLabelText(Text::ForBox(prompt));
+    for (auto* label : dialog.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        // The longest word must not set the width of the box.
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        label->setMinimumWidth(PromptWidth);
+    }
+    const int answer = dialog.exec();
+    m_work.GoOn();
+    return answer == QDialog::Accepted ? std::optional(Text::FromQt(dialog.textValue())) : std::nullopt;
+}
+
+void QtDesktop::ShowReport(const Report& report) {
+    VarCheck(report, *this, m_window).exec();
+}
+
+std::optional<std::string> QtDesktop::Choose(QFileDialog& dialog, const FileRequest& request) {
+    if (!request.sTitle.empty()) {
+        dialog.setWindowTitle(Text::ForList(request.sTitle));
+    }
+    if (!request.sFolder.empty()) {
+        dialog.setDirectory(Text::PathToQt(request.sFolder));
+    }
+    if (!request.sFileName.empty()) {
+        dialog.selectFile(Text::PathToQt(request.sFileName));
+    }
+    dialog.setDefaultSuffix(Text::ToQt(request.sDefaultExtension));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return Text::PathFromQt(dialog.selectedFiles().constFirst());
+}
+
+std::optional<std::string> QtDesktop::ChooseFileToOpen(const FileRequest& request) {
+    QFileDialog dialog(m_window, QObject::tr("Open"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return Choose(dialog, request);
+}
+
+std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& request) {
+    QFileDialog dialog(m_window, QObject::tr("Save As"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.bAskBeforeReplacing);
+    for (;;) {
+        auto path = Choose(dialog, request);
+        if (!path || !IsReadOnly(Text::PathToQt(*path))) {
+            return path;
+        }
+        MsgBox("This file is read-only. Please choose another name.", BoxIcon::Exclamation, BoxButtons::Ok);
+    }
+}
+
+std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
+    Memory::LimitToWhatIsLeft(); // what a file asks for must not be more
+    return DurableFile::Read(Text::PathToQt(path), [this](double part) { ShowProgress("Reading the file", part); });
+}
+
+bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
+    return DurableFile::Replace(Text::PathToQt(path), content,
+                                [this](double part) { ShowProgress("Writing the file", part); });
+}
+
+std::string QtDesktop::TruePath(const std::string& path) {
+    const QString truePath = QFileInfo(Text::PathToQt(path)).canonicalFilePath();
+    return truePath.isEmpty() ? path : Text::PathFromQt(truePath);
+}
+
+std::string QtDesktop::ProgramFolder() {
+    return Text::PathFromQt(QCoreApplication::applicationDirPath());
+}
+
+void QtDesktop::EnterProgramFolder() {
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
+}
+
+std::string QtDesktop::GetSetting(std::string_view section, std::string_view key) {
+    const QSettings settings(SettingsOrganisation, SettingsApplication);
+    return Text::PathFromQt(settings.value(SettingName(section, key)).toString());
+}
+
+void QtDesktop::SaveSetting(std::string_view section, std::string_view key, const std::string& value) {
+    QSettings settings(SettingsOrganisation, SettingsApplication);
+    settings.setValue(SettingName(section, key), Text::PathToQt(value));
+}
+
+bool QtDesktop::Print(std::span<const std::string> lines) {
+    const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
+    const QList<QPrinterInfo> all = QPrinterInfo::availablePrinters();
+    if (standard.isNull() && all.isEmpty()) {
+        return false;
+    }
+    QPrinter printer(standard.isNull() ? all.constFirst() : standard, QPrinter::HighResolution);
+    QStringList text;
+    for (const std::string& line : lines) {
+        text.append(Text::ToQt(line).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    }
+    printer.setPageMargins(PageMargins, QPageLayout::Millimeter);
+    QTextDocument document;
+    QTextOption option = document.defaultTextOption();
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    document.setDefaultTextOption(option);
+    document.setDocumentMargin(0);
+    document.documentLayout()->setPaintDevice(&printer);
+    // A document without a page size of its own would be printed with page numbers among its lines.
+    document.setPageSize(printer.pageRect(QPrinter::DevicePixel).size());
+    document.setPlainText(text.join(QLatin1Char('\n')));
+    document.print(&printer);
+    return printer.printerState() != QPrinter::Error && printer.printerState() != QPrinter::Aborted;
+}
+
+std::string QtDesktop::Today() {
+    return DateTimeText::Day(QDate::currentDate());
+}
+
+std::string QtDesktop::ShortTime() {
+    return DateTimeText::ShortTime(QTime::currentTime());
+}
+
+void QtDesktop::Beep() {
+    QApplication::beep();
+}
+
+void QtDesktop::ShowBusy(bool busy) {
+    if (busy) {
+        // A report window that is open stands before the main window.
+        QWidget* dialogue = QApplication::activeModalWidget();
+        m_work.Begin(dialogue != nullptr ? dialogue : m_window.data());
+    } else {
+        m_work.End();
+    }
+}
+
+void QtDesktop::ShowProgress(std::string_view doing, double part) {
+    m_work.Show(Text::ToQt(doing), part);
+}
+
+} // namespace Ui

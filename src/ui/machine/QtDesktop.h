@@ -1,0 +1,53 @@
+#pragma once
+
+#include "core/Desktop.h"
+#include "ui/machine/QtStateFolder.h"
+#include "ui/windows/LongWork.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QFileDialog;
+
+namespace Ui {
+
+// The desktop as Qt shows it. Message boxes, dialogues, settings and the printer are named nowhere else.
+class QtDesktop : public CommonRoutines::Desktop {
+public:
+    // The window that dialogues belong to.
+    void SetWindow(QWidget* window) { m_window = window; }
+
+    CommonRoutines::BoxAnswer MsgBox(std::string_view text, CommonRoutines::BoxIcon icon,
+                                     CommonRoutines::BoxButtons buttons) override;
+    std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
+                         std::span<const std::string> ButtonCaptions) override;
+    std::optional<std::string> InputBox(std::string_view prompt) override;
+    void ShowReport(const CommonRoutines::Report& report) override;
+    std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& request) override;
+    std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& request) override;
+    std::optional<std::string> ReadFile(const std::string& path) override;
+    bool ReplaceFile(const std::string& path, std::string_view content) override;
+    std::string TruePath(const std::string& path) override;
+    CommonRoutines::StateFolder& State() override { return m_state; }
+    std::string ProgramFolder() override;
+    void EnterProgramFolder() override;
+    std::string GetSetting(std::string_view section, std::string_view key) override;
+    void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override;
+    bool Print(std::span<const std::string> lines) override;
+    std::string Today() override;
+    std::string ShortTime() override;
+    void Beep() override;
+    void ShowBusy(bool busy) override;
+    void ShowProgress(std::string_view doing, double part) override;
+
+private:
+    CommonRoutines::BoxAnswer ShowBox(const QString& title, std::string_view text, CommonRoutines::BoxIcon icon,
+                                      CommonRoutines::BoxButtons buttons);
+    std::optional<std::string> Choose(QFileDialog& dialog, const CommonRoutines::FileRequest& request);
+
+    QPointer<QWidget> m_window;
+    QtStateFolder m_state;
+    LongWork m_work;
+};
+
+} // namespace Ui

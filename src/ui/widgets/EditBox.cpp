@@ -1,0 +1,88 @@
+#include "ui/widgets/EditBox.h"
+
+#include "edit/EditPanel.h"
+#include "ui/Text.h"
+
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+
+namespace Ui {
+
+namespace {
+
+constexpr int LongestEditable = 200'000;
+
+// The text as the data file can hold it, in one line.
+QString Allowed(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    text.replace(QLatin1Char('\r'), QLatin1Char(' '));
+    text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return Text::ToQt(Text::FromQt(text));
+}
+
+} // namespace
+
+EditBox::EditBox(QWidget* parent) : QLineEdit(parent) {
+    setMaxLength(LongestEditable);
+    connect(this, &QLineEdit::inputRejected, this, &EditBox::KeyRefused);
+    connect(this, &QLineEdit::textEdited, this, &EditBox::ReplaceForeignCharacters);
+    connect(this, &QLineEdit::textChanged, this, [this] { m_lastText = text(); });
+}
+
+void EditBox::ShowText(std::string_view text) {
+    const bool cutOff = text.size() > LongestEditable;
+    setReadOnly(cutOff);
+    setText(cutOff ? Text::ForList(text) : Text::ToQt(text));
+}
+
+// A file is for the window, a text for the box.
+void EditBox::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) {
+        event->ignore();
+    } else {
+        QLineEdit::dragEnterEvent(event);
+    }
+}
+
+bool EditBox::MayInsert(const QString& typed) const {
+    const char16_t code = typed.size() == 1 ? typed.at(0).unicode() : u'\0';
+    if (code < u' ' || code > u'|') {
+        return true;
+    }
+    const int caret = hasSelectedText() ? selectionStart() : cursorPosition();
+    return CommonRoutines::MayType(static_cast<char>(code), Text::FromQt(text()), static_cast<std::size_t>(caret));
+}
+
+void EditBox::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Undo) && !isUndoAvailable()) {
+        Q_EMIT NothingToUndo();
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        Q_EMIT Entered();
+    } else if (event->key() == Qt::Key_Escape) {
+        Q_EMIT Escaped();
+    } else if (!MayInsert(event->text())) {
+        Q_EMIT KeyRefused();
+    } else {
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+void EditBox::ReplaceForeignCharacters() {
+    const QString allowed = Allowed(text());
+    if (allowed == text()) {
+        return;
+    }
+    const qsizetype caret = Allowed(text().left(cursorPosition())).size();
+    // Setting a text forgets the typing. It is put back in two insertions, so that undo still finds
+    // something to take back here and does not reach past the box.
+    blockSignals(true);
+    setText({});
+    insert(m_lastText);
+    selectAll();
+    blockSignals(false);
+    insert(allowed);
+    setCursorPosition(static_cast<int>(caret));
+}
+
+} // namespace Ui

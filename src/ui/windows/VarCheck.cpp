@@ -1,0 +1,82 @@
+#include "ui/windows/VarCheck.h"
+
+#include "checks/ReportOutput.h"
+#include "core/State.h"
+#include "ui/Text.h"
+#include "ui/lists/ReportModel.h"
+#include "ui/lists/RowList.h"
+#include "ui/windows/Commands.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace Ui {
+
+using namespace CommonRoutines;
+
+namespace {
+
+constexpr QSize OpeningSize(640, 420);
+
+} // namespace
+
+VarCheck::VarCheck(const Report& report, Desktop& desktop, QWidget* parent)
+    : QDialog(parent), m_report(report), m_desktop(desktop) {
+    setObjectName(QStringLiteral("VarCheck"));
+    setWindowTitle(Text::ForList(report.sCaption));
+    setSizeGripEnabled(true);
+    resize(OpeningSize);
+    new QVBoxLayout(this);
+    BuildList();
+    BuildButtons();
+    List1->setFocus();
+}
+
+void VarCheck::BuildList() {
+    List1 = new RowList(this);
+    List1->setObjectName(QStringLiteral("List1"));
+    List1->setAccessibleName(tr("Findings"));
+    List1->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    List1->setModel(new ReportModel(m_report.Items, List1));
+    List1->setHeaderHidden(true);
+    List1->setTextElideMode(Qt::ElideNone);
+    // The column is as wide as what is visible of it, so that a long report opens at once.
+    List1->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    List1->header()->setResizeContentsPrecision(0);
+    layout()->addWidget(List1);
+}
+
+void VarCheck::BuildButtons() {
+    auto* buttons = new QDialogButtonBox(this);
+    auto* cbPrint = buttons->addButton(tr("Print"), QDialogButtonBox::ActionRole);
+    auto* cbSave = buttons->addButton(tr("Save List"), QDialogButtonBox::ActionRole);
+    auto* cbClose = buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
+    cbPrint->setObjectName(QStringLiteral("cbPrint"));
+    cbSave->setObjectName(QStringLiteral("cbSave"));
+    cbClose->setObjectName(QStringLiteral("cbClose"));
+    cbClose->setDefault(true);
+    for (QPushButton* button : {cbPrint, cbSave}) {
+        button->setAutoDefault(false);
+        button->setEnabled(m_report.bCanPrintAndSave);
+        button->setVisible(m_report.bCanPrintAndSave);
+    }
+    const auto onClick = [this](QPushButton* button, auto command) {
+        connect(button, &QPushButton::clicked, this,
+                [=, this] { Commands::Run(m_desktop, [=, this] { command(m_report, DataFile(), m_desktop); }); });
+    };
+    onClick(cbPrint, &PrintReport);
+    onClick(cbSave, &SaveReport);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout()->addWidget(buttons);
+}
+
+const std::string& VarCheck::DataFile() {
+    if (m_dataFile.empty()) {
+        m_dataFile = sDataFileName;
+    }
+    return m_dataFile;
+}
+
+} // namespace Ui

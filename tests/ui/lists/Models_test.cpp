@@ -1,0 +1,188 @@
+// The models keep the rules that the views rely on.
+
+#include "core/State.h"
+#include "file/DistrictList.h"
+#include "support/Reading.h"
+#include "support/Table.h"
+#include "ui/lists/ChangeModel.h"
+#include "ui/lists/CommentModels.h"
+#include "ui/lists/DistrictModel.h"
+#include "ui/lists/ReportModel.h"
+#include "ui/lists/VariationModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace CommonRoutines;
+using namespace Ui;
+
+namespace {
+
+// The tester reports as log messages whatever a model does wrong; here they fail the test.
+class ModelsTest : public StateTest {
+protected:
+    ModelsTest() { m_before = qInstallMessageHandler(&Report); }
+    ~ModelsTest() override { qInstallMessageHandler(m_before); }
+
+    static std::unique_ptr<QAbstractItemModelTester> Tester(QAbstractItemModel& model) {
+        return std::make_unique<QAbstractItemModelTester>(&model,
+                                                          QAbstractItemModelTester::FailureReportingMode::Warning);
+    }
+
+private:
+    static void Report(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
+        ADD_FAILURE() << text.toStdString();
+    }
+    QtMessageHandler m_before = nullptr;
+};
+
+QVariant Cell(const QAbstractItemModel& model, int row, int column = 0, int role = Qt::DisplayRole) {
+    return model.index(row, column).data(role);
+}
+
+} // namespace
+
+TEST_F(ModelsTest, TheDistrictModelKeepsTheRules) {
+    const std::int32_t alpha = AddDistrict("Alpha");
+    const std::int32_t beta = AddDistrict("Beta");
+    DistrictModel model;
+    const auto tester = Tester(model);
+    model.SetDistricts({beta, alpha});
+    EXPECT_EQ(model.rowCount(), 2);
+    EXPECT_EQ(model.columnCount(), 7);
+    EXPECT_EQ(Cell(model, 0), QStringLiteral("Beta"));
+    EXPECT_EQ(model.DistrictAt(0), beta);
+    EXPECT_EQ(model.RowOf(alpha), 1);
+    EXPECT_EQ(model.RowOf(99), -1);
+    model.SetDistricts({});
+    EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(ModelsTest, ADistrictsRowIsAnnouncedWhenItsStateHasChanged) {
+    const std::int32_t alpha = AddDistrict("Alpha");
+    const std::int32_t beta = AddDistrict("Beta");
+    DistrictModel model;
+    model.SetDistricts({beta, alpha});
+    const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    model.Refresh(alpha);
+    ASSERT_EQ(changed.size(), 1);
+    EXPECT_EQ(changed[0][0].toModelIndex(), model.index(1, 0));
+    EXPECT_EQ(changed[0][1].toModelIndex(), model.index(1, 6));
+    model.Refresh(99); // filtered out
+    EXPECT_EQ(changed.size(), 1);
+}
+
+TEST_F(ModelsTest, TheVariationModelKeepsTheRules) {
+    const std::int32_t alpha = AddDistrict("Alpha", {"One", "Two"});
+    VariationModel model;
+    const auto tester = Tester(model);
+    model.SetRows(alpha, {{2, VariationState::Plain}, {1, VariationState::Invalid}});
+    EXPECT_EQ(Cell(model, 0), QStringLiteral("Two"));
+    EXPECT_EQ(Cell(model, 1), QStringLiteral("One"));
+    EXPECT_EQ(Cell(model, 1, 0, Qt::ForegroundRole).value<QColor>(), QColor(236, 0, 0));
+    VariationAt(alpha, 2).Text = "Changed";
+    EXPECT_EQ(Cell(model, 0), QStringLiteral("Changed"));
+    model.SetRows(0, {});
+    EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(ModelsTest, TheCommentModelKeepsTheRules) {
+    CommentModel model;
+    const auto tester = Tester(model);
+    model.SetRows({{"SEAT", "of the county"}, {" ", "and more"}});
+    EXPECT_EQ(model.columnCount(), 2);
+    EXPECT_EQ(Cell(model, 0, 0), QStringLiteral("SEAT"));
+    EXPECT_EQ(Cell(model, 1, 1), QStringLiteral("and more"));
+    EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::DisplayRole), QStringLiteral("Type"));
+    EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::DisplayRole), QStringLiteral("Comment"));
+}
+
+TEST_F(ModelsTest, TheCommentTypeModelKeepsTheRules) {
+    CommentTypes.Reset();
+    CommentTypeModel model;
+    const auto tester = Tester(model);
+    CommentTypes.Add("SEAT");
+    model.Refresh();
+    EXPECT_EQ(model.rowCount(), 2);
+    EXPECT_EQ(Cell(model, 0), QStringLiteral(" All"));
+    EXPECT_EQ(Cell(model, 1), QStringLiteral("SEAT"));
+    CommentTypes.Reset();
+    model.Refresh();
+    EXPECT_EQ(model.rowCount(), 1);
+}
+
+TEST_F(ModelsTest, TheChangeModelKeepsTheRules) {
+    ChangeModel model;
+    const auto tester = Tester(model);
+    model.SetRows({{"Good"}, {"Bad", ChangeRow::Invalid}, {"Odd", ChangeRow::Valid, true}});
+    EXPECT_EQ(model.rowCount(), 3);
+    EXPECT_EQ(Cell(model, 1, 0, Qt::ForegroundRole).value<QColor>(), QColor(236, 0, 0));
+    EXPECT_EQ(Cell(model, 2, 0, Qt::ForegroundRole).value<QColor>(), QColor(204, 102, 0));
+    EXPECT_FALSE(model.flags(model.index(0, 0)).testFlag(Qt::ItemIsEditable));
+}
+
+TEST_F(ModelsTest, AProposalCanBeTickedAndUnticked) {
+    ChangeModel model;
+    model.SetRows({{"One"}, {"Two"}});
+    const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    EXPECT_FALSE(model.AnyChecked());
+    EXPECT_TRUE(model.setData(model.index(1, 0), Qt::Checked, Qt::CheckStateRole));
+    EXPECT_TRUE(model.AnyChecked());
+    EXPECT_TRUE(model.Rows()[1].bChecked);
+    EXPECT_EQ(Cell(model, 1, 0, Qt::CheckStateRole).toInt(), Qt::Checked);
+    EXPECT_EQ(changed.size(), 1);
+    EXPECT_TRUE(model.setData(model.index(1, 0), Qt::Unchecked, Qt::CheckStateRole));
+    EXPECT_FALSE(model.AnyChecked());
+    EXPECT_FALSE(model.setData(model.index(1, 0), QStringLiteral("typed"), Qt::EditRole));
+    EXPECT_EQ(Cell(model, 1), QStringLiteral("Two"));
+}
+
+TEST_F(ModelsTest, TheReportModelKeepsTheRules) {
+    const std::vector<std::string> items{"One", "Two\r\nlines"};
+    ReportModel model(items);
+    const auto tester = Tester(model);
+    EXPECT_EQ(model.rowCount(), 2);
+    EXPECT_EQ(Cell(model, 1), QStringLiteral("Two lines"));
+}
+
+// The rows that typing leads to, as the toolkit finds them by looking at one after the other.
+TEST_F(ModelsTest, TypingFindsTheDistrictThatALookAtEveryRowFinds) {
+    std::mt19937 random(41);
+    for (int round = 0; round < 40; ++round) {
+        ResetState();
+        for (auto count = random() % 30; count > 0; --count) {
+            std::string name;
+            for (auto length = 1 + random() % 4; length > 0; --length) {
+                name += "ABab\xE9\xC9 z"[random() % 8];
+            }
+            AddDistrict(name);
+        }
+        DistrictModel model;
+        model.SetDistricts(DistrictsByName());
+        for (const char* typed : {"a", "B", "ab", "\xC3\xA9", "a ", "z", "zz", "abab", "c"}) {
+            for (int row = 0; row < model.rowCount(); ++row) {
+                const auto start = model.index(row, 0);
+                const auto flags = Qt::MatchStartsWith | Qt::MatchWrap;
+                const QVariant text = QString::fromUtf8(typed);
+                ASSERT_EQ(model.match(start, Qt::DisplayRole, text, 1, flags),
+                          model.QAbstractTableModel::match(start, Qt::DisplayRole, text, 1, flags))
+                    << round << ' ' << typed << ' ' << row;
+            }
+        }
+    }
+}
+
+TEST_F(ModelsTest, OtherSearchesAmongDistrictsAreThoseOfTheToolkit) {
+    const std::int32_t alpha = AddDistrict("Alpha");
+    DistrictAt(alpha).County = "Kent";
+    DistrictModel model;
+    model.SetDistricts({alpha});
+    const auto beginning = Qt::MatchStartsWith | Qt::MatchWrap;
+    EXPECT_EQ(model.match(model.index(0, 2), Qt::DisplayRole, QStringLiteral("ke"), 1, beginning).size(), 1);
+    EXPECT_EQ(model.match(model.index(0, 0), Qt::DisplayRole, QStringLiteral("ph"), 1, Qt::MatchContains).size(), 1);
+    EXPECT_TRUE(model.match({}, Qt::DisplayRole, QStringLiteral("a"), 1, beginning).isEmpty());
+}

@@ -1,0 +1,158 @@
+// Choosing files to open and to save.
+
+#include "ui/machine/DesktopTest.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <unistd.h>
+
+using namespace CommonRoutines;
+
+namespace {
+
+class FileDialoguesTest : public DesktopTest {
+protected:
+    std::string Path(const char* name) const { return m_folder.filePath(QString::fromLatin1(name)).toStdString(); }
+    std::string Folder() const { return m_folder.path().toStdString(); }
+    std::string Existing(const char* name) const {
+        QFile file(m_folder.filePath(QString::fromLatin1(name)));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        return Path(name);
+    }
+    void ChooseNext(const std::string& path) {
+        guide.Next([path](QWidget& dialogue) { DialogueGuide::ChooseFile(dialogue, path); });
+    }
+    FileRequest InFolder() const { return {"", Folder(), "", ""}; }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+// To the superuser no file is read-only. Meanwhile the tests ask as somebody else.
+class AsOrdinaryUser {
+public:
+    AsOrdinaryUser() : m_real(getuid()) { Become(m_real == 0 ? Nobody : m_real); }
+    ~AsOrdinaryUser() { Become(m_real); }
+    AsOrdinaryUser(const AsOrdinaryUser&) = delete;
+    AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
+
+private:
+    static constexpr uid_t Nobody = 65534;
+    static void Become(uid_t user) { EXPECT_EQ(setreuid(user, static_cast<uid_t>(-1)), 0); }
+
+    uid_t m_real;
+};
+
+} // namespace
+
+TEST_F(FileDialoguesTest, AnExistingFileIsOpened) {
+    const std::string path = Existing("data.txt");
+    guide.Next([&](QWidget& dialogue) {
+        const auto& files = dynamic_cast<QFileDialog&>(dialogue);
+        EXPECT_EQ(files.windowTitle(), QStringLiteral("Open"));
+        EXPECT_EQ(files.acceptMode(), QFileDialog::AcceptOpen);
+        EXPECT_EQ(files.directory().path().toStdString(), Folder());
+        EXPECT_EQ(dialogue.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(), QString());
+        DialogueGuide::ChooseFile(dialogue, path);
+    });
+    EXPECT_EQ(desktop.ChooseFileToOpen(InFolder()), path);
+}
+
+TEST_F(FileDialoguesTest, AMissingFileIsNotOpened) {
+    guide.Next([this](QWidget& dialogue) {
+        PressNext("OK"); // that there is no such file
+        DialogueGuide::ChooseFile(dialogue, Path("missing.txt"));
+        EXPECT_TRUE(dialogue.isVisible());
+        dynamic_cast<QFileDialog&>(dialogue).reject();
+    });
+    EXPECT_EQ(desktop.ChooseFileToOpen(InFolder()), std::nullopt);
+}
+
+TEST_F(FileDialoguesTest, CancelChoosesNothing) {
+    PressNext("Cancel");
+    EXPECT_EQ(desktop.ChooseFileToOpen(InFolder()), std::nullopt);
+    PressNext("Cancel");
+    EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), std::nullopt);
+    KeyNext(Qt::Key_Escape);
+    EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), std::nullopt);
+}
+
+TEST_F(FileDialoguesTest, TheCallersTitleAndNameAreProposed) {
+    guide.Next([](QWidget& dialogue) {
+        EXPECT_EQ(dialogue.windowTitle(), QStringLiteral("Choose a list"));
+        EXPECT_EQ(dialogue.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(), QStringLiteral("list.txt"));
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(dialogue).acceptMode(), QFileDialog::AcceptSave);
+        DialogueGuide::Press(dialogue, "Save");
+    });
+    EXPECT_EQ(desktop.ChooseFileToSave({"Choose a list", Folder(), "list.txt", ""}), Path("list.txt"));
+}
+
+TEST_F(FileDialoguesTest, TheDefaultExtensionIsAddedToANameThatHasNone) {
+    FileRequest request = InFolder();
+    request.sDefaultExtension = "txt";
+    ChooseNext(Path("list"));
+    EXPECT_EQ(desktop.ChooseFileToSave(request), Path("list.txt"));
+    ChooseNext(Path("list.csv"));
+    EXPECT_EQ(desktop.ChooseFileToSave(request), Path("list.csv"));
+    ChooseNext(Path("plain"));
+    EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), Path("plain"));
+}
+
+TEST_F(FileDialoguesTest, AnExistingFileIsReplacedOnlyAfterAQuestion) {
+    const std::string path = Existing("data.txt");
+    guide.Next([&](QWidget& dialogue) {
+        guide.Next([](QWidget& question) {
+            EXPECT_TRUE(dynamic_cast<QMessageBox&>(question).text().contains(QStringLiteral("data.txt")));
+            DialogueGuide::Press(question, "No");
+        });
+        DialogueGuide::ChooseFile(dialogue, path);
+        EXPECT_TRUE(dialogue.isVisible());
+        PressNext("Yes");
+        DialogueGuide::ChooseFile(dialogue, path);
+    });
+    EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), path);
+}
+
+TEST_F(FileDialoguesTest, AReadOnlyFileIsRefusedAndTheDialogueComesAgain) {
+    const std::string path = Existing("data.txt");
+    constexpr QFile::Permissions forAllToRead = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    QFile::setPermissions(QString::fromStdString(path), forAllToRead);
+    QFile::setPermissions(QString::fromStdString(Folder()),
+                          forAllToRead | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
+    const AsOrdinaryUser user;
+    // The same dialogue comes up again, which the guide takes for answered.
+    QTimer again;
+    bool cameAgain = false;
+    guide.Next([&](QWidget& dialogue) {
+        PressNext("Yes");
+        guide.Next([](QWidget& refusal) {
+            EXPECT_EQ(dynamic_cast<QMessageBox&>(refusal).text(),
+                      QStringLiteral("This file is read-only. Please choose another name."));
+            DialogueGuide::Press(refusal, "OK");
+        });
+        DialogueGuide::ChooseFile(dialogue, path);
+        QObject::connect(&again, &QTimer::timeout, &dialogue, [&] {
+            if (QApplication::activeModalWidget() == &dialogue && guide.AllAnswered()) {
+                again.stop();
+                cameAgain = true;
+                dynamic_cast<QFileDialog&>(dialogue).reject();
+            }
+        });
+        again.start(10);
+    });
+    EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), std::nullopt);
+    EXPECT_TRUE(cameAgain);
+}
+
+TEST_F(FileDialoguesTest, AForeignFileNameComesThroughUnchanged) {
+    const std::string path = Path("d") + "\xC4\x85\xC3\xA9.txt";
+    ChooseNext(path);
+    EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), path);
+}

@@ -1,0 +1,192 @@
+// What the desktop does without asking: files, settings, the clock, the printer.
+
+#include "ui/machine/QtDesktop.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QLocale>
+#include <QPrinterInfo>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using namespace Ui;
+
+namespace {
+
+class MachineTest : public testing::Test {
+protected:
+    std::string Path(const char* name) const { return m_folder.filePath(QString::fromLatin1(name)).toStdString(); }
+    QStringList FilesInFolder() const { return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden); }
+
+    QtDesktop desktop;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+// Lets no file grow beyond a size, as a full disk would.
+class SmallDisk {
+public:
+    explicit SmallDisk(rlim_t size) : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small{size, m_before.rlim_max};
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    }
+    ~SmallDisk() {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+private:
+    void (*m_handler)(int);
+    rlimit m_before{};
+};
+
+} // namespace
+
+TEST_F(MachineTest, AFileComesBackByteForByte) {
+    std::string all;
+    for (int byte = 0; byte < 256; ++byte) {
+        all += static_cast<char>(byte);
+    }
+    all += "\r\n\n\r";
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), all));
+    EXPECT_EQ(desktop.ReadFile(Path("file")), all);
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), ""));
+    EXPECT_EQ(desktop.ReadFile(Path("file")), "");
+    EXPECT_EQ(FilesInFolder(), QStringList{QStringLiteral("file")});
+}
+
+TEST_F(MachineTest, WhatIsNoFileIsRefusedAtOnce) {
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), S_IRUSR | S_IWUSR), 0);
+    ASSERT_TRUE(QDir().mkdir(QString::fromStdString(Path("folder"))));
+    EXPECT_EQ(desktop.ReadFile(Path("pipe")), std::nullopt);
+    EXPECT_EQ(desktop.ReadFile(Path("folder")), std::nullopt);
+    EXPECT_EQ(desktop.ReadFile(Path("missing")), std::nullopt);
+    EXPECT_EQ(desktop.ReadFile(""), std::nullopt);
+}
+
+TEST_F(MachineTest, AFileInAMissingFolderCannotBeReplaced) {
+    EXPECT_FALSE(desktop.ReplaceFile(Path("missing/file"), "new"));
+    EXPECT_EQ(FilesInFolder(), QStringList());
+}
+
+TEST_F(MachineTest, AFolderCannotBeReplacedByAFile) {
+    ASSERT_TRUE(QDir().mkpath(QString::fromStdString(Path("folder/inner"))));
+    EXPECT_FALSE(desktop.ReplaceFile(Path("folder"), "new"));
+    EXPECT_TRUE(QDir(QString::fromStdString(Path("folder/inner"))).exists());
+}
+
+TEST_F(MachineTest, AWriteThatFailsHalfWayLeavesTheOldFile) {
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), "old"));
+    for (const std::size_t size : {std::size_t{5000}, std::size_t{500000}}) {
+        const SmallDisk disk(4096);
+        EXPECT_FALSE(desktop.ReplaceFile(Path("file"), std::string(size, 'x')));
+    }
+    EXPECT_EQ(desktop.ReadFile(Path("file")), "old");
+    EXPECT_EQ(FilesInFolder(), QStringList{QStringLiteral("file")});
+}
+
+TEST_F(MachineTest, WhatIsNoFileIsNeverReplaced) {
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_FALSE(desktop.ReplaceFile(Path("pipe"), "new"));
+    struct stat pipe {};
+    ASSERT_EQ(stat(Path("pipe").c_str(), &pipe), 0);
+    EXPECT_TRUE(S_ISFIFO(pipe.st_mode));
+    EXPECT_FALSE(desktop.ReplaceFile("/dev/null", "new"));
+}
+
+TEST_F(MachineTest, ALinkStaysALinkAndItsFileIsReplaced) {
+    ASSERT_TRUE(QDir().mkdir(QString::fromStdString(Path("folder"))));
+    ASSERT_TRUE(desktop.ReplaceFile(Path("folder/file"), "old"));
+    ASSERT_EQ(symlink("folder/file", Path("link").c_str()), 0);
+    EXPECT_TRUE(desktop.ReplaceFile(Path("link"), "new"));
+    struct stat link {};
+    ASSERT_EQ(lstat(Path("link").c_str(), &link), 0);
+    EXPECT_TRUE(S_ISLNK(link.st_mode));
+    EXPECT_EQ(desktop.ReadFile(Path("folder/file")), "new");
+}
+
+TEST_F(MachineTest, AReplacedFileKeepsItsPermissions) {
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), "old"));
+    ASSERT_EQ(chmod(Path("file").c_str(), S_IRUSR | S_IWUSR | S_IRGRP), 0);
+    EXPECT_TRUE(desktop.ReplaceFile(Path("file"), "new"));
+    struct stat file {};
+    ASSERT_EQ(stat(Path("file").c_str(), &file), 0);
+    EXPECT_EQ(file.st_mode & 0777U, static_cast<unsigned>(S_IRUSR | S_IWUSR | S_IRGRP));
+}
+
+TEST_F(MachineTest, AnotherNameOfTheFileKeepsTheOldContent) {
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), "old"));
+    ASSERT_EQ(link(Path("file").c_str(), Path("other").c_str()), 0);
+    EXPECT_TRUE(desktop.ReplaceFile(Path("file"), "new"));
+    EXPECT_EQ(desktop.ReadFile(Path("file")), "new");
+    EXPECT_EQ(desktop.ReadFile(Path("other")), "old");
+}
+
+TEST_F(MachineTest, SettingsComeBackAndAreEmptyUntilSaved) {
+    QSettings(QStringLiteral("Quexal"), QStringLiteral("QXEdit")).clear();
+    EXPECT_EQ(desktop.GetSetting("Paths", "InFile"), "");
+    desktop.SaveSetting("Paths", "InFile", "/home/user/d\xC4\x85ta");
+    desktop.SaveSetting("Paths", "ProcessFile", "C:");
+    QtDesktop later;
+    EXPECT_EQ(later.GetSetting("Paths", "InFile"), "/home/user/d\xC4\x85ta");
+    EXPECT_EQ(later.GetSetting("Paths", "ProcessFile"), "C:");
+}
+
+TEST_F(MachineTest, TheProgramsFolderCanBeMadeTheCurrentOne) {
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(QDir::rootPath());
+    EXPECT_EQ(desktop.ProgramFolder(), QCoreApplication::applicationDirPath().toStdString());
+    desktop.EnterProgramFolder();
+    EXPECT_EQ(QDir::currentPath().toStdString(), desktop.ProgramFolder());
+    QDir::setCurrent(before);
+}
+
+TEST_F(MachineTest, TodayIsDayMonthAndYear) {
+    const QLocale before;
+    QLocale::setDefault(QLocale::c());
+    const QString today = QString::fromStdString(desktop.Today());
+    EXPECT_TRUE(QRegularExpression(QStringLiteral("^[0-3][0-9] [A-Z][a-z][a-z] [0-9]{4}$")).match(today).hasMatch())
+        << today.toStdString();
+    const QDate date = QLocale::c().toDate(today, QStringLiteral("dd MMM yyyy"));
+    EXPECT_LE(std::abs(date.daysTo(QDate::currentDate())), 1);
+    QLocale::setDefault(before);
+}
+
+TEST_F(MachineTest, TheTimeIsHoursAndMinutes) {
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    const QString now = QString::fromStdString(desktop.ShortTime());
+    EXPECT_TRUE(QRegularExpression(QStringLiteral("^[0-2][0-9]:[0-5][0-9]$")).match(now).hasMatch())
+        << now.toStdString();
+    QLocale::setDefault(before);
+}
+
+TEST_F(MachineTest, WithoutAPrinterPrintingFails) {
+    if (!QPrinterInfo::availablePrinters().isEmpty()) {
+        GTEST_SKIP() << "this machine has a printer";
+    }
+    EXPECT_FALSE(desktop.Print(std::vector<std::string>{"One line"}));
+}
+
+TEST_F(MachineTest, TheWindowShowsThatTheProgramIsBusy) {
+    desktop.ShowBusy(true); // without a window nothing happens
+    QWidget window;
+    desktop.SetWindow(&window);
+    desktop.ShowBusy(true);
+    EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
+    desktop.ShowBusy(false);
+    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+}

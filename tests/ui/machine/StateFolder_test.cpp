@@ -1,0 +1,178 @@
+// The state folder on a real disk.
+
+#include "ui/machine/DurableFile.h"
+#include "ui/machine/QtDesktop.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace CommonRoutines;
+using namespace Ui;
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class StateFolderTest : public testing::Test {
+protected:
+    StateFolderTest() : m_before(qgetenv("XDG_STATE_HOME")) { qputenv("XDG_STATE_HOME", Home().toUtf8()); }
+    ~StateFolderTest() override { qputenv("XDG_STATE_HOME", m_before); }
+
+    QString Home() const { return m_home.filePath(QStringLiteral("states")); }
+    QString FolderPath() const { return Home() + QStringLiteral("/quexal-editor"); }
+
+private:
+    QTemporaryDir m_home;
+    QByteArray m_before;
+
+protected:
+    QtStateFolder folder;
+};
+
+// Does something in another process, which then dies without tidying up.
+template <typename Act>
+void InDyingProcess(Act act) {
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        act();
+        _exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+}
+
+} // namespace
+
+TEST_F(StateFolderTest, IsNotMadeByLookingIntoIt) {
+    EXPECT_EQ(folder.Names(), Texts());
+    EXPECT_EQ(folder.Read("a"), std::nullopt);
+    EXPECT_FALSE(QFileInfo::exists(FolderPath()));
+}
+
+TEST_F(StateFolderTest, IsOnlyForTheUser) {
+    ASSERT_TRUE(QDir().mkpath(FolderPath())); // one that was there before is no exception
+    ASSERT_TRUE(folder.Replace("a", "content"));
+    struct stat status {};
+    ASSERT_EQ(stat(FolderPath().toUtf8().constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0700U);
+}
+
+TEST_F(StateFolderTest, KeepsItsFilesInTheOrderOfTheirNames) {
+    ASSERT_TRUE(folder.Replace("b", "second"));
+    ASSERT_TRUE(folder.Replace("a", "first"));
+    EXPECT_EQ(folder.Names(), (Texts{"a", "b"}));
+    EXPECT_EQ(folder.Read("a"), "first");
+    EXPECT_TRUE(folder.Rename("a", "c"));
+    EXPECT_FALSE(folder.Rename("a", "d"));
+    EXPECT_TRUE(folder.Remove("b"));
+    EXPECT_FALSE(folder.Remove("b"));
+    EXPECT_EQ(folder.Names(), Texts{"c"});
+}
+
+TEST_F(StateFolderTest, GivesNamesThatGetGreater) {
+    std::string last;
+    for (int i = 0; i < 5; ++i) {
+        const std::string next = folder.NewName();
+        EXPECT_LT(last, next);
+        last = next;
+    }
+}
+
+TEST_F(StateFolderTest, LetsAFileGoOnBehindWhatIsKept) {
+    ASSERT_TRUE(folder.Replace("a", "0123456789"));
+    EXPECT_TRUE(folder.Extend("a", 10, "abc"));
+    EXPECT_EQ(folder.Read("a"), "0123456789abc");
+    EXPECT_TRUE(folder.Extend("a", 5, "x"));
+    EXPECT_EQ(folder.Read("a"), "01234x");
+    EXPECT_TRUE(folder.Extend("a", 0, ""));
+    EXPECT_EQ(folder.Read("a"), "");
+}
+
+TEST_F(StateFolderTest, ExtendsNothingThatIsShorterOrGone) {
+    ASSERT_TRUE(folder.Replace("a", "0123456789"));
+    EXPECT_FALSE(folder.Extend("a", 11, "abc"));
+    EXPECT_EQ(folder.Read("a"), "0123456789");
+    EXPECT_FALSE(folder.Extend("b", 0, "abc"));
+    EXPECT_EQ(folder.Names(), Texts{"a"});
+}
+
+TEST_F(StateFolderTest, IsMadeAgainWhenItHasGone) {
+    ASSERT_TRUE(folder.Replace("a", "content"));
+    ASSERT_TRUE(QDir(FolderPath()).removeRecursively());
+    EXPECT_FALSE(folder.Extend("a", 7, "more"));
+    EXPECT_TRUE(folder.Replace("a", "content, more"));
+    EXPECT_EQ(folder.Read("a"), "content, more");
+}
+
+TEST_F(StateFolderTest, LocksForOneEditorAtATime) {
+    QtStateFolder other;
+    EXPECT_EQ(folder.Lock("a.lock"), LockResult::Taken);
+    EXPECT_EQ(folder.Lock("a.lock"), LockResult::HeldByAnother);
+    EXPECT_EQ(other.Lock("a.lock"), LockResult::HeldByAnother);
+    EXPECT_EQ(folder.Names(), Texts{"a.lock"});
+    other.Unlock("a.lock"); // not its own
+    EXPECT_EQ(other.Lock("a.lock"), LockResult::HeldByAnother);
+    folder.Unlock("a.lock");
+    EXPECT_EQ(folder.Names(), Texts());
+    EXPECT_EQ(other.Lock("a.lock"), LockResult::Taken);
+}
+
+TEST_F(StateFolderTest, ALockOfAProcessThatDiedIsTakenOver) {
+    InDyingProcess([&] {
+        auto* theirs = new QtStateFolder; // never destroyed, so never unlocked
+        if (theirs->Lock("a.lock") != LockResult::Taken) {
+            QFile::remove(FolderPath());
+        }
+    });
+    ASSERT_EQ(folder.Names(), Texts{"a.lock"});
+    EXPECT_EQ(folder.Lock("a.lock"), LockResult::Taken);
+}
+
+TEST_F(StateFolderTest, ALockThatNobodyHasIsTakenOverWhateverIsInIt) {
+    ASSERT_TRUE(folder.Replace("a.lock", "")); // a process that died early has written nothing into it
+    EXPECT_EQ(folder.Lock("a.lock"), LockResult::Taken);
+    folder.Unlock("a.lock");
+    ASSERT_TRUE(folder.Replace("a.lock", "1\nquexal-editor\nhere\n"));
+    EXPECT_EQ(folder.Lock("a.lock"), LockResult::Taken);
+}
+
+TEST_F(StateFolderTest, WhereNothingCanBeMadeNothingIsLockedOrWritten) {
+    QFile blocker(Home());
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly)); // a file where a folder is needed
+    EXPECT_EQ(folder.Lock("a.lock"), LockResult::Impossible);
+    EXPECT_FALSE(folder.Replace("a", "content"));
+    EXPECT_EQ(folder.Names(), Texts());
+}
+
+TEST_F(StateFolderTest, SaysWhereAndWhenAFileWasWritten) {
+    ASSERT_TRUE(folder.Replace("a", "content"));
+    EXPECT_EQ(folder.PathOf("a"), (FolderPath() + QStringLiteral("/a")).toStdString());
+    const std::string now = QtDesktop().Today();
+    EXPECT_EQ(folder.TimeOf("a").substr(0, now.size()), now);
+    EXPECT_GT(folder.TimeOf("a").size(), now.size() + 3);
+}
+
+TEST_F(StateFolderTest, IsInTheHomeFolderUnlessTheUserSaysOtherwise) {
+    qputenv("XDG_STATE_HOME", "not/absolute");
+    EXPECT_EQ(folder.PathOf("a"), (QDir::homePath() + QStringLiteral("/.local/state/quexal-editor/a")).toStdString());
+}
+
+TEST_F(StateFolderTest, TheTruePathHasNoLinks) {
+    ASSERT_TRUE(folder.Replace("a", "content"));
+    const std::string target = QFileInfo(FolderPath()).canonicalFilePath().toStdString() + "/a";
+    const std::string link = (FolderPath() + QStringLiteral("/link")).toStdString();
+    ASSERT_EQ(symlink(target.c_str(), link.c_str()), 0);
+    QtDesktop desktop;
+    EXPECT_EQ(desktop.TruePath(link), target);
+    EXPECT_EQ(desktop.TruePath("/no/such/file"), "/no/such/file");
+}

@@ -1,0 +1,195 @@
+// Applying the proposals of the change list to the district, and taking that back.
+
+#include "ui/windows/ChangesTest.h"
+
+#include "edit/UndoJournal.h"
+
+using namespace CommonRoutines;
+
+namespace {
+
+const QString Elm = QStringLiteral("Elm");
+const QString Oak = QStringLiteral("Oak");
+
+// Four proposals are listed, one of them invalid.
+class ApplyingChangesTest : public ChangesTest {
+protected:
+    ApplyingChangesTest() {
+        OpenDistrict();
+        Process("Elm\n!Ash\nSm?th\nOak\n");
+    }
+    void ExpectAdded(int count) {
+        desktop.ExpectBox(std::to_string(count) + " New variations added.\r\n1 invalid variations were ignored",
+                          BoxIcon::Information);
+    }
+    QString Variations() { return Column("lvVariations").join(QLatin1Char(' ')); }
+};
+
+} // namespace
+
+TEST_F(ApplyingChangesTest, ApplyAllAddsEveryValidProposal) {
+    ExpectAdded(3);
+    Click("cbApplyAll");
+    EXPECT_EQ(Variations(), QStringLiteral("!Ash Alfa Betta Elm Oak"));
+    EXPECT_EQ(iEditMode, ChangesApplied);
+    EXPECT_TRUE(bChanged);
+    EXPECT_EQ(TextOf("lbApplyTo"), QString());
+    EXPECT_EQ(TextOf("lbUndo"), QStringLiteral("Add Oak to Alpha"));
+    EXPECT_TRUE(desktop.reports.empty());
+    ExpectEnabled("cbAdd cbDelete cbSaveVariations cbOpen cbSave cbClearSel cbCompleteCheck lbComments");
+}
+
+TEST_F(ApplyingChangesTest, ApplyAllAsSpellingMarksThem) {
+    ExpectAdded(3);
+    Click("cbApplyAllSpell");
+    EXPECT_EQ(Variations(), QStringLiteral("!Ash !Elm !Oak Alfa Betta"));
+    EXPECT_EQ(TextOf("lbUndo"), QStringLiteral("Add !Oak to Alpha"));
+}
+
+TEST_F(ApplyingChangesTest, ApplySelectedAddsTheTickedOnes) {
+    ClickBox(Elm);
+    ClickBox(QStringLiteral("!Ash"));
+    ExpectAdded(2);
+    Click("cbApplySelected");
+    EXPECT_EQ(Variations(), QStringLiteral("!Ash Alfa Betta Elm"));
+}
+
+TEST_F(ApplyingChangesTest, ApplySelectedAsSpellingMarksTheTickedOnes) {
+    ClickBox(Oak);
+    ExpectAdded(1);
+    Click("cbApplySelSpell");
+    EXPECT_EQ(Variations(), QStringLiteral("!Oak Alfa Betta"));
+}
+
+TEST_F(ApplyingChangesTest, RowsAndTicksStayWhereTheyAre) {
+    ClickBox(Oak);
+    ExpectAdded(1);
+    Click("cbApplySelected");
+    EXPECT_EQ(Column("LvChanges").size(), 4);
+    EXPECT_EQ(Ticked(), QStringList{Oak});
+    EXPECT_EQ(TextOf("lbSelectCount"), QStringLiteral("Selected=1"));
+    Click("cbClearSel");
+    EXPECT_EQ(Ticked(), QStringList());
+    EXPECT_EQ(iEditMode, ChangesApplied);
+    ExpectEnabled(
+        "cbAdd cbDelete cbSaveVariations cbOpen cbSave cbApplyAll cbApplyAllSpell cbCompleteCheck lbComments");
+}
+
+TEST_F(ApplyingChangesTest, ATickAfterApplyingOffersTheNextApplication) {
+    ExpectAdded(3);
+    Click("cbApplyAll");
+    ClickBox(Elm);
+    ExpectEnabled("cbAdd cbDelete cbSaveVariations cbOpen cbSave cbApplySelected cbApplySelSpell cbClearSel "
+                  "cbCompleteCheck lbComments cbEditSel");
+}
+
+TEST_F(ApplyingChangesTest, WithTheDistrictChosenAgainProposalsCanBeApplied) {
+    ClickBox(Oak);
+    ExpectAdded(1);
+    Click("cbApplySelected");
+    ClickRow("lvAlpha", QStringLiteral("Beta"));
+    EXPECT_EQ(iEditMode, DistrictIdle);
+    EXPECT_EQ(TextOf("lbApplyTo"), QStringLiteral("Beta"));
+    ExpectAdded(1);
+    Click("cbApplySelected");
+    EXPECT_EQ(Variations(), Oak);
+    EXPECT_EQ(TextOf("lbUndo"), QStringLiteral("Add Oak to Beta"));
+}
+
+TEST_F(ApplyingChangesTest, IgnoredProposalsAreListed) {
+    Process("ALFA\nElm\nalpha\n");
+    desktop.ExpectBox("1 New variations added.\r\n2 lines ignored which duplicate existing variations.",
+                      BoxIcon::Information);
+    Click("cbApplyAll");
+    ASSERT_EQ(desktop.reports.size(), 1U);
+    EXPECT_EQ(desktop.reports[0].sCaption, "Details of Duplicates");
+    EXPECT_EQ(desktop.reports[0].Items,
+              (std::vector<std::string>{"Variation ALFA duplicates Alfa", "Variation alpha duplicates Alpha"}));
+    EXPECT_TRUE(desktop.reports[0].bCanPrintAndSave);
+}
+
+TEST_F(ChangesTest, DuplicatesThatWereThereBeforeAreListedAndStayInTheSummary) {
+    OpenDistrict("|Alfa|ALFA");
+    desktop.reports.clear();
+    Process("alfa\n");
+    desktop.ExpectBox("0 New variations added.\r\n2 lines ignored which duplicate existing variations.",
+                      BoxIcon::Information);
+    Click("cbApplyAll");
+    ASSERT_EQ(desktop.reports.size(), 1U);
+    EXPECT_EQ(desktop.reports[0].Items,
+              (std::vector<std::string>{"Variation alfa duplicates Alfa",
+                                        "The following duplicates already existed in this district",
+                                        "Variation ALFA duplicates Alfa"}));
+    EXPECT_EQ(TextOf("lbWhyError"), QStringLiteral("1 Duplicates(Blue).\n"));
+    EXPECT_EQ(RowColour("lvVariations", QStringLiteral("Alfa")), QColor(0, 0, 255));
+    EXPECT_FALSE(bChanged);
+    EXPECT_EQ(iEditMode, ChangesApplied);
+    EXPECT_FALSE(Enabled("cbSave"));
+}
+
+TEST_F(ChangesTest, ADistrictWithoutVariationsStaysWithoutThemWhenNothingIsAdded) {
+    OpenDistrict("");
+    Process("Sm?th\n");
+    desktop.ExpectBox("0 New variations added.\r\n1 invalid variations were ignored", BoxIcon::Information);
+    Click("cbApplyAll");
+    EXPECT_EQ(Column("lvVariations"), QStringList());
+    EXPECT_EQ(iEditMode, ChangesApplied);
+    EXPECT_EQ(TextOf("lbUndo"), QString());
+}
+
+TEST_F(ChangesTest, NoToManyProposalsLeavesTheWindowAsItWas) {
+    OpenDistrict();
+    std::string content;
+    for (int i = 1; i <= 21; ++i) {
+        content += "Name " + std::to_string(i) + "\n";
+    }
+    Process(content);
+    desktop.ExpectBox("Warning - That will add approximately 21 Variations\r\nIs that what you want to do?",
+                      BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No);
+    Click("cbApplyAll");
+    EXPECT_EQ(Column("lvVariations").size(), 2);
+    EXPECT_EQ(iEditMode, DistrictIdle);
+    EXPECT_EQ(TextOf("lbApplyTo"), QStringLiteral("Alpha"));
+    EXPECT_FALSE(bChanged);
+    desktop.ExpectBox("Warning - That will add approximately 21 Variations\r\nIs that what you want to do?",
+                      BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
+    desktop.ExpectBox("21 New variations added.", BoxIcon::Information);
+    Click("cbApplyAll");
+    EXPECT_EQ(Column("lvVariations").size(), 23);
+}
+
+TEST_F(ApplyingChangesTest, UndoTakesAnApplicationBackOneByOne) {
+    ExpectAdded(3);
+    Click("cbApplyAll");
+    Click("cbUndo");
+    EXPECT_EQ(Variations(), QStringLiteral("!Ash Alfa Betta Elm"));
+    EXPECT_EQ(TextOf("lbUndo"), QStringLiteral("Add !Ash to Alpha"));
+    Click("cbUndo");
+    EXPECT_EQ(Variations(), QStringLiteral("Alfa Betta Elm"));
+    EXPECT_EQ(TextOf("lbUndo"), QStringLiteral("Add Elm to Alpha"));
+    Click("cbUndo");
+    EXPECT_EQ(Variations(), QStringLiteral("Alfa Betta"));
+    EXPECT_EQ(TextOf("lbUndo"), QString());
+    Click("cbUndo");
+    EXPECT_EQ(Variations(), QStringLiteral("Alfa Betta"));
+    EXPECT_EQ(iEditMode, DistrictIdle);
+}
+
+TEST_F(ApplyingChangesTest, UndoGoesBackToTheDistrictThatWasAppliedTo) {
+    ExpectAdded(3);
+    Click("cbApplyAll");
+    ClickRow("lvAlpha", QStringLiteral("Beta"));
+    Click("cbUndo");
+    EXPECT_EQ(Selected("lvAlpha"), QStringList{QStringLiteral("Alpha")});
+    EXPECT_EQ(Variations(), QStringLiteral("!Ash Alfa Betta Elm"));
+}
+
+TEST_F(ApplyingChangesTest, AppliedVariationsAreSaved) {
+    ClickBox(Oak);
+    ExpectAdded(1);
+    Click("cbApplySelSpell");
+    desktop.ExpectSave("/data/saved.txt");
+    desktop.ExpectBox("File Saved to /data/saved.txt", BoxIcon::Information);
+    Click("cbSave");
+    EXPECT_TRUE(desktop.files["/data/saved.txt"].starts_with(HeaderOf("Alpha") + "|Alfa|Betta|!Oak\r\n"));
+}

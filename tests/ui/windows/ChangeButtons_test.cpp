@@ -1,0 +1,200 @@
+// The commands beside the change list, other than applying it.
+
+#include "ui/windows/ChangesTest.h"
+
+using namespace CommonRoutines;
+
+namespace {
+
+const QString Elm = QStringLiteral("Elm");
+const QString Oak = QStringLiteral("Oak");
+const QString Alfa = QStringLiteral("Alfa");
+const QString Betta = QStringLiteral("Betta");
+
+// Two proposals are listed, the second of which the district has already.
+class ChangeButtonsTest : public ChangesTest {
+protected:
+    ChangeButtonsTest() {
+        OpenDistrict();
+        Process("Elm\nALFA\n!Oak\n");
+    }
+};
+
+// A change file is listed, but another data file has been opened since.
+class NoDistrictTest : public ChangesTest {
+protected:
+    NoDistrictTest() {
+        OpenDistrict();
+        Process("Elm\nOak\n");
+    }
+    void ExpectNothingButTicks(const char* enabled) {
+        ClickBox(Elm);
+        EXPECT_EQ(Ticked(), QStringList{Elm});
+        EXPECT_EQ(TextOf("lbSelectCount"), QStringLiteral("Selected=1"));
+        ExpectEnabled(enabled);
+        ClickText(Oak);
+        EXPECT_EQ(Ticked(), (QStringList{Elm, Oak}));
+        EXPECT_EQ(EditText(), QString());
+        EXPECT_EQ(TextOf("lbSelectCount"), QStringLiteral("Selected=2"));
+        ExpectEnabled(enabled);
+        ClickBox(Elm);
+        ClickBox(Oak);
+        EXPECT_EQ(Ticked(), QStringList());
+        EXPECT_EQ(TextOf("lbSelectCount"), QString());
+        ExpectEnabled(enabled);
+    }
+};
+
+} // namespace
+
+// Edit.
+
+TEST_F(ChangeButtonsTest, EditStartsAnAddWithTheTickedProposal) {
+    ClickBox(Elm);
+    Click("cbEditSel");
+    EXPECT_EQ(EditText(), Elm);
+    EXPECT_EQ(iEditMode, AddingAcceptable);
+    EXPECT_TRUE(BoxTicked("cbVariation"));
+    EXPECT_EQ(Ticked(), QStringList{Elm});
+    ExpectEnabled("cbCancel cbOk tbEdit");
+    Click("cbOk");
+    EXPECT_EQ(Column("lvVariations"), (QStringList{Alfa, Betta, Elm}));
+}
+
+TEST_F(ChangeButtonsTest, EditSaysWhatTheProposalRepeats) {
+    ClickBox(QStringLiteral("ALFA"));
+    Click("cbEditSel");
+    EXPECT_EQ(EditText(), QStringLiteral("ALFA"));
+    EXPECT_EQ(iEditMode, AddingUnacceptable);
+    EXPECT_EQ(TextOf("lbStatus"), QStringLiteral("Duplicates Alfa"));
+    ExpectEnabled("cbCancel tbEdit");
+}
+
+TEST_F(ChangeButtonsTest, EditReplacesTheTextOfTheSelectedVariation) {
+    ClickRow("lvVariations", Betta);
+    ClickBox(QStringLiteral("!Oak"));
+    Click("cbEditSel");
+    EXPECT_EQ(iEditMode, EditingVariation);
+    EXPECT_TRUE(BoxTicked("cbSpelling"));
+    Click("cbOk");
+    EXPECT_EQ(Column("lvVariations"), (QStringList{QStringLiteral("!Oak"), Alfa}));
+    EXPECT_EQ(TextOf("lbUndo"), QStringLiteral("Change Betta to !Oak"));
+}
+
+TEST_F(ChangeButtonsTest, TicksSurviveACancelledEdit) {
+    ClickBox(Elm);
+    Click("cbEditSel");
+    Click("cbCancel");
+    EXPECT_EQ(iEditMode, DistrictIdle);
+    EXPECT_EQ(Ticked(), QStringList{Elm});
+    EXPECT_EQ(TextOf("lbSelectCount"), QStringLiteral("Selected=1"));
+    EXPECT_TRUE(Enabled("cbApplySelected"));
+    EXPECT_TRUE(Enabled("cbClearSel"));
+}
+
+// Clear.
+
+TEST_F(ChangeButtonsTest, ClearUnticksAllProposals) {
+    ClickBox(Elm);
+    ClickBox(QStringLiteral("!Oak"));
+    Click("cbClearSel");
+    EXPECT_EQ(Ticked(), QStringList());
+    EXPECT_EQ(TextOf("lbSelectCount"), QString());
+    ExpectEnabled("cbAdd cbOpen tbEdit btnProcess cbApplyAll cbApplyAllSpell cbCompleteCheck lbComments");
+}
+
+TEST_F(ChangeButtonsTest, ClearLeavesTheTextBeingAddedAlone) {
+    ClickText(Elm);
+    Click("cbClearSel");
+    EXPECT_EQ(EditText(), Elm);
+    EXPECT_EQ(iEditMode, AddingAcceptable);
+    EXPECT_EQ(Ticked(), QStringList());
+}
+
+// The option boxes.
+
+TEST_F(ChangeButtonsTest, WithoutTickedRowsTheOptionsCannotBeChosen) {
+    ClickOption("cbSpelling");
+    EXPECT_FALSE(BoxTicked("cbSpelling"));
+    EXPECT_EQ(desktop.beeps, 1);
+    ClickOption("cbVariation");
+    EXPECT_FALSE(BoxTicked("cbVariation"));
+    EXPECT_EQ(desktop.beeps, 2);
+}
+
+TEST_F(ChangeButtonsTest, WithTickedRowsOneOfTheTwoOptionsCanBeChosen) {
+    ClickBox(Elm);
+    ClickOption("cbSpelling");
+    EXPECT_TRUE(BoxTicked("cbSpelling"));
+    ClickOption("cbVariation");
+    EXPECT_TRUE(BoxTicked("cbVariation"));
+    EXPECT_FALSE(BoxTicked("cbSpelling"));
+    ClickOption("cbSpelling");
+    EXPECT_TRUE(BoxTicked("cbSpelling"));
+    EXPECT_FALSE(BoxTicked("cbVariation"));
+    ClickOption("cbSpelling");
+    EXPECT_FALSE(BoxTicked("cbSpelling"));
+    EXPECT_FALSE(BoxTicked("cbVariation"));
+    EXPECT_EQ(desktop.beeps, 0);
+    EXPECT_EQ(iEditMode, DistrictIdle);
+}
+
+TEST_F(ChangeButtonsTest, WhileAProposalIsAddedVariationSaysWhatTheTextIs) {
+    ClickText(QStringLiteral("!Oak"));
+    ClickOption("cbVariation");
+    EXPECT_FALSE(BoxTicked("cbVariation"));
+    EXPECT_TRUE(BoxTicked("cbSpelling"));
+    ClickOption("cbSpelling");
+    EXPECT_FALSE(BoxTicked("cbSpelling"));
+    EXPECT_EQ(EditText(), QStringLiteral("!Oak"));
+    EXPECT_EQ(desktop.beeps, 0);
+}
+
+TEST_F(ChangeButtonsTest, WhileAProposalIsAddedSpellingMayBeTickedBesideVariation) {
+    ClickText(Elm);
+    ClickOption("cbSpelling");
+    EXPECT_TRUE(BoxTicked("cbSpelling"));
+    EXPECT_TRUE(BoxTicked("cbVariation"));
+    EXPECT_EQ(EditText(), Elm);
+}
+
+// No district.
+
+TEST_F(NoDistrictTest, InANewFileRowsCanOnlyBeTicked) {
+    OpenContent(HeaderOf("Gamma") + "\r\n");
+    ASSERT_EQ(Column("LvChanges"), (QStringList{Elm, Oak}));
+    ExpectNothingButTicks("cbOpen cbCompleteCheck lbComments");
+    EXPECT_EQ(iEditMode, FileOpen);
+}
+
+TEST_F(NoDistrictTest, TicksAreThereForTheNextDistrict) {
+    OpenContent(HeaderOf("Gamma") + "\r\n");
+    ClickBox(Oak);
+    ClickRow("lvAlpha", QStringLiteral("Gamma"));
+    EXPECT_TRUE(Enabled("cbApplySelected"));
+    desktop.ExpectBox("1 New variations added.", BoxIcon::Information);
+    Click("cbApplySelected");
+    EXPECT_EQ(Column("lvVariations"), QStringList{Oak});
+}
+
+TEST_F(NoDistrictTest, AfterACancelledOpeningThereIsNothingToApplyTo) {
+    desktop.ExpectOpen(std::nullopt);
+    Click("cbOpen");
+    ASSERT_EQ(lCurrentDistrict, 0);
+    ASSERT_TRUE(Enabled("cbApplyAll"));
+    Click("cbApplyAll");
+    Click("cbApplyAllSpell");
+    EXPECT_FALSE(bChanged);
+    EXPECT_EQ(Districts[0].lVariationCount, 0);
+    EXPECT_EQ(Column("lvVariations"), QStringList());
+    EXPECT_EQ(DistrictAt(1).lVariationCount, 2);
+}
+
+TEST_F(NoDistrictTest, AfterACancelledOpeningAChangeFileCanBeLookedAt) {
+    desktop.ExpectOpen(std::nullopt);
+    Click("cbOpen");
+    Process("Yew\nSm?th\n");
+    EXPECT_EQ(Column("LvChanges"), (QStringList{QStringLiteral("Yew"), QStringLiteral("Sm?th")}));
+    EXPECT_EQ(TextOf("lbWhyError"), QStringLiteral("1 invalid variations (red). "));
+    EXPECT_EQ(iEditMode, DistrictIdle);
+}

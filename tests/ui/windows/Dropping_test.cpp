@@ -1,0 +1,107 @@
+// Files that are dropped on the window, and what its empty lists say.
+
+#include "ui/windows/FormTest.h"
+
+#include "ui/widgets/EditBox.h"
+
+#include <QMimeData>
+
+using namespace CommonRoutines;
+using namespace Ui;
+
+namespace {
+
+class DroppingTest : public FormTest {
+protected:
+    // Drags files over a place of the window and drops them there. False when they were not taken.
+    bool Drop(const QStringList& paths, QWidget& on) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& dropped : paths) {
+            urls.append(QUrl::fromLocalFile(dropped));
+        }
+        data.setUrls(urls);
+        const QPoint place = on.rect().center();
+        QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&on, &enter);
+        if (!enter.isAccepted()) {
+            return false;
+        }
+        QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&on, &drop);
+        QApplication::processEvents();
+        return drop.isAccepted();
+    }
+
+    const QString path = QString::fromStdString(DataFilePath);
+};
+
+} // namespace
+
+TEST_F(DroppingTest, AFileIsOpened) {
+    desktop.files[DataFilePath] = HeaderOf("Alpha") + "|Ash\r\n";
+    EXPECT_TRUE(Drop({path}, *form));
+    EXPECT_EQ(Column("lvAlpha"), QStringList{QStringLiteral("Alpha")});
+    EXPECT_EQ(sDataFileName, DataFilePath);
+    EXPECT_EQ(desktop.settings["Paths/InFile"], "/data");
+}
+
+TEST_F(DroppingTest, AFileOnTheEditBoxIsOpenedToo) {
+    OpenContent(HeaderOf("Beta") + "\r\n", "/data/first.txt");
+    ClickRow("lvAlpha", QStringLiteral("Beta"));
+    desktop.files[DataFilePath] = HeaderOf("Alpha") + "|Ash\r\n";
+    EXPECT_TRUE(Drop({path}, Find<EditBox>("tbEdit")));
+    EXPECT_EQ(Column("lvAlpha"), QStringList{QStringLiteral("Alpha")});
+}
+
+TEST_F(DroppingTest, UnsavedChangesAreAskedAbout) {
+    OpenContent(HeaderOf("Beta") + "\r\n", "/data/first.txt");
+    desktop.files[DataFilePath] = HeaderOf("Alpha") + "|Ash\r\n";
+    bChanged = true;
+    ExpectLooseChanges(BoxAnswer::No);
+    EXPECT_TRUE(Drop({path}, *form));
+    EXPECT_EQ(Column("lvAlpha"), QStringList{QStringLiteral("Beta")});
+    ExpectLooseChanges(BoxAnswer::Yes);
+    EXPECT_TRUE(Drop({path}, *form));
+    EXPECT_EQ(Column("lvAlpha"), QStringList{QStringLiteral("Alpha")});
+}
+
+TEST_F(DroppingTest, SeveralFilesAreNotTaken) {
+    EXPECT_FALSE(Drop({path, path}, *form));
+    EXPECT_FALSE(Drop({}, *form));
+}
+
+TEST_F(DroppingTest, NothingIsTakenWhileNothingCanBeOpened) {
+    OpenContent(HeaderOf("Beta") + "|Ash\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Beta"));
+    Click("cbAdd");
+    ASSERT_FALSE(Enabled("cbOpen"));
+    EXPECT_FALSE(Drop({path}, *form));
+}
+
+TEST_F(DroppingTest, EmptyListsSayWhatToDo) {
+    EXPECT_EQ(Find<RowList>("lvAlpha").Hint(), QStringLiteral("Open a file, or drop one here, to see its districts"));
+    EXPECT_EQ(Find<RowList>("lvVariations").Hint(), QStringLiteral("Choose a district to see its variations"));
+    OpenContent(HeaderOf("Beta") + "\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Beta"));
+    EXPECT_EQ(Find<RowList>("lvVariations").Hint(),
+              QStringLiteral("This district has no variations: press Add to enter one"));
+}
+
+TEST_F(DroppingTest, AHintIsPaintedOnlyInAnEmptyList) {
+    auto& list = Find<RowList>("lvAlpha");
+    const auto isBlank = [&] {
+        const QImage image = list.viewport()->grab().toImage();
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y) != image.pixelColor(0, image.height() - 1)) {
+                    return false;
+                }
+            }
+        }
+        return true;
+    };
+    EXPECT_FALSE(isBlank());
+    list.SetHint({});
+    EXPECT_TRUE(isBlank());
+}

@@ -1,0 +1,131 @@
+// Texts of the data are shown as they are, whatever they look like.
+
+#include "ui/windows/FormTest.h"
+
+#include "ui/Text.h"
+#include "ui/lists/ChangeModel.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QTextDocument>
+
+using namespace CommonRoutines;
+using namespace Ui;
+
+namespace {
+
+// What the toolkit makes of a tooltip.
+QString Rendered(const QString& toolTip) {
+    if (!Qt::mightBeRichText(toolTip)) {
+        return toolTip;
+    }
+    QTextDocument document;
+    document.setHtml(toolTip);
+    return document.toPlainText();
+}
+
+const std::vector<std::string> LikeMarkup{"<img src=x>", "<b>A</b>", "A &amp; B", "&lt;", "<!-- A -->", "A<br>B"};
+
+} // namespace
+
+TEST_F(FormTest, TextsThatLookLikeMarkupAreShownAsTheyAre) {
+    for (const std::string& text : LikeMarkup) {
+        SCOPED_TRACE(text);
+        const QString shown = QString::fromStdString(text);
+        OpenContent("#QX_" + text + " " + text + "\r\n" + HeaderOf(text) + "|" + text + "|!" + text + "\r\n");
+        dynamic_cast<ChangeModel&>(*Find<RowList>("LvChanges").model()).SetRows({{text}});
+        Key("lvAlpha", Qt::Key_Home);
+        EXPECT_EQ(TextOf("lbApplyTo"), shown);
+        EXPECT_EQ(Column("lvAlpha"), QStringList{shown});
+        EXPECT_TRUE(Column("lvVariations").contains(shown));
+        EXPECT_EQ(Column("LvChanges"), QStringList{shown});
+        ClickRow("lvVariations", shown);
+        EXPECT_EQ(Find<QLineEdit>("tbEdit").text(), shown);
+        ClickRow("lvAlpha", shown); // back to where a file can be opened
+    }
+}
+
+TEST_F(FormTest, TooltipsShowTheTextsAsTheyAre) {
+    for (const std::string& text : LikeMarkup) {
+        SCOPED_TRACE(text);
+        OpenContent("#QX_NOTE " + text + "\r\n" + HeaderOf(text) + "|" + text + "\r\n");
+        dynamic_cast<ChangeModel&>(*Find<RowList>("LvChanges").model()).SetRows({{text}});
+        Key("lvAlpha", Qt::Key_Home);
+        const QString shown = QString::fromStdString(text);
+        for (const char* name : {"lvAlpha", "lvVariations", "LvChanges"}) {
+            const QModelIndex index = Find<RowList>(name).model()->index(0, 0);
+            const QString toolTip = Rendered(index.data(Qt::ToolTipRole).toString());
+            EXPECT_TRUE(toolTip.startsWith(shown)) << name << ": " << toolTip.toStdString();
+        }
+        const QModelIndex comment = Find<RowList>("lvComments").model()->index(0, 1);
+        EXPECT_EQ(Rendered(comment.data(Qt::ToolTipRole).toString()), shown);
+    }
+}
+
+TEST_F(FormTest, TooltipsAndScreenReadersSayTheStateThatTheColourShows) {
+    OpenContent(HeaderOf("Alpha") + "|Inva lid |War_n|Dup|dup|unUsual\r\n" + HeaderOf("Beta") + "|Betta\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    const auto toolTip = [this](const char* list, int row) {
+        return Rendered(Find<RowList>(list).model()->index(row, 0).data(Qt::ToolTipRole).toString());
+    };
+    const auto spoken = [this](const char* list, int row) {
+        return Find<RowList>(list).model()->index(row, 0).data(Qt::AccessibleTextRole).toString();
+    };
+    EXPECT_EQ(toolTip("lvAlpha", 0), QStringLiteral("Alpha - this district has problems"));
+    EXPECT_EQ(spoken("lvAlpha", 0), QStringLiteral("Alpha, has problems"));
+    EXPECT_EQ(toolTip("lvAlpha", 1), QStringLiteral("Beta"));
+    EXPECT_EQ(spoken("lvAlpha", 1), QStringLiteral("Beta"));
+    const QStringList words{QStringLiteral("Dup - duplicate"), QStringLiteral("dup - duplicate"),
+                            QStringLiteral("Inva lid  - invalid"), QStringLiteral("unUsual - unusual capitals"),
+                            QStringLiteral("War_n - warning")};
+    for (int row = 0; row < 5; ++row) {
+        EXPECT_EQ(toolTip("lvVariations", row), words[row]);
+        EXPECT_EQ(spoken("lvVariations", row), words[row]);
+    }
+}
+
+TEST(TextTest, ATooltipKeepsEveryBlank) {
+    for (const char* text : {"A  B", " A", "A ", "<  b >"}) {
+        EXPECT_EQ(Rendered(Text::ForToolTip(QString::fromLatin1(text))), QString::fromLatin1(text));
+    }
+}
+
+TEST(TextTest, InAListControlCharactersAreVisibleAndALineBreakIsABlank) {
+    EXPECT_EQ(Text::ForList("a\tb\r\nc\nd\x7F"), QStringLiteral("a\u21E5b c\uFFFDd\uFFFD"));
+}
+
+TEST(TextTest, InABoxALineBreakIsALineBreak) {
+    EXPECT_EQ(Text::ForBox("a\r\nb\tc"), QStringLiteral("a\nb\tc"));
+}
+
+TEST(TextTest, ATextOfUnreasonableLengthIsCutOff) {
+    const std::string longText(100000, 'x');
+    for (const QString& shown : {Text::ForBox(longText), Text::ForList(longText)}) {
+        EXPECT_LT(shown.size(), 5000);
+        EXPECT_TRUE(shown.endsWith(QChar(0x2026)));
+    }
+    EXPECT_EQ(Text::ForList(std::string(2000, 'x')), QString(2000, QLatin1Char('x')));
+}
+
+// What follows a long line in a prompt tells the user what to do.
+TEST(TextTest, ALineOfUnreasonableLengthDoesNotTakeTheOthersWithIt) {
+    const QString shown = Text::ForBox("First\r\n" + std::string(100000, 'x') + "\r\nQuit = Stop\r\n");
+    EXPECT_TRUE(shown.startsWith(QStringLiteral("First\nxxx")));
+    EXPECT_TRUE(shown.endsWith(QStringLiteral("\u2026\nQuit = Stop\n")));
+    EXPECT_EQ(Text::ForBox("a\r\nb"), QStringLiteral("a\nb"));
+    EXPECT_EQ(Text::ForBox(""), QString());
+}
+
+TEST(TextTest, EveryByteComesBackFromTheToolkit) {
+    std::string all;
+    for (int byte = 0; byte < 256; ++byte) {
+        all += static_cast<char>(byte);
+    }
+    EXPECT_EQ(Text::FromQt(Text::ToQt(all)), all);
+}
+
+TEST(TextTest, ACharacterThatTheDataFilesLackIsOneQuestionMark) {
+    EXPECT_EQ(Text::FromQt(QStringLiteral("a\u0105b")), "a?b");
+    EXPECT_EQ(Text::FromQt(QString::fromUcs4(U"a\U0001F600b")), "a?b");
+}

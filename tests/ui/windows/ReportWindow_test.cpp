@@ -1,0 +1,172 @@
+// The report window.
+
+#include "core/State.h"
+#include "support/ScriptedDesktop.h"
+#include "ui/lists/RowList.h"
+#include "ui/windows/VarCheck.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QStyledItemDelegate>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace CommonRoutines;
+using namespace Ui;
+
+namespace {
+
+class ReportWindowTest : public testing::Test {
+protected:
+    ReportWindowTest() {
+        ResetState();
+        sDataFileName = "C:\\data\\north.txt";
+    }
+
+    void Show() {
+        window = std::make_unique<VarCheck>(report, desktop, nullptr);
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    }
+    QPushButton& Button(const char* name) { return *window->findChild<QPushButton*>(QString::fromLatin1(name)); }
+    RowList& List() { return *window->findChild<RowList*>(QStringLiteral("List1")); }
+    void Click(const char* button) { QTest::mouseClick(&Button(button), Qt::LeftButton); }
+
+    ScriptedDesktop desktop;
+    Report report{"Duplicate Check", {"First finding", "Second\r\nfinding", "Third"}, true};
+    std::unique_ptr<VarCheck> window;
+    const std::vector<std::string> output{"Duplicate Check on File C:\\data\\north.txt",
+                                          "Check performed on 05 Mar 2026 at 14:07",
+                                          "",
+                                          "First finding",
+                                          "Second\r\nfinding",
+                                          "Third"};
+};
+
+// Counts how often the list asks for the size or the look of a row.
+class CountingDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        ++count;
+        QStyledItemDelegate::paint(painter, option, index);
+    }
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        ++count;
+        return QStyledItemDelegate::sizeHint(option, index);
+    }
+
+    mutable int count = 0;
+};
+
+} // namespace
+
+TEST_F(ReportWindowTest, ShowsTheLinesUnderItsCaption) {
+    Show();
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("Duplicate Check"));
+    const QAbstractItemModel& model = *List().model();
+    ASSERT_EQ(model.rowCount(), 3);
+    EXPECT_EQ(model.index(0, 0).data().toString(), QStringLiteral("First finding"));
+    EXPECT_EQ(model.index(1, 0).data().toString(), QStringLiteral("Second finding"));
+    EXPECT_EQ(Button("cbPrint").text(), QStringLiteral("Print"));
+    EXPECT_EQ(Button("cbSave").text(), QStringLiteral("Save List"));
+    EXPECT_EQ(Button("cbClose").text(), QStringLiteral("Close"));
+    EXPECT_FALSE(List().accessibleName().isEmpty());
+}
+
+TEST_F(ReportWindowTest, AReportOnlyToReadHasNoPrintAndNoSave) {
+    report.sCaption = "Read File Results";
+    report.bCanPrintAndSave = false;
+    Show();
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("Read File Results"));
+    EXPECT_FALSE(Button("cbPrint").isVisible() || Button("cbPrint").isEnabled());
+    EXPECT_FALSE(Button("cbSave").isVisible() || Button("cbSave").isEnabled());
+    EXPECT_TRUE(Button("cbClose").isVisible());
+}
+
+TEST_F(ReportWindowTest, PrintPrintsTheHeadingAndTheLines) {
+    Show();
+    Click("cbPrint");
+    EXPECT_EQ(desktop.printed, output);
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(ReportWindowTest, WithoutAPrinterAMessageSaysSo) {
+    desktop.hasPrinter = false;
+    desktop.ExpectBox("The list cannot be printed: there is no printer, or it did not accept the job.",
+                      BoxIcon::Exclamation);
+    Show();
+    Click("cbPrint");
+}
+
+TEST_F(ReportWindowTest, SaveListProposesANameInTheProgramsFolder) {
+    Show();
+    desktop.ExpectSave(std::nullopt);
+    Click("cbSave");
+    EXPECT_EQ(desktop.lastRequest.sFileName, "Dupe_north.txt");
+    EXPECT_EQ(desktop.lastRequest.sFolder, "/program");
+    EXPECT_EQ(desktop.lastRequest.sDefaultExtension, "txt");
+    EXPECT_TRUE(desktop.files.empty());
+}
+
+TEST_F(ReportWindowTest, SaveListWritesWhatPrintPrintsWithoutAMessage) {
+    desktop.files["/data/list.txt"] = "old";
+    Show();
+    desktop.ExpectSave("/data/list.txt");
+    Click("cbSave");
+    std::string content;
+    for (const std::string& line : output) {
+        content += line + "\r\n";
+    }
+    EXPECT_EQ(desktop.files["/data/list.txt"], content);
+}
+
+TEST_F(ReportWindowTest, TheReportStaysAboutTheFileItWasFirstUsedFor) {
+    Show();
+    Click("cbPrint");
+    sDataFileName = "/other/file.txt";
+    Click("cbPrint");
+    EXPECT_EQ(desktop.printed, output);
+}
+
+TEST_F(ReportWindowTest, EscAndCloseCloseTheWindow) {
+    Show();
+    QTest::keyClick(&List(), Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+    Show();
+    Click("cbClose");
+    EXPECT_FALSE(window->isVisible());
+    Show();
+    QTest::keyClick(&Button("cbClose"), Qt::Key_Return);
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(ReportWindowTest, CtrlCCopiesTheSelectedLines) {
+    Show();
+    QTest::keyClick(&List(), Qt::Key_Home);
+    QTest::keyClick(&List(), Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(&List(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("First finding\nSecond finding"));
+    QTest::keyClick(&List(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&List(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("First finding\nSecond finding\nThird"));
+}
+
+TEST_F(ReportWindowTest, OfALongReportOnlyTheVisibleLinesAreLookedAt) {
+    report.Items.assign(100000, "District Alpha has duplicate variations.");
+    window = std::make_unique<VarCheck>(report, desktop, nullptr);
+    CountingDelegate delegate;
+    List().setItemDelegate(&delegate);
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    QTest::keyClick(&List(), Qt::Key_End);
+    window->grab();
+    List().resizeColumnToContents(0);
+    EXPECT_EQ(List().SelectedRows(), std::vector<int>{99999});
+    EXPECT_GT(delegate.count, 10);
+    EXPECT_LT(delegate.count, 2000);
+    List().setItemDelegate(nullptr);
+}

@@ -1,0 +1,105 @@
+// The complete check, and the saving of selected variations.
+
+#include "ui/windows/FormTest.h"
+
+using namespace CommonRoutines;
+
+namespace {
+
+class WholeFileTest : public FormTest {
+protected:
+    void OpenTwo() {
+        OpenContent(HeaderOf("Alpha") + "|zeta|Alfa|Ma_ge\r\n# note\r\n" + HeaderOf("Beta") + "|ALFA\r\n");
+        desktop.reports.clear();
+    }
+    void ChooseAlpha() {
+        OpenTwo();
+        ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    }
+    void Select(const QString& text, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        ClickRow("lvVariations", text, modifiers);
+    }
+    void ExpectSaved(int count, const std::string& path) {
+        desktop.ExpectSave(path);
+        desktop.ExpectBox(std::to_string(count) + " Variations Saved to " + path, BoxIcon::Information);
+    }
+    void ExpectFinding() {
+        ASSERT_EQ(desktop.reports.size(), 1U);
+        EXPECT_EQ(desktop.reports[0].sCaption, "Duplicate Check");
+        EXPECT_EQ(desktop.reports[0].Items, std::vector<std::string>{"Alpha and Beta both use the variation Alfa"});
+        EXPECT_TRUE(desktop.reports[0].bCanPrintAndSave);
+        EXPECT_FALSE(desktop.busy);
+    }
+};
+
+} // namespace
+
+TEST_F(WholeFileTest, TheCheckReportsWhatIsUsedTwice) {
+    OpenTwo();
+    Click("cbCompleteCheck");
+    ExpectFinding();
+    EXPECT_EQ(iEditMode, FileOpen);
+}
+
+TEST_F(WholeFileTest, TheCheckClearsTheProblemsAndLeavesTheDistrictChosen) {
+    ChooseAlpha();
+    ASSERT_NE(TextOf("lbWhyError"), QString());
+    Click("cbCompleteCheck");
+    ExpectFinding();
+    EXPECT_EQ(TextOf("lbWhyError"), QString());
+    EXPECT_EQ(PaperOf("lbWhyError"), QColor(192, 192, 192));
+    EXPECT_EQ(iEditMode, DistrictIdle);
+    EXPECT_EQ(TextOf("lbApplyTo"), QStringLiteral("Alpha"));
+    EXPECT_FALSE(bChanged);
+}
+
+TEST_F(WholeFileTest, TheCheckSaysWhenNothingIsUsedTwice) {
+    OpenContent(HeaderOf("Alpha") + "\r\n");
+    desktop.reports.clear();
+    Click("cbCompleteCheck");
+    ASSERT_EQ(desktop.reports.size(), 1U);
+    EXPECT_EQ(desktop.reports[0].Items, std::vector<std::string>{"No duplicates found"});
+}
+
+TEST_F(WholeFileTest, TheSelectedVariationsAreSavedInTheOrderOfTheList) {
+    ChooseAlpha();
+    Select(QStringLiteral("zeta"));
+    Select(QStringLiteral("Alfa"), Qt::ControlModifier);
+    ExpectSaved(2, "/data/chosen.txt");
+    Click("cbSaveVariations");
+    EXPECT_EQ(desktop.files["/data/chosen.txt"], "Alfa\r\nzeta\r\n");
+    EXPECT_EQ(desktop.lastRequest.sTitle, "Open Variation Save File");
+    EXPECT_EQ(desktop.lastRequest.sFileName, "");
+    EXPECT_EQ(desktop.lastRequest.sDefaultExtension, "txt");
+    EXPECT_EQ(Selected("lvVariations").size(), 2);
+    EXPECT_EQ(iEditMode, SeveralSelected);
+}
+
+TEST_F(WholeFileTest, OneSelectedVariationIsSavedAsItIsInTheFile) {
+    OpenContent(HeaderOf("Alpha") + "|Caf\xE9 \x80  |Alfa\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    Select(QStringLiteral("Caf\u00E9 \u20AC  "));
+    ExpectSaved(1, "/data/chosen.txt");
+    Click("cbSaveVariations");
+    EXPECT_EQ(desktop.files["/data/chosen.txt"], "Caf\xE9 \x80  \r\n");
+}
+
+TEST_F(WholeFileTest, ACancelledDialogueSavesNothing) {
+    ChooseAlpha();
+    Select(QStringLiteral("zeta"));
+    const auto files = desktop.files;
+    desktop.ExpectSave(std::nullopt);
+    Click("cbSaveVariations");
+    EXPECT_EQ(desktop.files, files);
+}
+
+TEST_F(WholeFileTest, WithNothingSelectedAnEmptyFileIsSaved) {
+    ChooseAlpha();
+    Select(QStringLiteral("zeta"));
+    ClickBelowRows("lvVariations");
+    ASSERT_EQ(Selected("lvVariations"), QStringList());
+    desktop.files["/data/chosen.txt"] = "old";
+    ExpectSaved(0, "/data/chosen.txt");
+    Click("cbSaveVariations");
+    EXPECT_EQ(desktop.files["/data/chosen.txt"], "");
+}
