@@ -103,7 +103,6 @@ TEST_F(Markers, AgreeWithTheSlowRulesOnRandomTexts) {
     }
 }
 
-constexpr MarkerOptions Nothing{};
 constexpr MarkerOptions Spelling{.spelling = true};
 constexpr MarkerOptions Plain{.variation = true};
 constexpr MarkerOptions InYears{.validInYears = true};
@@ -115,7 +114,11 @@ MarkerOptions WithVolume(MarkerOptions options) {
 }
 
 TEST(MarkerOptionsOf, AnEmptyTextHasNoOption) {
-    EXPECT_EQ(MarkerOptionsOf(""), Nothing);
+    const MarkerOptions options = MarkerOptionsOf("");
+    EXPECT_FALSE(options.spelling);
+    EXPECT_FALSE(options.variation);
+    EXPECT_FALSE(options.validInYears);
+    EXPECT_FALSE(options.volume);
 }
 
 TEST(MarkerOptionsOf, AnOrdinaryNameIsAVariation) {
