@@ -45,6 +45,11 @@ TEST_F(ValidationWarnings, TheLastUnusualCharacterIsTheOneReported) {
     EXPECT_EQ(Verdict("Caf\xE9 Zo\xEB s"), "valid, warning: Unusual char at position 8 (Char=235)");
 }
 
+TEST_F(ValidationWarnings, ATildeBehindAnUnusualCharacterIsOrdinary) {
+    EXPECT_EQ(Verdict("Caf\xE9~"), "valid, warning: Unusual char at position 4 (Char=233)");
+    EXPECT_EQ(Verdict("Caf\xE9\x7F"), "valid, warning: Unusual char at position 5 (Char=127)");
+}
+
 TEST_F(ValidationWarnings, AnUnusualCharacterHidesTheMissingShriek) {
     EXPECT_EQ(Verdict("_\xE9_"), "valid, warning: Unusual char at position 2 (Char=233)");
 }
