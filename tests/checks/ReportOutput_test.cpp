@@ -13,6 +13,33 @@ using Texts = std::vector<std::string>;
 const Report TwoFindings{"Duplicate Check", {"Ash in North duplicates Ash in South", "Elm"}, true};
 const Report NoFindings{"Duplicate Check", {}, true};
 
+// Notes what a user would see happen, in its order.
+class WatchedDesktop : public ScriptedDesktop {
+public:
+    Texts seen;
+
+    std::optional<std::string> ChooseFileToSave(const FileRequest& request) override {
+        seen.emplace_back("dialogue");
+        return ScriptedDesktop::ChooseFileToSave(request);
+    }
+    bool ReplaceFile(const std::string& path, std::string_view content) override {
+        seen.emplace_back("written");
+        return ScriptedDesktop::ReplaceFile(path, content);
+    }
+    bool Print(std::span<const std::string> lines) override {
+        seen.emplace_back("printed");
+        return ScriptedDesktop::Print(lines);
+    }
+    BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override {
+        seen.emplace_back("box");
+        return ScriptedDesktop::MsgBox(text, icon, buttons);
+    }
+    void ShowBusy(bool isBusy) override {
+        seen.emplace_back(isBusy ? "busy" : "free");
+        ScriptedDesktop::ShowBusy(isBusy);
+    }
+};
+
 } // namespace
 
 // Lines
@@ -73,6 +100,20 @@ TEST(ReportOutputTest, SavingAsksForANameInTheProgramsFolder) {
     EXPECT_EQ(desktop.lastRequest.sTitle, "");
 }
 
+TEST(ReportOutputTest, SavingDoesNotAskBeforeItReplacesAFile) {
+    ScriptedDesktop desktop;
+    desktop.ExpectSave(std::nullopt);
+    SaveReport(TwoFindings, "/data/north.txt", desktop);
+    EXPECT_FALSE(desktop.lastRequest.bAskBeforeReplacing);
+}
+
+TEST(ReportOutputTest, SavingIsSeenToBeWorkUntilTheFileIsWritten) {
+    WatchedDesktop desktop;
+    desktop.ExpectSave("/reports/mine.txt");
+    SaveReport(TwoFindings, "/data/north.txt", desktop);
+    EXPECT_EQ(desktop.seen, (Texts{"dialogue", "busy", "written", "free"}));
+}
+
 TEST(ReportOutputTest, ASavedReportEndsEveryLineWithCrLf) {
     ScriptedDesktop desktop;
     desktop.ExpectSave("/reports/mine.txt");
@@ -121,6 +162,15 @@ TEST(ReportOutputTest, PrintingPrintsTheSameLinesAndSaysNothing) {
               (Texts{"Duplicate Check on File C:\\data\\north.txt", "Check performed on 05 Mar 2026 at 14:07", "",
                      "Ash in North duplicates Ash in South", "Elm"}));
     EXPECT_TRUE(desktop.files.empty());
+}
+
+TEST(ReportOutputTest, PrintingIsSeenToBeWorkUntilTheMessage) {
+    WatchedDesktop desktop;
+    desktop.hasPrinter = false;
+    desktop.ExpectBox("The list cannot be printed: there is no printer, or it did not accept the job.",
+                      BoxIcon::Exclamation);
+    PrintReport(TwoFindings, "/data/north.txt", desktop);
+    EXPECT_EQ(desktop.seen, (Texts{"busy", "printed", "free", "box"}));
 }
 
 TEST(ReportOutputTest, WithoutAPrinterAMessageSaysSo) {
