@@ -61,6 +61,12 @@ TEST(AnsiFromUtf8, PlainTextStaysAsItIs) {
     EXPECT_EQ(Ansi::FromUtf8("/home/me/Districts 1.txt"), "/home/me/Districts 1.txt");
 }
 
+TEST(AnsiFromUtf8, TheLastByteThatOpensTwoTakesOnlyOneMore) {
+    EXPECT_EQ(Ansi::FromUtf8("\xDF\xBF\xBF"), "??");
+    EXPECT_EQ(Ansi::FromUtf8("\xDFz"), "?z");
+    EXPECT_EQ(Ansi::FromUtf8("\xDF\xC3\xA9"), "?\xE9");
+}
+
 TEST(AnsiFromUtf8, SequencesOfTwoAndThreeBytesBecomeTheirCharacters) {
     EXPECT_EQ(Ansi::FromUtf8("Caf\xC3\xA9"), "Caf\xE9");
     EXPECT_EQ(Ansi::FromUtf8("\xE2\x82\xAC\xC5\xB8"), "\x80\x9F"); // euro, Y with diaeresis

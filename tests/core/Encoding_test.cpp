@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <set>
 
 using namespace CommonRoutines;
 
@@ -39,6 +40,23 @@ TEST(Encoding, BrokenSequencesAreWindows1252) {
     for (const char* bytes : {"Caf\xE9", "Caf\xC3\xA9 Caf\xE9", "\xC3", "\xA9", "\xC1\x81", "\xE0\x83\xA9",
                               "\xED\xA0\x80", "\xEF\xBB\xBF\xE9", "\xEF\xBB"}) {
         EXPECT_EQ(EncodingOf(bytes), Encoding::Windows1252) << bytes;
+    }
+}
+
+// From a byte that only continues to one that opens nothing, each before every other byte.
+TEST(Encoding, TwoBytesAreUtf8OnlyWhereTheyAreACharacterOfWindows1252) {
+    std::set<std::string> characters;
+    for (int code = 0; code < 256; ++code) {
+        std::string utf8;
+        Ansi::AppendUtf8(utf8, static_cast<char>(code));
+        characters.insert(utf8);
+    }
+    for (int lead = 0x80; lead < 256; ++lead) {
+        for (int second = 0; second < 256; ++second) {
+            const std::string bytes{static_cast<char>(lead), static_cast<char>(second)};
+            const Encoding expected = characters.contains(bytes) ? Encoding::Utf8 : Encoding::Windows1252;
+            ASSERT_EQ(EncodingOf(bytes), expected) << lead << ' ' << second;
+        }
     }
 }
 
