@@ -1,5 +1,6 @@
 #include "file/DistrictList.h"
 
+#include "core/UpperCase.h"
 #include "support/ScriptedDesktop.h"
 #include "support/Table.h"
 
@@ -123,6 +124,13 @@ TEST_F(DistrictListTest, OnlyNeighboursInTheListAreCompared) {
     AddDistrict("!Ash");
     AddDistrict("Ab");
     AddDistrict("Ash");
+    Report();
+}
+
+TEST_F(DistrictListTest, NamesThatOnlyShareAHashAreNotDuplicated) {
+    ASSERT_EQ(Ansi::HashUpper("ABERYSTWYTHWALES"), Ansi::HashUpper("SHQBRTXOWUFOOLEX"));
+    AddDistrict("Aberystwythwales");
+    AddDistrict("Shqbrtxowufoolex");
     Report();
 }
 

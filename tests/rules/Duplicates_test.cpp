@@ -1,6 +1,7 @@
 #include "rules/Duplicates.h"
 
 #include "core/State.h"
+#include "core/UpperCase.h"
 #include "support/Table.h"
 
 using namespace CommonRoutines;
@@ -57,6 +58,15 @@ TEST_F(Duplicates, DifferentVariationsAreNone) {
     const auto district = AddDistrict("Smithton", {"Abc", "Abd", "Ab", "%Abc"});
     EXPECT_FALSE(FindDuplicateVariations(district));
     EXPECT_EQ(Partners(district), (Slots{0, 0, 0, 0}));
+    EXPECT_EQ(Pairs(), Texts{});
+}
+
+TEST_F(Duplicates, VariationsThatOnlyShareAHashAreNone) {
+    ASSERT_EQ(Ansi::HashUpper("ABERYSTWYTHWALES"), Ansi::HashUpper("SHQBRTXOWUFOOLEX"));
+    const auto district = AddDistrict("Smithton", {"Aberystwythwales", "Shqbrtxowufoolex"});
+    EXPECT_FALSE(FindDuplicateVariations(district));
+    EXPECT_EQ(DistrictAt(district).iDuplicateCount, 0);
+    EXPECT_EQ(Partners(district), (Slots{0, 0}));
     EXPECT_EQ(Pairs(), Texts{});
 }
 
