@@ -27,13 +27,9 @@ bool OpensWithDateMark(std::string_view text) {
     return text.starts_with('%') || text.starts_with("!%");
 }
 
-// A lone "%" with nothing behind it, or with no name before it.
-bool IsPercentWithoutName(std::string_view text, const PercentSigns& percent) {
-    if (!percent.One()) {
-        return false;
-    }
-    const bool isLast = percent.first + 1 == text.size();
-    return isLast || (!OpensWithDateMark(text) && Ansi::Trim(text.substr(0, percent.first)).empty());
+// A lone "%" needs something behind it: a name, or a volume.
+bool IsLonePercentAtEnd(std::string_view text, const PercentSigns& percent) {
+    return percent.One() && percent.first + 1 == text.size();
 }
 
 // With two signs the first is the date mark and the last, not before the fourth character, opens the
@@ -149,7 +145,7 @@ bool ValidateVariation(std::string_view variation, [[maybe_unused]] std::int32_t
     const std::string_view trimmed = Ansi::Trim(variation);
     if ((classes & ClassPercent) != 0) {
         const PercentSigns percent(trimmed);
-        if (IsPercentWithoutName(trimmed, percent)) {
+        if (IsLonePercentAtEnd(trimmed, percent)) {
             return RefuseNullDistrict(bNullDistrict);
         }
         if (IsBadDependency(trimmed, percent)) {
