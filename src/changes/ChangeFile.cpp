@@ -12,12 +12,9 @@ namespace {
 constexpr auto None = std::string_view::npos;
 constexpr std::string_view HeadingRow = "<TR><TD>";
 
-// The part of a line between two places; empty when there is no such part.
+// The part of a line from a place to one that was looked for from there on; empty when it was not found.
 std::string Cut(std::string_view line, std::size_t from, std::size_t to) {
-    if (to == None || from > to || from >= line.size()) {
-        return {};
-    }
-    return std::string(Ansi::Trim(line.substr(from, to - from)));
+    return to == None ? std::string() : std::string(Ansi::Trim(line.substr(from, to - from)));
 }
 
 // The text of the first cell of a row whose tags carry attributes, in an upper-cased line.
