@@ -79,7 +79,7 @@ ChangeList ReadChanges(std::string_view content) {
     Lines lines(content);
     while (const auto line = lines.Next()) {
         std::string text = parser.ParseChangeLine(*line);
-        if (text.empty() || parser.IsBeforeRows()) {
+        if (text.empty()) {
             continue;
         }
         if (parser.IsHeading()) {
