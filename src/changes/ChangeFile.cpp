@@ -53,9 +53,8 @@ std::string ChangeLineParser::ParseChangeLine(std::string_view line) {
         return {};
     }
     if (Contains(upper, "<TR>")) {
-        const bool heading = upper.starts_with(HeadingRow);
-        iCellKind = heading ? 1 : 2;
-        return heading ? Cut(line, HeadingRow.size(), upper.find('<', HeadingRow.size())) : FirstCell(line, upper);
+        bHeading = upper.starts_with(HeadingRow);
+        return bHeading ? Cut(line, HeadingRow.size(), upper.find('<', HeadingRow.size())) : FirstCell(line, upper);
     }
     // What stands above the head of a page is no proposal.
     const bool aboveHead = upper.starts_with("<!DOCTYPE") || upper.starts_with("<HTML");

@@ -19,14 +19,11 @@ public:
     std::string ParseChangeLine(std::string_view line);
 
     // True when the last row line began exactly as a row of headings does.
-    [[nodiscard]] bool IsHeading() const { return iCellKind == 1; }
-
-    // True while only the top of a web page has been seen.
-    [[nodiscard]] bool IsBeforeRows() const { return iCellKind == 0 && bInHead; }
+    [[nodiscard]] bool IsHeading() const { return bHeading; }
 
 private:
-    std::int16_t iCellKind = 0; // 0 no row yet, 1 the last row line began with "<TR><TD>", 2 otherwise
-    bool bInHead = false;       // a line with "<HEAD>" has been seen
+    bool bHeading = false; // the last row line began with "<TR><TD>"
+    bool bInHead = false;  // a line with "<HEAD>" has been seen
 };
 
 // The proposals of a change file, and how many of them are bad.

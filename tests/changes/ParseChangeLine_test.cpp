@@ -42,7 +42,6 @@ public:
     }
 
     int cellKind = 0;
-    bool inHead = false;
 
 private:
     // The first place of a character at or after a position; 0 when there is none.
@@ -77,6 +76,8 @@ private:
         const std::size_t end = Place(start, upper, '<');
         return end == 0 ? "" : Slow::Trimmed(Mid(line, start, end - start));
     }
+
+    bool inHead = false;
 };
 
 } // namespace
@@ -100,7 +101,6 @@ TEST(ParseChangeLine, TheHeadYieldsNothingInAnyCase) {
                                         "<head><TR><TD>Elm</TD>", "<head><TABLE>"}) {
         ChangeLineParser parser;
         EXPECT_EQ(parser.ParseChangeLine(line), "") << line;
-        EXPECT_TRUE(parser.IsBeforeRows()) << line;
         EXPECT_EQ(parser.ParseChangeLine("Smyth"), "") << line;
     }
 }
@@ -167,9 +167,8 @@ TEST(ParseChangeLine, OnlyTheTextBeforeTheFirstTagOfTheCellCounts) {
 TEST(ParseChangeLine, ARowThatCannotBeCutYieldsNothingButCountsAsARow) {
     for (const std::string_view line : {"<TR>", "<TR><TD", "<TR><TD x", "<TR><TD x>", "<TR><TD x>Elm", "Elm<TR>"}) {
         ChangeLineParser parser;
-        EXPECT_EQ(parser.ParseChangeLine("<head>"), "");
+        EXPECT_EQ(parser.ParseChangeLine("<TR><TD>Name</TD>"), "Name");
         EXPECT_EQ(parser.ParseChangeLine(line), "") << line;
-        EXPECT_FALSE(parser.IsBeforeRows()) << line;
         EXPECT_FALSE(parser.IsHeading()) << line;
     }
     for (const std::string_view line : {"<TR><TD>", "<TR><TD>Elm", "  <TR><TD>Elm"}) {
@@ -192,7 +191,6 @@ TEST(ParseChangeLine, TheTopOfAPageYieldsNothing) {
          {"<!DOCTYPE html>", "  <!doctype HTML PUBLIC>", "<html>", " <HTML lang=\"en\">", "<html><body>Smyth"}) {
         ChangeLineParser parser;
         EXPECT_EQ(parser.ParseChangeLine(line), "") << line;
-        EXPECT_FALSE(parser.IsBeforeRows()) << line;
         EXPECT_EQ(parser.ParseChangeLine("Smyth"), "Smyth") << line;
     }
     EXPECT_EQ(Contribution("Smyth<html>"), "Smyth<html>");
@@ -209,16 +207,13 @@ TEST(ParseChangeLine, LinesWithoutARowBehindTheHeadYieldNothing) {
     }
 }
 
-TEST(ParseChangeLine, AHeadIsOnlyAwaitedUntilTheFirstRow) {
+TEST(ParseChangeLine, AHeadingIsRememberedUntilTheNextRow) {
     ChangeLineParser parser;
-    EXPECT_FALSE(parser.IsBeforeRows());
-    parser.ParseChangeLine("<head>");
-    EXPECT_TRUE(parser.IsBeforeRows());
+    EXPECT_FALSE(parser.IsHeading());
     parser.ParseChangeLine("<TR><TD>Name</TD>");
-    EXPECT_FALSE(parser.IsBeforeRows());
+    parser.ParseChangeLine("Smyth");
     EXPECT_TRUE(parser.IsHeading());
     parser.ParseChangeLine("<TR><TD x>Elm</TD>");
-    EXPECT_FALSE(parser.IsBeforeRows());
     EXPECT_FALSE(parser.IsHeading());
 }
 
@@ -243,7 +238,6 @@ TEST(ParseChangeLine, AgreesWithTheRulesWordForWordOnRandomPages) {
             }
             ASSERT_EQ(parser.ParseChangeLine(line), slow.Parse(line)) << line;
             ASSERT_EQ(parser.IsHeading(), slow.cellKind == 1) << line;
-            ASSERT_EQ(parser.IsBeforeRows(), slow.cellKind == 0 && slow.inHead) << line;
         }
     }
 }
