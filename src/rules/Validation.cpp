@@ -13,13 +13,12 @@ namespace {
 
 constexpr auto None = std::string_view::npos;
 
-// Where the percent signs of a trimmed text stand.
+// Where the percent signs of a trimmed text that has some stand.
 struct PercentSigns {
     std::size_t first;
     std::size_t last;
 
     explicit PercentSigns(std::string_view text) : first(text.find('%')), last(text.rfind('%')) {}
-    [[nodiscard]] bool One() const { return first != None && first == last; }
     [[nodiscard]] bool Several() const { return first != last; }
 };
 
@@ -29,7 +28,7 @@ bool OpensWithDateMark(std::string_view text) {
 
 // A lone "%" needs something behind it: a name, or a volume.
 bool IsLonePercentAtEnd(std::string_view text, const PercentSigns& percent) {
-    return percent.One() && percent.first + 1 == text.size();
+    return percent.first + 1 == text.size();
 }
 
 // With two signs the first is the date mark and the last, not before the fourth character, opens the
