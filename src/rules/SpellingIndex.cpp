@@ -28,6 +28,7 @@ Hashes HashesOf(const Spelling& spelling, std::string_view suffix) {
     std::string key = Ansi::Upper(spelling.base);
     key += spelling.hasDate ? '%' : '\0';
     const std::uint64_t anySuffix = SeededHash()(key);
+    key += '|'; // or no suffix would be the same as any
     return {anySuffix, SeededHash()(key.append(suffix))};
 }
 

@@ -89,6 +89,15 @@ TEST_F(HostileChanges, AHundredThousandDifferentProposalsAreAdded) {
     EXPECT_TRUE(bChanged);
 }
 
+TEST_F(HostileChanges, OneNameInAHundredThousandVolumesIsAddedAsQuickly) {
+    constexpr std::int32_t count = 100'000;
+    std::string content;
+    for (std::int32_t i = 0; i < count; ++i) {
+        content += "Betta%" + std::to_string(i) + "\n";
+    }
+    EXPECT_EQ(ApplyAll(ReadChanges(content)).added, count);
+}
+
 TEST_F(HostileChanges, ProposalsThatWereMadeToCollideAreAddedAsQuickly) {
     constexpr std::size_t pairs = 15;
     std::string content;
