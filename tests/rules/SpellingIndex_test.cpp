@@ -27,13 +27,16 @@ protected:
 
     void ChangeTheDistrict() {
         const std::int32_t count = DistrictAt(lCurrentDistrict).lVariationCount;
-        if (count == 0 || m_random() % 3 == 0) {
+        if (count == 0 || (count < MostSlots && m_random() % 3 == 0)) {
             AddSlot(Text());
         } else {
             const auto slot = static_cast<std::int32_t>(1 + m_random() % static_cast<unsigned>(count));
             StoreText(slot, m_random() % 3 == 0 ? std::string(DeletedText) : Text());
         }
     }
+
+    // What the walk takes grows with the slots, and most changes are of texts, not of their number.
+    static constexpr std::int32_t MostSlots = 32;
 
     std::mt19937 m_random{31};
 };
