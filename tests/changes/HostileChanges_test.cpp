@@ -11,7 +11,7 @@ using namespace CommonRoutines;
 namespace {
 
 constexpr std::size_t Million = 1'000'000;
-constexpr std::size_t HundredMegabytes = 100 * Million;
+constexpr std::size_t TenMegabytes = 10 * Million;
 
 class HostileChanges : public StateTest {
 protected:
@@ -47,16 +47,16 @@ std::string Colliding(std::size_t number, std::size_t pairs) {
 
 } // namespace
 
-TEST_F(HostileChanges, ALineOfAHundredMegabytesIsOneProposal) {
-    const ChangeList list = ReadChanges(std::string(HundredMegabytes, 'X') + "\r\n");
+TEST_F(HostileChanges, ALineOfTenMegabytesIsOneProposal) {
+    const ChangeList list = ReadChanges(std::string(TenMegabytes, 'X') + "\r\n");
     ASSERT_EQ(list.rows.size(), 1U);
-    EXPECT_EQ(list.rows[0].sText.size(), HundredMegabytes);
+    EXPECT_EQ(list.rows[0].sText.size(), TenMegabytes);
     EXPECT_EQ(list.rows[0].iTag, ChangeRow::Valid);
 }
 
 TEST_F(HostileChanges, ALineOfNothingButTagsIsReadOnce) {
     std::string line = "<TR ";
-    while (line.size() < 10 * Million) {
+    while (line.size() < TenMegabytes) {
         line += "<TR><TD";
     }
     EXPECT_TRUE(ReadChanges(line + "\r\n").rows.empty());

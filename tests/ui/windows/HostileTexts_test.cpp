@@ -53,8 +53,8 @@ protected:
 
 } // namespace
 
-TEST_F(HostileTexts, AVariationOfAHundredMegabytesIsShownByItsBeginning) {
-    OpenDistrict("|" + std::string(HundredMegabytes, 'X') + "|Alfa");
+TEST_F(HostileTexts, AVariationOfTenMegabytesIsShownByItsBeginning) {
+    OpenDistrict("|" + std::string(TenMegabytes, 'X') + "|Alfa");
     ExpectCutOff("lvVariations");
     form->grab();
     SelectLast();
