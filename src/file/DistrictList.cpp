@@ -12,25 +12,13 @@
 
 namespace CommonRoutines {
 
-std::string DistrictCell(const DistrictRecord& record, std::size_t column) {
-    switch (column) {
-    case 0:
-        return record.Name;
-    case 1:
-        return record.Volume;
-    case 2:
-        return record.County;
-    case 3:
-        return std::to_string(record.Founded);
-    case 4:
-        return std::to_string(record.QtrF);
-    case 5:
-        return std::to_string(record.Abolished);
-    case 6:
-        return std::to_string(record.QtrA);
-    default:
-        return {};
+std::string DistrictCell(const DistrictRecord& record, std::size_t column, std::size_t longest) {
+    const auto& field = DistrictColumnTable[column].field;
+    if (const auto* number = std::get_if<std::int16_t DistrictRecord::*>(&field)) {
+        return std::to_string(record.**number);
     }
+    const auto text = std::get<Ansi::String DistrictRecord::*>(field);
+    return std::string((record.*text).View().substr(0, longest));
 }
 
 bool DistrictHasProblem(const DistrictRecord& record) {

@@ -7,17 +7,37 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 namespace CommonRoutines {
 
 class Desktop;
 
-// The columns of the districts list.
-inline constexpr std::array<std::string_view, 7> DistrictHeadings{"Name", "Volume",    "County", "Founded",
-                                                                  "QtrF", "Abolished", "QtrA"};
+// A column of the districts list.
+struct DistrictColumn {
+    std::string_view heading;
+    std::variant<Ansi::String DistrictRecord::*, std::int16_t DistrictRecord::*> field;
+    std::string_view padding; // how much wider than its widest cell the column is
+};
 
-[[nodiscard]] std::string DistrictCell(const DistrictRecord& record, std::size_t column);
+// The columns of the districts list. The first is the name, by which the list is sorted.
+inline constexpr auto DistrictColumnTable = std::to_array<DistrictColumn>({
+    {"Name", &DistrictRecord::Name, "W"},
+    {"Volume", &DistrictRecord::Volume, "WW"},
+    {"County", &DistrictRecord::County, "WW"},
+    {"Founded", &DistrictRecord::Founded, "WW"},
+    {"QtrF", &DistrictRecord::QtrF, "WW"},
+    {"Abolished", &DistrictRecord::Abolished, "WW"},
+    {"QtrA", &DistrictRecord::QtrA, "WW"},
+});
+
+// The same table under the name of its headings, for who only counts them.
+inline constexpr const auto& DistrictHeadings = DistrictColumnTable;
+
+// What a district has in a column of the table; of a text no more than its first `longest` characters.
+[[nodiscard]] std::string DistrictCell(const DistrictRecord& record, std::size_t column,
+                                       std::size_t longest = std::string_view::npos);
 
 // True when anything is wrong with the district or its variations; its row is then red.
 [[nodiscard]] bool DistrictHasProblem(const DistrictRecord& record);

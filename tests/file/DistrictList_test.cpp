@@ -34,10 +34,19 @@ TEST_F(DistrictListTest, TheColumnsShowTheHeaderInItsOwnNumbers) {
     record.Abolished = 9999;
     record.QtrA = 0;
     std::string row;
-    for (std::size_t column = 0; column < DistrictHeadings.size(); ++column) {
-        row += std::string(DistrictHeadings[column]) + "=" + DistrictCell(record, column) + ";";
+    for (std::size_t column = 0; column < DistrictColumnTable.size(); ++column) {
+        row += std::string(DistrictColumnTable[column].heading) + "=" + DistrictCell(record, column) + ";";
     }
     EXPECT_EQ(row, "Name=Ash;Volume=12;County= Shire ;Founded=1837;QtrF=-3;Abolished=9999;QtrA=0;");
+}
+
+TEST_F(DistrictListTest, OfALongTextOnlyTheBeginningThatIsAskedForIsCopied) {
+    DistrictRecord record;
+    record.Name = "Ashton-under-Lyne";
+    record.Founded = 1837;
+    EXPECT_EQ(DistrictCell(record, 0, 6), "Ashton");
+    EXPECT_EQ(DistrictCell(record, 0, 17), "Ashton-under-Lyne");
+    EXPECT_EQ(DistrictCell(record, 3, 2), "1837");
 }
 
 TEST_F(DistrictListTest, DistrictsAreSortedByUpperCasedNameAndCharacterCode) {

@@ -1,6 +1,5 @@
 #include "ui/lists/DistrictColumns.h"
 
-#include "file/DistrictList.h"
 #include "ui/Text.h"
 
 #include <algorithm>
@@ -15,6 +14,7 @@ namespace {
 
 constexpr std::size_t CharacterCount = 256;
 constexpr std::size_t NumberCount = 65536;
+constexpr std::string_view HeadingPadding = "WW";
 
 // Advances are added up as whole numbers, which is fast; a single one that is not measured yet makes the
 // sum too large to be one.
@@ -33,7 +33,7 @@ constexpr double Slack = 2;
 DistrictColumns::DistrictColumns(const QFont& font)
     : m_metrics(font), m_pairAdvances(CharacterCount * CharacterCount, NotMeasured) {
     for (std::size_t column = 0; column < ColumnCount; ++column) {
-        m_widths[column] = MeasureTextWidth("WW" + std::string(DistrictHeadings[column]), 0);
+        m_widths[column] = MeasureTextWidth(std::string(HeadingPadding).append(DistrictColumnTable[column].heading), 0);
     }
 }
 
@@ -42,26 +42,23 @@ int DistrictColumns::MeasureTextWidth(std::string_view text, int minimum) const 
 }
 
 void DistrictColumns::AddDistrictRow(const DistrictRecord& record) {
-    Widen(0, record.Name, "W");
-    Widen(1, record.Volume, "WW");
-    Widen(2, record.County, "WW");
-    WidenForNumber(3, record.Founded);
-    WidenForNumber(4, record.QtrF);
-    WidenForNumber(5, record.Abolished);
-    WidenForNumber(6, record.QtrA);
+    for (std::size_t column = 0; column < ColumnCount; ++column) {
+        std::visit([&](auto field) { Widen(column, record.*field); }, DistrictColumnTable[column].field);
+    }
 }
 
-void DistrictColumns::WidenForNumber(std::size_t column, std::int16_t number) {
+void DistrictColumns::Widen(std::size_t column, std::int16_t number) {
     std::vector<bool>& seen = m_seenNumbers[column];
     seen.resize(NumberCount);
     const auto place = static_cast<std::uint16_t>(number);
     if (!seen[place]) {
         seen[place] = true;
-        Widen(column, std::to_string(number), "WW");
+        Widen(column, std::to_string(number));
     }
 }
 
-void DistrictColumns::Widen(std::size_t column, std::string_view text, std::string_view padding) {
+void DistrictColumns::Widen(std::size_t column, std::string_view text) {
+    const std::string_view padding = DistrictColumnTable[column].padding;
     text = text.substr(0, Text::LongestShown + 1); // enough to be cut off like the whole
     // Measuring a text is a hundred times as dear as adding up its letters, and hardly ever needed.
     if (UpperBound(text) + UpperBound(padding) + Slack > m_widths[column] &&

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Records.h"
+#include "file/DistrictList.h"
 
 #include <QFontMetricsF>
 
@@ -16,7 +16,7 @@
 namespace Ui {
 
 // The widths of the columns of the districts list, in pixels of a font: every column as wide as its
-// widest text, or its heading, plus a padding.
+// widest text, or its heading, plus a padding. The columns are those of DistrictColumnTable.
 class DistrictColumns {
 public:
     explicit DistrictColumns(const QFont& font);
@@ -30,10 +30,10 @@ public:
     [[nodiscard]] int MeasureTextWidth(std::string_view text, int minimum) const;
 
 private:
-    static constexpr std::size_t ColumnCount = 7;
+    static constexpr std::size_t ColumnCount = CommonRoutines::DistrictColumnTable.size();
 
-    void Widen(std::size_t column, std::string_view text, std::string_view padding);
-    void WidenForNumber(std::size_t column, std::int16_t number);
+    void Widen(std::size_t column, std::string_view text);
+    void Widen(std::size_t column, std::int16_t number);
     [[nodiscard]] double UpperBound(std::string_view text);
     [[nodiscard]] std::uint64_t SumOfAdvances(std::string_view text) const;
     void MeasurePairs(std::string_view text);

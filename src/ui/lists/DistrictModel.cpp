@@ -14,23 +14,8 @@ namespace Ui {
 
 using namespace CommonRoutines;
 
-namespace {
-
-// A cell as the list shows it; of a name as long as its file, no more is copied than that.
-QString CellText(const DistrictRecord& record, int column) {
-    switch (column) {
-    case 0:
-        return Text::ForList(record.Name);
-    case 1:
-        return Text::ForList(record.Volume);
-    case 2:
-        return Text::ForList(record.County);
-    default:
-        return Text::ToQt(DistrictCell(record, static_cast<std::size_t>(column)));
-    }
-}
-
-} // namespace
+static_assert(DistrictColumnTable[0].field == decltype(DistrictColumn::field)(&DistrictRecord::Name),
+              "type-ahead finds a district by its first column");
 
 void DistrictModel::SetDistricts(std::vector<std::int32_t> districts) {
     beginResetModel();
@@ -54,12 +39,14 @@ int DistrictModel::rowCount(const QModelIndex& parent) const {
 }
 
 int DistrictModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(DistrictHeadings.size());
+    return parent.isValid() ? 0 : static_cast<int>(DistrictColumnTable.size());
 }
 
 QVariant DistrictModel::data(const QModelIndex& index, int role) const {
     const DistrictRecord& record = RecordOf(DistrictAt(index.row()));
-    const QString text = CellText(record, index.column());
+    // Of a name as long as its file, no more is copied than what is shown and told.
+    const QString text =
+        Text::ForList(DistrictCell(record, static_cast<std::size_t>(index.column()), Text::LongestShown + 1));
     const bool problem = DistrictHasProblem(record);
     switch (role) {
     case Qt::DisplayRole:
@@ -80,7 +67,7 @@ QVariant DistrictModel::headerData(int section, Qt::Orientation orientation, int
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    return Text::ToQt(DistrictHeadings[static_cast<std::size_t>(section)]);
+    return Text::ToQt(DistrictColumnTable[static_cast<std::size_t>(section)].heading);
 }
 
 QModelIndexList DistrictModel::match(const QModelIndex& start, int role, const QVariant& value, int hits,

@@ -18,12 +18,14 @@ int Measure(const QFont& font, const std::string& text) {
     return qRound(QFontMetricsF(font).horizontalAdvance(Text::ForList(text)));
 }
 
+using Widths = std::array<int, DistrictColumnTable.size()>;
+
 // The rule carried out plainly: every heading and every cell is measured.
-std::array<int, 7> WidthsByTheRule(const QFont& font, const std::vector<DistrictRecord>& records) {
-    std::array<int, 7> widths{};
+Widths WidthsByTheRule(const QFont& font, const std::vector<DistrictRecord>& records) {
+    Widths widths{};
     for (std::size_t column = 0; column < widths.size(); ++column) {
         const std::string padding = column == 0 ? "W" : "WW";
-        widths[column] = Measure(font, "WW" + std::string(DistrictHeadings[column]));
+        widths[column] = Measure(font, "WW" + std::string(DistrictColumnTable[column].heading));
         for (const DistrictRecord& record : records) {
             widths[column] = std::max(widths[column], Measure(font, DistrictCell(record, column) + padding));
         }
@@ -36,9 +38,9 @@ void ExpectTheRule(const QFont& font, const std::vector<DistrictRecord>& records
     for (const DistrictRecord& record : records) {
         columns.AddDistrictRow(record);
     }
-    const std::array<int, 7> expected = WidthsByTheRule(font, records);
+    const Widths expected = WidthsByTheRule(font, records);
     for (std::size_t column = 0; column < expected.size(); ++column) {
-        EXPECT_EQ(columns.Width(column), expected[column]) << DistrictHeadings[column];
+        EXPECT_EQ(columns.Width(column), expected[column]) << DistrictColumnTable[column].heading;
     }
 }
 
