@@ -9,18 +9,25 @@ namespace CommonRoutines {
 
 namespace {
 
+using CountsOfStates = std::array<std::int32_t, VariationStateCount>;
+
 std::string Summary(const DistrictRecord& record) {
     std::string summary;
-    if (record.lInvalidCount > 0) {
-        summary += std::to_string(record.lInvalidCount) + " Invalid (red).\r\n";
-    }
-    if (record.iDuplicateCount > 0) {
-        summary += std::to_string(record.iDuplicateCount) + " Duplicates(Blue).\r\n";
-    }
-    if (record.lWarningCount > 0) {
-        summary += std::to_string(record.lWarningCount) + " warnings (Brown).";
+    for (const VariationStateFacts& facts : VariationStateTable) {
+        if (facts.count != nullptr && record.*facts.count > 0) {
+            summary += std::to_string(record.*facts.count).append(facts.summary);
+        }
     }
     return summary;
+}
+
+void StoreCounts(DistrictRecord& record, const CountsOfStates& counts) {
+    record.iQuestionCount = 0;
+    for (const VariationStateFacts& facts : VariationStateTable) {
+        if (facts.countedBy == CountedBy::List) {
+            record.*facts.count = counts[static_cast<std::size_t>(facts.state)];
+        }
+    }
 }
 
 } // namespace
@@ -40,25 +47,22 @@ VariationState StateOfVariation(const VariationRecord& variation, std::int32_t l
 
 VariationList ListVariations(std::int32_t lDistrict) {
     DistrictRecord& record = RecordOf(lDistrict);
-    record.iQuestionCount = 0;
-    record.lInvalidCount = 0;
-    record.lWarningCount = 0;
-
     const auto variationAt = [&](std::int32_t i) -> const VariationRecord& {
         return record.Variations[static_cast<std::size_t>(i)];
     };
+    CountsOfStates counts{};
     VariationList list;
     for (std::int32_t i = 1; i <= record.lVariationCount; ++i) {
         if (variationAt(i).IsDeleted()) {
             continue;
         }
         const VariationState state = StateOfVariation(variationAt(i), lDistrict);
-        record.lInvalidCount += state == VariationState::Invalid ? 1 : 0;
-        record.lWarningCount += state == VariationState::Warning ? 1 : 0;
+        ++counts[static_cast<std::size_t>(state)];
         list.rows.push_back({i, state});
     }
     Ansi::SortByUpperCase(list.rows,
                           [&](const VariationRow& row) -> std::string_view { return variationAt(row.lIndex).Text; });
+    StoreCounts(record, counts);
     list.summary = Summary(record);
     return list;
 }

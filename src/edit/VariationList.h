@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Records.h"
+#include "edit/VariationStates.h"
 
 #include <cstdint>
 #include <string>
@@ -8,9 +9,6 @@
 #include <vector>
 
 namespace CommonRoutines {
-
-// What is to be said about a variation; the first that applies, in this order.
-enum class VariationState { Invalid, Warning, Duplicate, UnusualCaps, Plain };
 
 // A row of lvVariations. Its text is that of the variation.
 struct VariationRow {
@@ -26,8 +24,8 @@ struct VariationList {
 // Runs the checks of a variation, leaving the state of ValidateVariation.
 [[nodiscard]] VariationState StateOfVariation(const VariationRecord& variation, std::int32_t lDistrict);
 
-// Lists the variations of a district, deleted slots aside. Writes the invalid and warning counts of
-// the district's record and sets its question count to 0.
+// Lists the variations of a district, deleted slots aside. Writes the counts of the district's record that
+// the table of states leaves to the list, and sets its question count to 0.
 [[nodiscard]] VariationList ListVariations(std::int32_t lDistrict);
 
 } // namespace CommonRoutines

@@ -2,6 +2,7 @@
 
 #include "ui/Text.h"
 #include "ui/lists/StateColours.h"
+#include "ui/lists/StateWords.h"
 
 #include <QGuiApplication>
 
@@ -20,16 +21,16 @@ VariationState StateOf(const ChangeRow& row) {
     return row.iTag == ChangeRow::Invalid ? VariationState::Invalid : VariationState::Plain;
 }
 
-QString StateInWords(const ChangeRow& row) {
+QString RowInWords(const ChangeRow& row) {
     QString words;
     if (row.iTag == ChangeRow::Heading) {
         words += QObject::tr(" - heading");
     }
     if (row.iTag == ChangeRow::Invalid) {
-        words += QObject::tr(" - invalid");
+        words += StateInWords(VariationState::Invalid);
     }
     if (row.bWarning) {
-        words += QObject::tr(" - warning");
+        words += StateInWords(VariationState::Warning);
     }
     return words;
 }
@@ -71,7 +72,7 @@ QVariant ChangeModel::data(const QModelIndex& index, int role) const {
         return row.bChecked ? Qt::Checked : Qt::Unchecked;
     case Qt::AccessibleTextRole:
     case Qt::ToolTipRole: {
-        const QString words = Text::ForList(row.sText) + StateInWords(row);
+        const QString words = Text::ForList(row.sText) + RowInWords(row);
         return role == Qt::ToolTipRole ? Text::ForToolTip(words) : words;
     }
     default:

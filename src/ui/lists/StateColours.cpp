@@ -8,39 +8,14 @@ namespace {
 
 constexpr int DarkBelow = 128;
 
-// Shades of the same hues that stand out from dark backgrounds with a contrast of more than 4.5 to 1.
-QColor OnDark(VariationState state) {
-    switch (state) {
-    case VariationState::Invalid:
-        return {255, 128, 128};
-    case VariationState::Warning:
-        return {255, 170, 85};
-    case VariationState::Duplicate:
-        return {150, 170, 255};
-    case VariationState::UnusualCaps:
-        return {110, 210, 110};
-    case VariationState::Plain:
-        break;
-    }
-    return Qt::white;
+QColor ColourOf(const CommonRoutines::Rgb& rgb) {
+    return {rgb.red, rgb.green, rgb.blue};
 }
 
 } // namespace
 
 QColor OnLight(VariationState state) {
-    switch (state) {
-    case VariationState::Invalid:
-        return {236, 0, 0};
-    case VariationState::Warning:
-        return {204, 102, 0};
-    case VariationState::Duplicate:
-        return {0, 0, 255};
-    case VariationState::UnusualCaps:
-        return {0, 128, 0};
-    case VariationState::Plain:
-        break;
-    }
-    return Qt::black;
+    return ColourOf(FactsOf(state).onLight);
 }
 
 QColor InList(VariationState state, const QPalette& palette) {
@@ -48,7 +23,7 @@ QColor InList(VariationState state, const QPalette& palette) {
         return palette.color(QPalette::Text);
     }
     const bool dark = palette.color(QPalette::Base).lightness() < DarkBelow;
-    return dark ? OnDark(state) : OnLight(state);
+    return dark ? ColourOf(FactsOf(state).onDark) : OnLight(state);
 }
 
 QColor Hint(const QPalette& palette) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "edit/VariationList.h"
+#include "edit/VariationStates.h"
 
 #include <QColor>
 #include <QPalette>

@@ -3,6 +3,7 @@
 #include "core/State.h"
 #include "ui/Text.h"
 #include "ui/lists/StateColours.h"
+#include "ui/lists/StateWords.h"
 
 #include <QGuiApplication>
 
@@ -11,26 +12,6 @@
 namespace Ui {
 
 using namespace CommonRoutines;
-
-namespace {
-
-QString StateInWords(VariationState state) {
-    switch (state) {
-    case VariationState::Invalid:
-        return QObject::tr("invalid");
-    case VariationState::Warning:
-        return QObject::tr("warning");
-    case VariationState::Duplicate:
-        return QObject::tr("duplicate");
-    case VariationState::UnusualCaps:
-        return QObject::tr("unusual capitals");
-    case VariationState::Plain:
-        break;
-    }
-    return {};
-}
-
-} // namespace
 
 void VariationModel::SetRows(std::int32_t district, std::vector<VariationRow> rows) {
     beginResetModel();
@@ -68,9 +49,7 @@ QVariant VariationModel::data(const QModelIndex& index, int role) const {
         return StateColours::InList(state, QGuiApplication::palette());
     case Qt::AccessibleTextRole:
     case Qt::ToolTipRole: {
-        const QString text = Text::ForList(VariationAt(index.row()).Text);
-        const QString words =
-            state == VariationState::Plain ? text : text + QStringLiteral(" - ") + StateInWords(state);
+        const QString words = Text::ForList(VariationAt(index.row()).Text) + StateInWords(state);
         return role == Qt::ToolTipRole ? Text::ForToolTip(words) : words;
     }
     default:

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 using CommonRoutines::VariationState;
 using StateColours::InList;
@@ -11,8 +12,18 @@ using StateColours::OnLight;
 
 namespace {
 
-constexpr std::array Coloured{VariationState::Invalid, VariationState::Warning, VariationState::Duplicate,
-                              VariationState::UnusualCaps};
+// Every state that there is something to say of.
+std::vector<VariationState> ColouredStates() {
+    std::vector<VariationState> states;
+    for (const CommonRoutines::VariationStateFacts& facts : CommonRoutines::VariationStateTable) {
+        if (facts.state != VariationState::Plain) {
+            states.push_back(facts.state);
+        }
+    }
+    return states;
+}
+
+const std::vector<VariationState> Coloured = ColouredStates();
 
 // Contrast as the Web Content Accessibility Guidelines define it.
 double Linear(double channel) {
