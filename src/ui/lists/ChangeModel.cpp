@@ -24,7 +24,7 @@ VariationState StateOf(const ChangeRow& row) {
 QString RowInWords(const ChangeRow& row) {
     QString words;
     if (row.iTag == ChangeRow::Heading) {
-        words += QObject::tr(" - heading");
+        words += QStringLiteral(" - heading");
     }
     if (row.iTag == ChangeRow::Invalid) {
         words += StateInWords(VariationState::Invalid);
@@ -105,7 +105,8 @@ Qt::ItemFlags ChangeModel::flags(const QModelIndex& index) const {
 }
 
 QVariant ChangeModel::headerData(int /*section*/, Qt::Orientation orientation, int role) const {
-    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(tr("Proposed variation")) : QVariant();
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(QStringLiteral("Proposed variation"))
+                                                                    : QVariant();
 }
 
 } // namespace Ui

@@ -37,7 +37,7 @@ QVariant CommentModel::headerData(int section, Qt::Orientation orientation, int 
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    return section == 0 ? tr("Type") : tr("Comment");
+    return section == 0 ? QStringLiteral("Type") : QStringLiteral("Comment");
 }
 
 void CommentTypeModel::Refresh() {
@@ -65,7 +65,8 @@ QVariant CommentTypeModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant CommentTypeModel::headerData(int /*section*/, Qt::Orientation orientation, int role) const {
-    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(tr("Comment type")) : QVariant();
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(QStringLiteral("Comment type"))
+                                                                    : QVariant();
 }
 
 } // namespace Ui

@@ -55,9 +55,9 @@ QVariant DistrictModel::data(const QModelIndex& index, int role) const {
         return StateColours::InList(problem ? VariationState::Invalid : VariationState::Plain,
                                     QGuiApplication::palette());
     case Qt::AccessibleTextRole:
-        return problem ? text + tr(", has problems") : text;
+        return problem ? text + QStringLiteral(", has problems") : text;
     case Qt::ToolTipRole:
-        return Text::ForToolTip(problem ? text + tr(" - this district has problems") : text);
+        return Text::ForToolTip(problem ? text + QStringLiteral(" - this district has problems") : text);
     default:
         return {};
     }

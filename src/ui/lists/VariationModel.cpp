@@ -58,7 +58,8 @@ QVariant VariationModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant VariationModel::headerData(int /*section*/, Qt::Orientation orientation, int role) const {
-    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(tr("Variation")) : QVariant();
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(QStringLiteral("Variation"))
+                                                                    : QVariant();
 }
 
 } // namespace Ui

@@ -175,13 +175,13 @@ std::optional<std::string> QtDesktop::Choose(QFileDialog& dialog, const FileRequ
 }
 
 std::optional<std::string> QtDesktop::ChooseFileToOpen(const FileRequest& request) {
-    QFileDialog dialog(m_window, QObject::tr("Open"));
+    QFileDialog dialog(m_window, QStringLiteral("Open"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     return Choose(dialog, request);
 }
 
 std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& request) {
-    QFileDialog dialog(m_window, QObject::tr("Save As"));
+    QFileDialog dialog(m_window, QStringLiteral("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.bAskBeforeReplacing);
     for (;;) {

@@ -37,7 +37,7 @@ VarCheck::VarCheck(const Report& report, Desktop& desktop, QWidget* parent)
 void VarCheck::BuildList() {
     List1 = new RowList(this);
     List1->setObjectName(QStringLiteral("List1"));
-    List1->setAccessibleName(tr("Findings"));
+    List1->setAccessibleName(QStringLiteral("Findings"));
     List1->setSelectionMode(QAbstractItemView::ExtendedSelection);
     List1->setModel(new ReportModel(m_report.Items, List1));
     List1->setHeaderHidden(true);
@@ -50,9 +50,9 @@ void VarCheck::BuildList() {
 
 void VarCheck::BuildButtons() {
     auto* buttons = new QDialogButtonBox(this);
-    auto* cbPrint = buttons->addButton(tr("Print"), QDialogButtonBox::ActionRole);
-    auto* cbSave = buttons->addButton(tr("Save List"), QDialogButtonBox::ActionRole);
-    auto* cbClose = buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
+    auto* cbPrint = buttons->addButton(QStringLiteral("Print"), QDialogButtonBox::ActionRole);
+    auto* cbSave = buttons->addButton(QStringLiteral("Save List"), QDialogButtonBox::ActionRole);
+    auto* cbClose = buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
     cbPrint->setObjectName(QStringLiteral("cbPrint"));
     cbSave->setObjectName(QStringLiteral("cbSave"));
     cbClose->setObjectName(QStringLiteral("cbClose"));
