@@ -1,6 +1,6 @@
 // Reads any bytes as a change file and applies all of its proposals.
 
-#include "QuietDesktop.h"
+#include "FuzzDesktop.h"
 
 #include "changes/ApplyChanges.h"
 #include "changes/ChangeFile.h"
@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     ResetState();
     CommentTypes.Reset();
     ClearUndoRing();
-    QuietDesktop desktop("Ashby+1+Kent+1837+3+9999+0+A+B|Ashbye|!Asby\r\n", "");
+    FuzzDesktop desktop("Ashby+1+Kent+1837+3+9999+0+A+B|Ashbye|!Asby\r\n", "");
     ReadDistrictFile(desktop);
     lCurrentDistrict = 1;
     iEditMode = DistrictIdle;

@@ -1,8 +1,8 @@
 // Reads any bytes as a data file, looks for duplicates in the file and in each of its districts, and compares
 // what is found with a search that knows no short cuts.
 
+#include "FuzzDesktop.h"
 #include "Invariant.h"
-#include "QuietDesktop.h"
 
 #include "checks/CompleteCheck.h"
 #include "core/State.h"
@@ -94,7 +94,7 @@ void CheckDistrict(std::int32_t district) {
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     ResetState();
     CommentTypes.Reset();
-    QuietDesktop desktop({reinterpret_cast<const char*>(data), size}, "");
+    FuzzDesktop desktop({reinterpret_cast<const char*>(data), size}, "");
     ReadDistrictFile(desktop);
     const std::vector<std::string> findings = CompleteVariationCheck(desktop).Items;
     Demand(findings == SlowFindings());

@@ -1,8 +1,8 @@
 // Reads any bytes as a data file with any answers to its questions, then looks at everything that the
 // window would show of it. What is saved must come back the same when it is read and saved again.
 
+#include "FuzzDesktop.h"
 #include "Invariant.h"
-#include "QuietDesktop.h"
 
 #include "checks/CompleteCheck.h"
 #include "core/Ansi.h"
@@ -23,7 +23,7 @@ namespace {
 std::string ReadAndSave(const std::string& content, std::string_view answers) {
     ResetState();
     CommentTypes.Reset();
-    QuietDesktop desktop(content, answers);
+    FuzzDesktop desktop(content, answers);
     ReadDistrictFile(desktop);
     if (iRepairAction == Quit) {
         lLineCount = 0; // as opening a file does
@@ -55,7 +55,7 @@ std::string TableAsText() {
 }
 
 void LookAtEverything() {
-    QuietDesktop desktop("", "");
+    FuzzDesktop desktop("", "");
     const std::vector<std::int32_t> districts = DistrictsByName();
     ReportDuplicatedDistricts(districts, desktop);
     for (const CommentType& type : CommentTypes.Items()) {

@@ -1,7 +1,7 @@
 // Reads any bytes as a recovery file. One that is taken for whole must come back the same when it is
 // written again; made in a table, its changes must all be there afterwards, or none.
 
-#include "QuietDesktop.h"
+#include "FuzzDesktop.h"
 
 #include "core/State.h"
 #include "edit/RestoreChanges.h"
@@ -19,30 +19,6 @@ namespace {
 
 const std::string DataFile =
     "Ashby+1+Kent+1837+3+9999+0+A+B|Ashbye|!Asby\r\n# note\r\nElm+1+Kent+1837+3+9999+0+A+B\r\n";
-
-// Has one left-over recovery file.
-class OneLeftOver : public NoStateFolder {
-public:
-    explicit OneLeftOver(std::string content) : m_content(std::move(content)) {}
-    std::vector<std::string> Names() override { return {"1.changes"}; }
-    std::optional<std::string> Read(const std::string& /*name*/) override { return m_content; }
-    LockResult Lock(const std::string& /*name*/) override { return LockResult::Taken; }
-
-private:
-    std::string m_content;
-};
-
-class LeftOverDesktop : public QuietDesktop {
-public:
-    explicit LeftOverDesktop(std::string leftOver) : QuietDesktop(DataFile, ""), m_folder(std::move(leftOver)) {}
-    StateFolder& State() override { return m_folder; }
-    BoxAnswer MsgBox(std::string_view /*text*/, BoxIcon /*icon*/, BoxButtons /*buttons*/) override {
-        return BoxAnswer::Yes;
-    }
-
-private:
-    OneLeftOver m_folder;
-};
 
 void Require(bool condition) {
     if (!condition) {
@@ -64,7 +40,9 @@ std::string Rewritten(const RecoveryFile& file) {
 void OpenWith(const std::string& leftOver) {
     ResetState();
     Unsaved = {};
-    LeftOverDesktop desktop(leftOver);
+    FuzzDesktop desktop(DataFile, "");
+    desktop.state.storage->files["1.changes"] = leftOver;
+    desktop.state.canLock = true;
     sDataFileName = "/data";
     ReadDistrictFile(desktop);
     RestoreChanges(desktop);

@@ -1,8 +1,8 @@
 // Puts any two texts through everything that looks at a variation, and compares with the rules as they are
 // written down for the tests.
 
+#include "FuzzDesktop.h"
 #include "Invariant.h"
-#include "QuietDesktop.h"
 
 #include "core/Ansi.h"
 #include "core/State.h"
@@ -101,7 +101,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         return 0;
     }
     ResetState();
-    QuietDesktop words("of,the", "");
+    FuzzDesktop words("of,the", "");
     LoadLowerCaseWords(words);
     // The first byte chooses, the texts stand on both sides of the first LF.
     const std::string_view texts(reinterpret_cast<const char*>(data) + 1, size - 1);

@@ -1,7 +1,7 @@
 // Reads any bytes as the list of words that need no capital.
 
+#include "FuzzDesktop.h"
 #include "Invariant.h"
-#include "QuietDesktop.h"
 
 #include "core/Ansi.h"
 #include "core/State.h"
@@ -11,7 +11,7 @@ using namespace CommonRoutines;
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     ResetState();
-    QuietDesktop desktop({reinterpret_cast<const char*>(data), size}, "");
+    FuzzDesktop desktop({reinterpret_cast<const char*>(data), size}, "");
     LoadLowerCaseWords(desktop);
     Demand(lLowerCaseWordCount < std::ssize(LowerCaseWords));
     for (std::int32_t i = 1; i <= lLowerCaseWordCount; ++i) {

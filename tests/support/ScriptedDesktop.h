@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/Desktop.h"
-#include "support/MemoryStateFolder.h"
+#include "support/QuietDesktop.h"
 
 #include <deque>
 #include <functional>
@@ -13,9 +12,8 @@
 // A desktop that plays a script: the prompts that a test expects, in order and word for word, each
 // with its answer. A prompt that was not expected fails the test, and so does an answer left over.
 // Files, settings and the printer live in memory.
-class ScriptedDesktop : public CommonRoutines::Desktop {
+class ScriptedDesktop : public QuietDesktop {
 public:
-    ScriptedDesktop() = default;
     ~ScriptedDesktop() override;
 
     // The script.
@@ -47,7 +45,6 @@ public:
     double part = 0;                         // of the last of them that is over
     int programFolderEntries = 0;            // how often the program's folder became the current one
     CommonRoutines::FileRequest lastRequest; // of the last file dialogue
-    MemoryStateFolder state;
 
     CommonRoutines::BoxAnswer MsgBox(std::string_view text, CommonRoutines::BoxIcon icon,
                                      CommonRoutines::BoxButtons buttons) override;
@@ -59,15 +56,10 @@ public:
     std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ReadFile(const std::string& path) override;
     bool ReplaceFile(const std::string& path, std::string_view content) override;
-    std::string TruePath(const std::string& path) override { return path; }
-    CommonRoutines::StateFolder& State() override { return state; }
-    std::string ProgramFolder() override { return "/program"; }
     void EnterProgramFolder() override { ++programFolderEntries; }
     std::string GetSetting(std::string_view section, std::string_view key) override;
     void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override;
     bool Print(std::span<const std::string> lines) override;
-    std::string Today() override { return "05 Mar 2026"; }
-    std::string ShortTime() override { return "14:07"; }
     void Beep() override { ++beeps; }
     void ShowBusy(bool isBusy) override;
     void ShowProgress(std::string_view doing, double newPart) override;

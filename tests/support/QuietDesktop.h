@@ -1,0 +1,48 @@
+#pragma once
+
+#include "core/Desktop.h"
+#include "support/MemoryStateFolder.h"
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+// A desktop without a person: boxes are confirmed, everything else is left alone, and there are no files.
+// Other desktops derive from it and say what they are about.
+class QuietDesktop : public CommonRoutines::Desktop {
+public:
+    MemoryStateFolder state;
+
+    CommonRoutines::BoxAnswer MsgBox(std::string_view /*text*/, CommonRoutines::BoxIcon /*icon*/,
+                                     CommonRoutines::BoxButtons buttons) override {
+        return buttons == CommonRoutines::BoxButtons::YesNo ? CommonRoutines::BoxAnswer::Yes
+                                                            : CommonRoutines::BoxAnswer::Ok;
+    }
+    std::string MyMsgBox(const std::string& /*Prompt*/, std::int32_t /*Img*/, const std::string& /*Title*/,
+                         std::span<const std::string> ButtonCaptions) override {
+        return ButtonCaptions.front();
+    }
+    std::optional<std::string> InputBox(std::string_view /*prompt*/) override { return std::nullopt; }
+    void ShowReport(const CommonRoutines::Report& /*report*/) override {}
+    std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& /*request*/) override {
+        return std::nullopt;
+    }
+    std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& /*request*/) override {
+        return std::nullopt;
+    }
+    std::optional<std::string> ReadFile(const std::string& /*path*/) override { return std::nullopt; }
+    bool ReplaceFile(const std::string& /*path*/, std::string_view /*content*/) override { return true; }
+    std::string TruePath(const std::string& path) override { return path; }
+    CommonRoutines::StateFolder& State() override { return state; }
+    std::string ProgramFolder() override { return "/program"; }
+    void EnterProgramFolder() override {}
+    std::string GetSetting(std::string_view /*section*/, std::string_view /*key*/) override { return {}; }
+    void SaveSetting(std::string_view /*section*/, std::string_view /*key*/, const std::string& /*value*/) override {}
+    bool Print(std::span<const std::string> /*lines*/) override { return false; }
+    std::string Today() override { return "05 Mar 2026"; }
+    std::string ShortTime() override { return "14:07"; }
+    void Beep() override {}
+    void ShowBusy(bool /*busy*/) override {}
+    void ShowProgress(std::string_view /*doing*/, double /*part*/) override {}
+};
