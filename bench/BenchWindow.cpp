@@ -1,15 +1,11 @@
 #include "BenchWindow.h"
 
-#include "Figures.h"
 #include "core/State.h"
 #include "ui/Text.h"
 #include "ui/windows/VarCheck.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
-#include <QPushButton>
 #include <QSettings>
-#include <QTest>
 
 #include <algorithm>
 
@@ -19,7 +15,6 @@ using namespace Ui;
 namespace {
 
 constexpr QSize NormalSize(1240, 680);
-constexpr int InsideRow = 5; // pixels from its left end
 
 double Milliseconds(const QElapsedTimer& clock) {
     return static_cast<double>(clock.nsecsElapsed()) / 1e6;
@@ -31,12 +26,8 @@ PrivateSettings::PrivateSettings() {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
 }
 
-BenchWindow::BenchWindow() : m_form(desktop) {
-    desktop.SetWindow(&m_form);
-    m_form.LoadForm();
-    m_form.show();
-    m_form.resize(NormalSize);
-    m_form.activateWindow();
+BenchWindow::BenchWindow() {
+    Window().resize(NormalSize);
     Settle();
 }
 
@@ -45,30 +36,10 @@ void BenchWindow::Settle() {
     m_paints.Wait();
 }
 
-void BenchWindow::Click(const char* button) {
-    auto& control = Find<QPushButton>(button);
-    Figures::Require(control.isEnabled(), button);
-    QTest::mouseClick(&control, Qt::LeftButton);
-}
-
-void BenchWindow::ClickRow(const char* list, int row) {
-    RowList& rows = List(list);
-    const QRect place = rows.visualRect(rows.model()->index(row, 0));
-    QTest::mouseClick(rows.viewport(), Qt::LeftButton, Qt::NoModifier, {place.left() + InsideRow, place.center().y()});
-}
-
 void BenchWindow::ScrollTo(const char* list, int row) {
     RowList& rows = List(list);
     rows.scrollTo(rows.model()->index(row, 0));
     Settle();
-}
-
-void BenchWindow::Key(const char* control, Qt::Key key, Qt::KeyboardModifiers modifiers) {
-    QTest::keyClick(&Find<QWidget>(control), key, modifiers);
-}
-
-void BenchWindow::Type(const QString& text) {
-    QTest::keyClicks(&Find<QWidget>("tbEdit"), text);
 }
 
 double BenchWindow::TimeOf(const std::function<void()>& action, QWidget& result) {
@@ -106,7 +77,7 @@ double BenchWindow::TimeToReport(const char* button, std::size_t& lines) {
 
 // Shows the report window as the desktop does, until it has been painted.
 void BenchWindow::ShowReport(const Report& report, const std::function<void()>& onPainted) {
-    VarCheck window(report, desktop, &m_form);
+    VarCheck window(report, desktop, &Window());
     const auto close = [&] {
         onPainted();
         window.reject();
@@ -130,10 +101,8 @@ std::int32_t BenchWindow::ChooseBiggestDistrict() {
     const auto biggest = std::max_element(
         Districts.begin() + 1, Districts.begin() + 1 + lLineCount,
         [](const DistrictRecord& a, const DistrictRecord& b) { return a.lVariationCount < b.lVariationCount; });
-    const QAbstractItemModel& model = *List("lvAlpha").model();
-    const QModelIndexList rows = model.match(model.index(0, 0), Qt::DisplayRole, Text::ToQt(biggest->Name), 1,
-                                             Qt::MatchExactly | Qt::MatchCaseSensitive);
-    ScrollTo("lvAlpha", rows.constFirst().row());
-    TimeOf([&] { ClickRow("lvAlpha", rows.constFirst().row()); }, "lvVariations");
+    const int row = RowOf("lvAlpha", Text::ToQt(biggest->Name));
+    ScrollTo("lvAlpha", row);
+    TimeOf([&] { ClickRow("lvAlpha", row); }, "lvVariations");
     return biggest->lVariationCount;
 }

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "AnsweringDesktop.h"
 #include "PaintWatch.h"
-#include "ui/lists/RowList.h"
-#include "ui/windows/Form1.h"
+#include "driver/AnsweringDesktop.h"
+#include "driver/DrivenForm.h"
 
 #include <QTemporaryDir>
 
@@ -22,22 +21,11 @@ private:
 
 // The main window as a user sees it, and what a user does to it. What is done is timed from the click
 // or the key to the painted result, in milliseconds.
-class BenchWindow {
+class BenchWindow : public Ui::DrivenForm<Ui::AnsweringDesktop> {
 public:
     BenchWindow();
 
-    template <typename Widget>
-    [[nodiscard]] Widget& Find(const char* name) {
-        return *m_form.findChild<Widget*>(QString::fromLatin1(name));
-    }
-    [[nodiscard]] Ui::RowList& List(const char* name) { return Find<Ui::RowList>(name); }
-
-    // Clicks on a button that must be enabled.
-    void Click(const char* button);
-    void ClickRow(const char* list, int row);
     void ScrollTo(const char* list, int row);
-    void Key(const char* control, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void Type(const QString& text);
 
     // The time from `action` until `result` is painted and everything else with it; a list is painted
     // where its rows are.
@@ -60,11 +48,8 @@ public:
     // Chooses the district with the most variations and returns how many they are.
     std::int32_t ChooseBiggestDistrict();
 
-    AnsweringDesktop desktop;
-
 private:
     void ShowReport(const CommonRoutines::Report& report, const std::function<void()>& onPainted);
 
     PaintWatch m_paints;
-    Ui::Form1 m_form;
 };

@@ -59,7 +59,7 @@ void TimeKeys(BenchWindow& window, QWidget& edit, Times& times) {
 
 void TypeAnAdd(BenchWindow& window, Times& times) {
     auto& edit = window.Find<QLineEdit>("tbEdit");
-    edit.window()->activateWindow();
+    BenchWindow::Activate(*edit.window());
     window.Click("cbAdd");
     TimeKeys(window, edit, times);
     Require(iEditMode == AddingAcceptable && edit.text() == NewText, "typing");
@@ -89,23 +89,14 @@ struct EditingTimes {
     Times add, edit, remove, mark, undo;
 };
 
-QStringList Texts(BenchWindow& window) {
-    const QAbstractItemModel& model = *window.List("lvVariations").model();
-    QStringList texts;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        texts.append(model.index(row, 0).data().toString());
-    }
-    return texts;
-}
-
 // Times the click that carries out what has been prepared, and the click that takes it back.
 void TimeChange(BenchWindow& window, const char* button, Times& change, Times& undo) {
     window.Settle();
-    const QStringList before = Texts(window);
+    const QStringList before = window.Column("lvVariations");
     change.push_back(window.TimeOfClick(button, "lvVariations"));
-    Require(Texts(window) != before, button);
+    Require(window.Column("lvVariations") != before, button);
     undo.push_back(window.TimeOfClick("cbUndo", "lvVariations"));
-    Require(Texts(window) == before, "cbUndo");
+    Require(window.Column("lvVariations") == before, "cbUndo");
 }
 
 void EditOnce(BenchWindow& window, int round, EditingTimes& times) {
@@ -138,7 +129,7 @@ double TimeToMarkAll(BenchWindow& window, const std::string& file) {
     window.Click("cbShriek");
     SelectAllRows(window);
     const double time = window.TimeOfClick("cbShriek", "lvVariations");
-    const QStringList texts = Texts(window);
+    const QStringList texts = window.Column("lvVariations");
     Require(
         std::all_of(texts.begin(), texts.end(), [](const QString& text) { return text.startsWith(QLatin1Char('!')); }),
         "cbShriek");

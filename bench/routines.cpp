@@ -2,11 +2,11 @@
 // cannot be done without: copying the same texts, and upper-casing them. A change that goes on the disk is
 // measured next to a bare file that grows by as many bytes.
 
-#include "AnsweringDesktop.h"
 #include "DistrictFile.h"
 
 #include "core/Ansi.h"
 #include "core/State.h"
+#include "driver/AnsweringDesktop.h"
 #include "edit/EditPanel.h"
 #include "file/DistrictFileReader.h"
 #include "recovery/UnsavedChanges.h"
@@ -51,7 +51,7 @@ public:
         std::ofstream out(sDataFileName, std::ios::binary);
         static_cast<void>(BenchData::WriteDistrictFile(plan, out));
         out.close();
-        AnsweringDesktop desktop;
+        Ui::AnsweringDesktop desktop;
         LoadLowerCaseWords(desktop);
         iEditMode = NothingOpen;
         ReadDistrictFile(desktop);
@@ -198,7 +198,7 @@ void SortingTexts(benchmark::State& state) {
 void WritingAnUnsavedChange(benchmark::State& state) {
     const QTemporaryDir states;
     qputenv("XDG_STATE_HOME", states.path().toUtf8());
-    AnsweringDesktop desktop;
+    Ui::AnsweringDesktop desktop;
     UnsavedChanges changes;
     changes.Begin(desktop, "/data/districts.txt", "bytes", Numbering::AsRead);
     for ([[maybe_unused]] const auto round : state) {

@@ -2,17 +2,13 @@
 // screenshot of every station: quexal-tour FOLDER [dark]. Needs no display (QT_QPA_PLATFORM=offscreen); with
 // QT_SCALE_FACTOR the pictures are those of a finer screen.
 
-#include "DialogueGuide.h"
-
-#include "ui/lists/RowList.h"
+#include "driver/DialogueGuide.h"
+#include "driver/DrivenForm.h"
 #include "ui/machine/QtDesktop.h"
-#include "ui/windows/Form1.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -24,28 +20,14 @@ using namespace Ui;
 
 namespace {
 
-class Tour {
+class Tour : public DrivenForm<QtDesktop> {
 public:
-    explicit Tour(const QString& folder) : m_folder(folder), m_form(m_desktop) {
-        m_desktop.SetWindow(&m_form);
-        m_form.LoadForm();
-        m_form.show();
-        m_form.activateWindow();
-        if (!QTest::qWaitForWindowActive(&m_form)) {
-            qWarning("the window does not get the focus");
-        }
-    }
+    explicit Tour(const QString& folder) : m_folder(folder) {}
 
     // Returns false when a station was not reached.
     bool Play();
 
 private:
-    template <typename Control>
-    Control& Find(const char* name) {
-        return *m_form.findChild<Control*>(QString::fromLatin1(name));
-    }
-    void Click(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
-    void ClickRow(const char* list, const QString& text);
     void Picture(QWidget& widget, const QString& name);
 
     void OpenPracticeFile();
@@ -58,8 +40,6 @@ private:
 
     QDir m_folder;
     QTemporaryDir m_work;
-    QtDesktop m_desktop;
-    Form1 m_form;
     DialogueGuide m_guide;
 };
 
@@ -69,20 +49,6 @@ void Tour::Picture(QWidget& widget, const QString& name) {
     const QString path = m_folder.filePath(name + QStringLiteral(".png"));
     widget.grab().save(path);
     std::printf("  %s\n", qUtf8Printable(path));
-}
-
-void Tour::ClickRow(const char* list, const QString& text) {
-    auto& rows = Find<RowList>(list);
-    const QModelIndexList found =
-        rows.model()->match(rows.model()->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly);
-    if (found.isEmpty()) {
-        qWarning("no row \"%s\" in %s", qUtf8Printable(text), list);
-        return;
-    }
-    rows.scrollTo(found.constFirst());
-    // The row may be wider than the list: its left end is in sight.
-    const QRect place = rows.visualRect(found.constFirst());
-    QTest::mouseClick(rows.viewport(), Qt::LeftButton, Qt::NoModifier, {place.left() + 5, place.center().y()});
 }
 
 void Tour::OpenPracticeFile() {
@@ -112,30 +78,29 @@ void Tour::OpenPracticeFile() {
     if (!inReport) {
         qWarning("the report did not come");
     }
-    Picture(m_form, QStringLiteral("open"));
+    Picture(Window(), QStringLiteral("open"));
 }
 
 void Tour::ShowDistrict() {
     ClickRow("lvAlpha", QStringLiteral("Dunmore Sands"));
-    Picture(m_form, QStringLiteral("district"));
+    Picture(Window(), QStringLiteral("district"));
 }
 
 void Tour::EditVariations() {
     ClickRow("lvAlpha", QStringLiteral("Coldharbour Fen"));
     Click("cbAdd");
-    auto& box = Find<QLineEdit>("tbEdit");
-    QTest::keyClicks(&box, QStringLiteral("!Cold harbour fen"));
-    Picture(m_form, QStringLiteral("refused"));
-    QTest::keyClicks(&box, QStringLiteral("s"));
-    Picture(m_form, QStringLiteral("adding"));
-    QTest::keyClick(&box, Qt::Key_Return);
+    Type(QStringLiteral("!Cold harbour fen"));
+    Picture(Window(), QStringLiteral("refused"));
+    Type(QStringLiteral("s"));
+    Picture(Window(), QStringLiteral("adding"));
+    Key("tbEdit", Qt::Key_Return);
     ClickRow("lvVariations", QStringLiteral("!Cold harbour Fen"));
-    Picture(m_form, QStringLiteral("selected"));
+    Picture(Window(), QStringLiteral("selected"));
     Click("cbShriek");
-    Picture(m_form, QStringLiteral("marked"));
+    Picture(Window(), QStringLiteral("marked"));
     Click("cbUndo");
     Click("cbUndo");
-    Picture(m_form, QStringLiteral("undone"));
+    Picture(Window(), QStringLiteral("undone"));
 }
 
 void Tour::ApplyProposals() {
@@ -144,8 +109,7 @@ void Tour::ApplyProposals() {
     m_guide.Next([=](QWidget& dialogue) { DialogueGuide::ChooseFile(dialogue, proposals.toStdString()); });
     Click("btnProcess");
     ClickRow("LvChanges", QStringLiteral("Coldharbor Fen"));
-    Picture(m_form, QStringLiteral("proposals"));
-    Click("cbCancel");
+    Picture(Window(), QStringLiteral("proposals"));
     Click("cbClearSel");
     m_guide.Next([](QWidget& dialogue) { DialogueGuide::Press(dialogue, "OK"); });
     m_guide.Next([this](QWidget& dialogue) {
@@ -153,7 +117,7 @@ void Tour::ApplyProposals() {
         DialogueGuide::Press(dialogue, "Close");
     });
     Click("cbApplyAll");
-    Picture(m_form, QStringLiteral("applied"));
+    Picture(Window(), QStringLiteral("applied"));
 }
 
 void Tour::CheckWholeFile() {
@@ -166,7 +130,7 @@ void Tour::CheckWholeFile() {
 
 void Tour::Filter() {
     ClickRow("lbComments", QStringLiteral("BOUNDARY"));
-    Picture(m_form, QStringLiteral("filter"));
+    Picture(Window(), QStringLiteral("filter"));
     ClickRow("lbComments", QStringLiteral(" All"));
 }
 
@@ -184,7 +148,7 @@ void Tour::Save() {
 }
 
 bool Tour::Play() {
-    Picture(m_form, QStringLiteral("empty"));
+    Picture(Window(), QStringLiteral("empty"));
     OpenPracticeFile();
     ShowDistrict();
     EditVariations();

@@ -1,9 +1,5 @@
 #include "SessionWindow.h"
 
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-
 #include <unistd.h>
 
 using namespace CommonRoutines;
@@ -16,7 +12,6 @@ constexpr std::string_view FileSaved = "File Saved to ";
 
 // The rows that follow each other in the numbers of edits are far apart in the list.
 constexpr int RowStride = 37;
-constexpr int InsideRow = 5; // pixels from its left end
 
 std::string FirstLine(std::string_view text) {
     return std::string(text.substr(0, text.find('\r')));
@@ -31,56 +26,18 @@ void Milestone(std::string_view text) {
     }
 }
 
-BoxAnswer SessionDesktop::MsgBox(std::string_view text, BoxIcon /*icon*/, BoxButtons buttons) {
-    Milestone(text.starts_with(FileSaved) ? "saved" : "box " + FirstLine(text));
-    if (buttons != BoxButtons::YesNo) {
-        return BoxAnswer::Ok;
-    }
-    return text.starts_with(UnsavedChanges) && !wantsUnsavedChanges ? BoxAnswer::No : BoxAnswer::Yes;
+SessionDesktop::SessionDesktop() {
+    onBox = [](std::string_view text) { Milestone(text.starts_with(FileSaved) ? "saved" : "box " + FirstLine(text)); };
 }
 
-std::string SessionDesktop::MyMsgBox(const std::string& Prompt, std::int32_t /*Img*/, const std::string& /*Title*/,
-                                     std::span<const std::string> /*ButtonCaptions*/) {
-    Milestone("box " + FirstLine(Prompt));
-    return "Remove";
-}
-
-std::optional<std::string> SessionDesktop::InputBox(std::string_view prompt) {
-    Milestone("box " + FirstLine(prompt));
-    return std::nullopt;
-}
-
-SessionWindow::SessionWindow() : m_form(desktop) {
-    desktop.SetWindow(&m_form);
-    m_form.LoadForm();
-    m_form.show();
-    m_form.activateWindow();
-    if (!QTest::qWaitForWindowActive(&m_form)) {
-        qFatal("the window gets no keys");
-    }
-}
-
-void SessionWindow::Click(const char* button) {
-    auto& control = Find<QPushButton>(button);
-    if (!control.isEnabled()) {
-        qFatal("%s is disabled", button);
-    }
-    QTest::mouseClick(&control, Qt::LeftButton);
-}
-
-void SessionWindow::ClickRow(const char* list, int row) {
-    auto& rows = Find<RowList>(list);
-    const QModelIndex index = rows.model()->index(row, 0);
-    if (!index.isValid()) {
-        qFatal("%s has no row %d", list, row);
-    }
-    rows.scrollTo(index);
-    const QRect place = rows.visualRect(index);
-    QTest::mouseClick(rows.viewport(), Qt::LeftButton, Qt::NoModifier, {place.left() + InsideRow, place.center().y()});
+BoxAnswer SessionDesktop::MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) {
+    const BoxAnswer answer = AnsweringDesktop::MsgBox(text, icon, buttons);
+    const bool refuses = buttons == BoxButtons::YesNo && text.starts_with(UnsavedChanges) && !wantsUnsavedChanges;
+    return refuses ? BoxAnswer::No : answer;
 }
 
 bool SessionWindow::SelectVariation(int number) {
-    const int rows = Find<RowList>("lvVariations").model()->rowCount();
+    const int rows = List("lvVariations").model()->rowCount();
     if (rows == 0) {
         return false;
     }
@@ -97,7 +54,7 @@ void SessionWindow::Save(const std::string& path) {
     // Only beside a chosen district with nothing selected there is always the command.
     ClickRow("lvAlpha", 0);
     desktop.fileToSave = path;
-    if (!Find<QPushButton>("cbSave").isEnabled()) {
+    if (!Enabled("cbSave")) {
         Milestone("nothing to save");
         return;
     }
@@ -112,7 +69,7 @@ void SessionWindow::MakeEdit(int number) {
         Click("cbUndo");
         return;
     }
-    ClickRow("lvAlpha", number * RowStride % Find<RowList>("lvAlpha").model()->rowCount());
+    ClickRow("lvAlpha", number * RowStride % List("lvAlpha").model()->rowCount());
     switch (number % kinds) {
     case 1:
         return Add(number);
@@ -132,7 +89,7 @@ void SessionWindow::MakeEdit(int number) {
 void SessionWindow::Add(int number) {
     Click("cbAdd");
     const QString letters = QString::number(number, 26);
-    QTest::keyClicks(&Find<QLineEdit>("tbEdit"), QStringLiteral("Faultby Number ") + letters);
+    Type(QStringLiteral("Faultby Number ") + letters);
     Click("cbOk");
 }
 
@@ -140,7 +97,7 @@ void SessionWindow::Edit(int number) {
     if (!SelectVariation(number)) {
         return Add(number);
     }
-    QTest::keyClicks(&Find<QLineEdit>("tbEdit"), QStringLiteral("ey"));
+    Type(QStringLiteral("ey"));
     Click("cbOk");
 }
 

@@ -2,7 +2,7 @@
 // items are numbered lines, every tenth one too long for a line of the paper.
 
 #include "checks/ReportOutput.h"
-#include "ui/machine/QtDesktop.h"
+#include "driver/AnsweringDesktop.h"
 
 #include <QApplication>
 
@@ -11,19 +11,6 @@
 
 using namespace CommonRoutines;
 using namespace Ui;
-
-namespace {
-
-// Nobody is there to read a message box.
-class UnattendedDesktop : public QtDesktop {
-public:
-    BoxAnswer MsgBox(std::string_view text, BoxIcon /*icon*/, BoxButtons /*buttons*/) override {
-        std::printf("%.*s\n", static_cast<int>(text.size()), text.data());
-        return BoxAnswer::Ok;
-    }
-};
-
-} // namespace
 
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
@@ -36,7 +23,8 @@ int main(int argc, char* argv[]) {
         }
         report.Items.push_back(item);
     }
-    UnattendedDesktop desktop;
+    AnsweringDesktop desktop;
+    desktop.onBox = [](std::string_view text) { std::printf("%.*s\n", static_cast<int>(text.size()), text.data()); };
     CommonRoutines::PrintReport(report, "/data/north.txt", desktop);
     return 0;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DialogueGuide.h"
+#include "driver/DialogueGuide.h"
 #include "ui/machine/QtDesktop.h"
 
 #include <QTest>
@@ -17,12 +17,12 @@ protected:
     }
 
     void PressNext(const std::string& caption) {
-        guide.Next([caption](QWidget& dialogue) { DialogueGuide::Press(dialogue, caption); });
+        guide.Next([caption](QWidget& dialogue) { Ui::DialogueGuide::Press(dialogue, caption); });
     }
     void KeyNext(Qt::Key key) {
         guide.Next([key](QWidget& dialogue) { QTest::keyClick(&dialogue, key); });
     }
 
     Ui::QtDesktop desktop;
-    DialogueGuide guide;
+    Ui::DialogueGuide guide;
 };

@@ -14,6 +14,7 @@
 #include <unistd.h>
 
 using namespace CommonRoutines;
+using namespace Ui;
 
 namespace {
 

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 
 using namespace CommonRoutines;
+using namespace Ui;
 
 namespace {
 

@@ -23,14 +23,9 @@ protected:
 
     // Clicks on the check box of a proposal, or on its text.
     void ClickBox(const QString& proposal) { ClickRow("LvChanges", proposal); }
-    void ClickText(const QString& proposal) {
-        auto& rows = Find<Ui::RowList>("LvChanges");
-        const QRect place = rows.visualRect(IndexOf(proposal));
-        QTest::mouseClick(rows.viewport(), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(place.left() + 40, place.center().y()));
-    }
+    void ClickText(const QString& proposal) { ClickRow("LvChanges", RowOf("LvChanges", proposal), Qt::NoModifier, 40); }
     QStringList Ticked() {
-        const QAbstractItemModel& model = *Find<Ui::RowList>("LvChanges").model();
+        const QAbstractItemModel& model = *List("LvChanges").model();
         QStringList ticked;
         for (int row = 0; row < model.rowCount(); ++row) {
             if (model.index(row, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked) {
@@ -45,7 +40,6 @@ protected:
         auto& option = Find<QCheckBox>(box);
         QTest::mouseClick(&option, Qt::LeftButton, Qt::NoModifier, QPoint(8, option.height() / 2));
     }
-    QString EditText() { return Find<QLineEdit>("tbEdit").text(); }
 
     // Of the controls that follow the mode, exactly these must be enabled.
     void ExpectEnabled(const char* enabled) {
@@ -59,12 +53,5 @@ protected:
             }
         }
         EXPECT_EQ(found.join(QLatin1Char(' ')).toStdString(), enabled);
-    }
-
-private:
-    QModelIndex IndexOf(const QString& proposal) {
-        const int row = static_cast<int>(Column("LvChanges").indexOf(proposal));
-        EXPECT_GE(row, 0) << "no row " << proposal.toStdString();
-        return Find<Ui::RowList>("LvChanges").model()->index(row, 0);
     }
 };

@@ -173,8 +173,7 @@ TEST_F(FormTest, NoListIsEditedInPlace) {
 }
 
 TEST_F(FormTest, TabLeadsThroughTheControlsAndOutOfTheLists) {
-    form->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    Activate(*form);
     OpenContent(HeaderOf("Alpha") + "|Alfa|Betta\r\n" + HeaderOf("Beta") + "\r\n");
     Key("lvAlpha", Qt::Key_Home);
     ASSERT_EQ(form->focusWidget(), &Find<QWidget>("lvAlpha"));

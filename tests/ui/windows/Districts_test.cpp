@@ -119,7 +119,7 @@ TEST_F(DistrictsTest, KeysChooseDistrictsAsClicksDo) {
     expectChosen("Gamma");
     Key("lvAlpha", Qt::Key_PageUp);
     expectChosen("Alpha");
-    QTest::keyClicks(&Find<RowList>("lvAlpha"), QStringLiteral("del"));
+    Type("lvAlpha", QStringLiteral("del"));
     expectChosen("Delta");
 }
 
@@ -205,7 +205,7 @@ TEST_F(DistrictsTest, AWiderWindowWrapsTheCommentsAnew) {
 
 TEST_F(DistrictsTest, ABlankIsPartOfTheNameThatIsTyped) {
     OpenContent(HeaderOf("St Albans") + "|A\r\n" + HeaderOf("Stafford") + "|B\r\n" + HeaderOf("St Neots") + "|C\r\n");
-    QTest::keyClicks(&Find<RowList>("lvAlpha"), QStringLiteral("st n"));
+    Type("lvAlpha", QStringLiteral("st n"));
     EXPECT_EQ(Selected("lvAlpha"), QStringList{QStringLiteral("St Neots")});
 }
 

@@ -6,14 +6,9 @@
 // shortcuts reach it as they do on a desktop.
 class EditingTest : public ChangesTest {
 protected:
-    EditingTest() {
-        form->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
-    }
+    EditingTest() { Activate(*form); }
 
     QLineEdit& Box() { return Find<QLineEdit>("tbEdit"); }
-    // Types into the edit box, key by key.
-    void Type(const QString& text) { QTest::keyClicks(&Box(), text); }
     // Types one character that the keyboard of the test has no key for.
     void TypeForeign(const QString& character) {
         QTest::sendKeyEvent(QTest::Click, &Box(), Qt::Key_unknown, character, Qt::NoModifier);

@@ -89,8 +89,7 @@ TEST_F(EditingTest, ASpellingOfTheDistrictIsNamedAndCannotBeStored) {
     Type(QStringLiteral("!alfa"));
     EXPECT_EQ(TextOf("lbStatus"), QStringLiteral("Duplicates Alfa"));
     EXPECT_EQ(iEditMode, AddingUnacceptable);
-    EXPECT_FALSE(Enabled("cbOk"));
-    Click("cbOk");
+    ClickDisabled("cbOk");
     ExpectNothingChanged();
     EXPECT_EQ(EditText(), QStringLiteral("!alfa"));
     Type(QStringLiteral("x"));

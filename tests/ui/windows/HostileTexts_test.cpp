@@ -88,7 +88,7 @@ TEST_F(HostileTexts, TheNextTextCanBeEditedAgain) {
     ClickRow("lvVariations", QStringLiteral("Alfa"));
     EXPECT_FALSE(Find<EditBox>("tbEdit").IsCutOff());
     Key("tbEdit", Qt::Key_End);
-    QTest::keyClicks(&Find<EditBox>("tbEdit"), QStringLiteral("s"));
+    Type(QStringLiteral("s"));
     EXPECT_EQ(EditText(), QStringLiteral("Alfas"));
     EXPECT_TRUE(Enabled("cbOk"));
     Key("lvVariations", Qt::Key_End);

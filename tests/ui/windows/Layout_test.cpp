@@ -71,9 +71,7 @@ protected:
         QFont font = m_usual;
         font.setPointSizeF(1.5 * m_usual.pointSizeF());
         QApplication::setFont(font);
-        form = std::make_unique<Form1>(desktop);
-        form->LoadForm();
-        form->show();
+        ShowForm();
     }
     ~LargeFontLayoutTest() override { QApplication::setFont(m_usual); }
 

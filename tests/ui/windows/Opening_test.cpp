@@ -234,8 +234,7 @@ TEST_F(FormTest, TheCommentTypesOfTheFileAreListedBehindAll) {
 }
 
 TEST_F(FormTest, CtrlOOpensAFile) {
-    form->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    Activate(*form);
     ExpectFile(TwoDistricts);
     Key("lvAlpha", Qt::Key_O, Qt::ControlModifier);
     EXPECT_EQ(Column("lvAlpha"), AlphaAndBeta);

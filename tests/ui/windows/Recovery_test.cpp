@@ -29,7 +29,7 @@ protected:
     void Add(const char* text) {
         ClickRow("lvAlpha", QStringLiteral("Alpha"));
         Click("cbAdd");
-        QTest::keyClicks(&Find<QLineEdit>("tbEdit"), QString::fromLatin1(text));
+        Type(QString::fromLatin1(text));
         Click("cbOk");
     }
     // To be expected when the next editor opens the file.
@@ -49,10 +49,7 @@ protected:
         desktop.state.Die();
         form.reset();
         ResetEverything();
-        form = std::make_unique<Form1>(desktop);
-        form->LoadForm();
-        form->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(form.get()));
+        ShowForm();
         ExpectOpening();
         Click("cbOpen");
     }

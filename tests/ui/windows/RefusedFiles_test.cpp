@@ -1,9 +1,9 @@
 // What is no file, or too large a one, is refused with a message, whichever command wants to read it.
 
+#include "driver/AnsweringDesktop.h"
 #include "rules/Capitals.h"
 #include "support/Table.h"
 #include "ui/machine/Memory.h"
-#include "ui/machine/QtDesktop.h"
 #include "ui/windows/Commands.h"
 #include "ui/windows/Form1.h"
 
@@ -23,21 +23,14 @@ using namespace Ui;
 
 namespace {
 
-// The real desktop, but for its boxes and dialogues and for the folder of the program.
-class RefusingDesktop : public QtDesktop {
+class RefusingDesktop : public AnsweringDesktop {
 public:
-    std::string fileToOpen;
-    std::string programFolder;
     std::vector<std::string> messages;
 
-    BoxAnswer MsgBox(std::string_view text, BoxIcon /*icon*/, BoxButtons /*buttons*/) override {
-        messages.emplace_back(text);
-        return BoxAnswer::Ok;
+    RefusingDesktop() {
+        onBox = [this](std::string_view text) { messages.emplace_back(text); };
     }
-    std::optional<std::string> ChooseFileToOpen(const FileRequest& /*request*/) override { return fileToOpen; }
-    std::string ProgramFolder() override { return programFolder; }
     void EnterProgramFolder() override {}
-    void ShowReport(const Report& /*report*/) override {}
 };
 
 class RefusedFiles : public StateTest {

@@ -1,8 +1,8 @@
 // The report window.
 
 #include "core/State.h"
+#include "driver/WindowDriver.h"
 #include "support/ScriptedDesktop.h"
-#include "ui/lists/RowList.h"
 #include "ui/windows/VarCheck.h"
 
 #include <QClipboard>
@@ -18,7 +18,7 @@ using namespace Ui;
 
 namespace {
 
-class ReportWindowTest : public testing::Test {
+class ReportWindowTest : public testing::Test, public WindowDriver {
 protected:
     ReportWindowTest() {
         ResetState();
@@ -30,9 +30,8 @@ protected:
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     }
-    QPushButton& Button(const char* name) { return *window->findChild<QPushButton*>(QString::fromLatin1(name)); }
-    RowList& List() { return *window->findChild<RowList*>(QStringLiteral("List1")); }
-    void Click(const char* button) { QTest::mouseClick(&Button(button), Qt::LeftButton); }
+    QWidget& Window() override { return *window; }
+    RowList& List() { return Find<RowList>("List1"); }
 
     ScriptedDesktop desktop;
     Report report{"Duplicate Check", {"First finding", "Second\r\nfinding", "Third"}, true};
@@ -71,9 +70,9 @@ TEST_F(ReportWindowTest, ShowsTheLinesUnderItsCaption) {
     ASSERT_EQ(model.rowCount(), 3);
     EXPECT_EQ(model.index(0, 0).data().toString(), QStringLiteral("First finding"));
     EXPECT_EQ(model.index(1, 0).data().toString(), QStringLiteral("Second finding"));
-    EXPECT_EQ(Button("cbPrint").text(), QStringLiteral("Print"));
-    EXPECT_EQ(Button("cbSave").text(), QStringLiteral("Save List"));
-    EXPECT_EQ(Button("cbClose").text(), QStringLiteral("Close"));
+    EXPECT_EQ(CaptionOf("cbPrint"), QStringLiteral("Print"));
+    EXPECT_EQ(CaptionOf("cbSave"), QStringLiteral("Save List"));
+    EXPECT_EQ(CaptionOf("cbClose"), QStringLiteral("Close"));
     EXPECT_FALSE(List().accessibleName().isEmpty());
 }
 
@@ -82,9 +81,9 @@ TEST_F(ReportWindowTest, AReportOnlyToReadHasNoPrintAndNoSave) {
     report.bCanPrintAndSave = false;
     Show();
     EXPECT_EQ(window->windowTitle(), QStringLiteral("Read File Results"));
-    EXPECT_FALSE(Button("cbPrint").isVisible() || Button("cbPrint").isEnabled());
-    EXPECT_FALSE(Button("cbSave").isVisible() || Button("cbSave").isEnabled());
-    EXPECT_TRUE(Button("cbClose").isVisible());
+    EXPECT_FALSE(Find("cbPrint").isVisible() || Enabled("cbPrint"));
+    EXPECT_FALSE(Find("cbSave").isVisible() || Enabled("cbSave"));
+    EXPECT_TRUE(Find("cbClose").isVisible());
 }
 
 TEST_F(ReportWindowTest, PrintPrintsTheHeadingAndTheLines) {
@@ -134,24 +133,24 @@ TEST_F(ReportWindowTest, TheReportStaysAboutTheFileItWasFirstUsedFor) {
 
 TEST_F(ReportWindowTest, EscAndCloseCloseTheWindow) {
     Show();
-    QTest::keyClick(&List(), Qt::Key_Escape);
+    Key("List1", Qt::Key_Escape);
     EXPECT_FALSE(window->isVisible());
     Show();
     Click("cbClose");
     EXPECT_FALSE(window->isVisible());
     Show();
-    QTest::keyClick(&Button("cbClose"), Qt::Key_Return);
+    Key("cbClose", Qt::Key_Return);
     EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(ReportWindowTest, CtrlCCopiesTheSelectedLines) {
     Show();
-    QTest::keyClick(&List(), Qt::Key_Home);
-    QTest::keyClick(&List(), Qt::Key_Down, Qt::ShiftModifier);
-    QTest::keyClick(&List(), Qt::Key_C, Qt::ControlModifier);
+    Key("List1", Qt::Key_Home);
+    Key("List1", Qt::Key_Down, Qt::ShiftModifier);
+    Key("List1", Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("First finding\nSecond finding"));
-    QTest::keyClick(&List(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&List(), Qt::Key_C, Qt::ControlModifier);
+    Key("List1", Qt::Key_A, Qt::ControlModifier);
+    Key("List1", Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("First finding\nSecond finding\nThird"));
 }
 
@@ -162,7 +161,7 @@ TEST_F(ReportWindowTest, OfALongReportOnlyTheVisibleLinesAreLookedAt) {
     List().setItemDelegate(&delegate);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    QTest::keyClick(&List(), Qt::Key_End);
+    Key("List1", Qt::Key_End);
     window->grab();
     List().resizeColumnToContents(0);
     EXPECT_EQ(List().SelectedRows(), std::vector<int>{99999});

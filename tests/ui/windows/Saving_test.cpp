@@ -59,8 +59,7 @@ TEST_F(SavingTest, AFailedSaveIsSilentAndCountsAsSaved) {
 }
 
 TEST_F(SavingTest, CtrlSSaves) {
-    form->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    Activate(*form);
     desktop.ExpectSave(std::nullopt);
     Key("lvAlpha", Qt::Key_S, Qt::ControlModifier);
     EXPECT_FALSE(bChanged);

@@ -235,7 +235,7 @@ TEST_F(VariationsTest, KeysSelectAsClicksDo) {
     Key("lvVariations", Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(Selected("lvVariations").size(), 4);
     EXPECT_EQ(iEditMode, SeveralSelected);
-    QTest::keyClicks(&Find<RowList>("lvVariations"), QStringLiteral("de"));
+    Type("lvVariations", QStringLiteral("de"));
     EXPECT_EQ(EditText(), QStringLiteral("Delte"));
     EXPECT_EQ(iEditMode, OneSelected);
 }

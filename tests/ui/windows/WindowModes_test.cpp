@@ -109,7 +109,7 @@ TEST_F(WindowModesTest, TheStatusOfTheEditRowIsClearedWhenTheModeChanges) {
 TEST_F(WindowModesTest, NoCommandWorksWhileItIsDisabled) {
     OpenDistrict();
     ClickRow("lvVariations", QStringLiteral("Alfa"));
-    Click("cbOpen");
-    Click("cbSave");
+    ClickDisabled("cbOpen");
+    ClickDisabled("cbSave");
     EXPECT_EQ(iEditMode, OneSelected);
 }

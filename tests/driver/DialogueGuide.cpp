@@ -1,4 +1,4 @@
-#include "DialogueGuide.h"
+#include "driver/DialogueGuide.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -8,6 +8,8 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QVariant>
+
+namespace Ui {
 
 namespace {
 
@@ -49,13 +51,12 @@ void DialogueGuide::Press(QWidget& dialogue, const std::string& caption) {
     const QString wanted = QString::fromStdString(caption);
     for (auto* button : dialogue.findChildren<QAbstractButton*>()) {
         const bool named = button->accessibleName() == wanted || button->text().remove(QLatin1Char('&')) == wanted;
-        if (named && button->isVisible()) {
+        if (named && button->isVisible() && button->isEnabled()) {
             QTest::mouseClick(button, Qt::LeftButton);
             return;
         }
     }
-    qWarning("no button \"%s\" in %s", caption.c_str(), qUtf8Printable(dialogue.windowTitle()));
-    dialogue.close();
+    qFatal("no button \"%s\" in %s", caption.c_str(), qUtf8Printable(dialogue.windowTitle()));
 }
 
 void DialogueGuide::ChooseFile(QWidget& dialogue, const std::string& path) {
@@ -63,3 +64,5 @@ void DialogueGuide::ChooseFile(QWidget& dialogue, const std::string& path) {
     name->setText(QString::fromStdString(path));
     QTest::keyClick(name, Qt::Key_Return);
 }
+
+} // namespace Ui

@@ -9,6 +9,8 @@
 
 class QWidget;
 
+namespace Ui {
+
 // Answers modal dialogues as they come up. A dialogue runs its own event loop inside the click that
 // opened it, so the answers are given beforehand, in the order in which the dialogues will appear.
 class DialogueGuide : public QObject {
@@ -18,7 +20,7 @@ public:
     // The next dialogue, whatever it is, is given to `answer`, which must close it.
     void Next(std::function<void(QWidget&)> answer);
 
-    // Ready-made answers: a button by its caption, a file for a file dialogue.
+    // Ready-made answers: a button by its caption, a file for a file dialogue. Without the button the program ends.
     static void Press(QWidget& dialogue, const std::string& caption);
     static void ChooseFile(QWidget& dialogue, const std::string& path);
 
@@ -33,3 +35,5 @@ private:
     QTimer m_timer;
     int m_surprises = 0;
 };
+
+} // namespace Ui
