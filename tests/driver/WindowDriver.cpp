@@ -22,11 +22,13 @@ void WindowDriver::Activate(QWidget& window) {
 }
 
 int WindowDriver::RowOf(const char* list, const QString& text) {
-    const auto row = Column(list).indexOf(text);
-    if (row < 0) {
+    const QAbstractItemModel& model = *List(list).model();
+    const QModelIndexList rows =
+        model.match(model.index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (rows.isEmpty()) {
         Fail(list, ("has no row " + text.toStdString()).c_str());
     }
-    return static_cast<int>(row);
+    return rows.constFirst().row();
 }
 
 void WindowDriver::Click(const char* button) {
