@@ -106,6 +106,25 @@ void AddLowerCaseWords(std::string_view content) {
     }
 }
 
+bool BaseIsUnusual(std::string_view base) {
+    std::string_view name = Ansi::Trim(base);
+    while (name.starts_with('!') || name.starts_with('%')) {
+        name.remove_prefix(1);
+    }
+    if (LooksUsual(name)) {
+        return false;
+    }
+    for (auto from = name.begin(); from != name.end();) {
+        const auto to = std::find_if(from, name.end(), [](char c) { return KindOf(c) == KindSeparator; });
+        const std::string_view word(from, to);
+        if (!word.empty() && !IsExpectedForm(word) && !IsLowerCaseWord(word)) {
+            return true;
+        }
+        from = to == name.end() ? to : to + 1;
+    }
+    return false;
+}
+
 } // namespace
 
 void LoadLowerCaseWords(Desktop& desktop) {
@@ -125,23 +144,12 @@ void LoadLowerCaseWords(Desktop& desktop) {
     desktop.MsgBox("No lowercase file found - no words will be ignored", BoxIcon::Information);
 }
 
+bool CapitalsAreUnusual(std::string_view variation) {
+    return BaseIsUnusual(SplitMarkers(variation).base);
+}
+
 bool HasUnusualCapitals(std::string_view variation) {
-    std::string_view name = Ansi::Trim(StripMarkers(variation));
-    while (name.starts_with('!') || name.starts_with('%')) {
-        name.remove_prefix(1);
-    }
-    if (LooksUsual(name)) {
-        return false;
-    }
-    for (auto from = name.begin(); from != name.end();) {
-        const auto to = std::find_if(from, name.end(), [](char c) { return KindOf(c) == KindSeparator; });
-        const std::string_view word(from, to);
-        if (!word.empty() && !IsExpectedForm(word) && !IsLowerCaseWord(word)) {
-            return true;
-        }
-        from = to == name.end() ? to : to + 1;
-    }
-    return false;
+    return BaseIsUnusual(StripMarkers(variation));
 }
 
 } // namespace CommonRoutines

@@ -12,7 +12,10 @@ class Desktop;
 void LoadLowerCaseWords(Desktop& desktop);
 
 // True when a word of the base name is neither written with one capital and small letters nor one of
-// LowerCaseWords. Any casing of a listed word passes. Overwrites sMarkerPrefix and sMarkerSuffix.
+// LowerCaseWords. Any casing of a listed word passes.
+[[nodiscard]] bool CapitalsAreUnusual(std::string_view variation);
+
+// CapitalsAreUnusual, which also leaves the markers in sMarkerPrefix and sMarkerSuffix.
 [[nodiscard]] bool HasUnusualCapitals(std::string_view variation);
 
 } // namespace CommonRoutines

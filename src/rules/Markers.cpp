@@ -38,13 +38,6 @@ bool HoldsMarker(std::string_view text) {
     return eightHoldOne(text.data() + text.size() - step);
 }
 
-// Most variations have no markers, like the one before.
-void Leave(std::string& markers, std::string_view found) {
-    if (!found.empty() || !markers.empty()) {
-        markers = found;
-    }
-}
-
 } // namespace
 
 // Runs several times for every variation of a file.
@@ -65,15 +58,11 @@ MarkerParts SplitMarkers(std::string_view variation) {
     return {prefix, rest.substr(0, suffixAt), rest.substr(suffixAt)};
 }
 
-MarkerParts LeaveMarkers(std::string_view variation) {
-    const MarkerParts parts = SplitMarkers(variation);
-    Leave(sMarkerPrefix, parts.prefix);
-    Leave(sMarkerSuffix, parts.suffix);
-    return parts;
-}
-
 std::string_view StripMarkers(std::string_view variation) {
-    return LeaveMarkers(variation).base;
+    const MarkerParts parts = SplitMarkers(variation);
+    sMarkerPrefix = parts.prefix;
+    sMarkerSuffix = parts.suffix;
+    return parts.base;
 }
 
 MarkerOptions MarkerOptionsOf(std::string_view text) {

@@ -16,10 +16,8 @@ struct MarkerParts {
 
 [[nodiscard]] MarkerParts SplitMarkers(std::string_view variation);
 
-// SplitMarkers, which also leaves the markers in sMarkerPrefix and sMarkerSuffix.
-MarkerParts LeaveMarkers(std::string_view variation);
-
-// Returns the base name, a part of `variation`, and leaves the markers in sMarkerPrefix and sMarkerSuffix.
+// SplitMarkers for what reads the markers in the shared state: returns the base name, a part of
+// `variation`, and leaves the markers in sMarkerPrefix and sMarkerSuffix.
 std::string_view StripMarkers(std::string_view variation);
 
 // Which option boxes belong to a text being edited.

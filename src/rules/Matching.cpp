@@ -11,6 +11,7 @@ namespace CommonRoutines {
 namespace {
 
 constexpr auto None = std::string_view::npos;
+constexpr std::int32_t NameSlot = 0;
 
 // Whether the years of the two districts overlap. Where one begins in the year that the other ends,
 // the quarters decide; only one of the two such cases is looked at, also when both hold.
@@ -67,13 +68,34 @@ bool SameVariation(std::string_view a, std::string_view b, std::int32_t district
     return SameSpelling(Spelling(a), Spelling(b), districtA, districtB);
 }
 
-bool FindVariationInDistrict(std::string_view v) {
-    StripMarkers(v);
-    if (const std::int32_t slot = CurrentSpellings().FirstSlotWith(Spelling(v)); slot > 0) {
-        lFoundVariation = slot;
-        return true;
+std::optional<std::int32_t> FindSpelling(std::int32_t lDistrict, std::string_view v) {
+    const Spelling sought(v);
+    if (const std::int32_t slot = SpellingsOf(lDistrict).Find(sought); slot > 0) {
+        return slot;
     }
-    return SameVariation(v, RecordOf(lCurrentDistrict).Name, lCurrentDistrict, lCurrentDistrict);
+    const Spelling name(RecordOf(lDistrict).Name);
+    return SameSpelling(sought, name, lDistrict, lDistrict) ? std::optional(NameSlot) : std::nullopt;
+}
+
+std::optional<std::string_view> RepeatedText(std::int32_t lDistrict, std::string_view v) {
+    const auto slot = FindSpelling(lDistrict, v);
+    if (!slot) {
+        return std::nullopt;
+    }
+    const DistrictRecord& district = RecordOf(lDistrict);
+    return std::string_view(*slot == NameSlot ? district.Name
+                                              : district.Variations[static_cast<std::size_t>(*slot)].Text);
+}
+
+bool FindVariationInDistrict(std::string_view v) {
+    const auto slot = FindSpelling(lCurrentDistrict, v);
+    const bool isVariation = slot.value_or(NameSlot) != NameSlot;
+    if (isVariation) {
+        lFoundVariation = *slot;
+    }
+    // Past the variations, the name was the last text to be split.
+    StripMarkers(isVariation ? v : std::string_view(RecordOf(lCurrentDistrict).Name));
+    return slot.has_value();
 }
 
 } // namespace CommonRoutines

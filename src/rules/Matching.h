@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace CommonRoutines {
@@ -11,8 +12,17 @@ namespace CommonRoutines {
 [[nodiscard]] bool SameVariation(std::string_view a, std::string_view b, std::int32_t districtA,
                                  std::int32_t districtB);
 
-// True when `v` is the same as a variation of lCurrentDistrict, whose slot is then left in
-// lFoundVariation, or as the district's own name, which leaves lFoundVariation alone.
+// Where a district has the same spelling as `v` already: the slot of the first such variation, or 0 for
+// the district's own name. Nothing when the spelling is new to the district.
+[[nodiscard]] std::optional<std::int32_t> FindSpelling(std::int32_t lDistrict, std::string_view v);
+
+// The text that `v` would repeat: that variation, or the name. Nothing when the spelling is new. The text
+// is that of the table, and lasts as long as it stays there.
+[[nodiscard]] std::optional<std::string_view> RepeatedText(std::int32_t lDistrict, std::string_view v);
+
+// FindSpelling in lCurrentDistrict, for what reads the slot in the shared state: true when `v` is not new.
+// Leaves the slot of a variation in lFoundVariation; the name leaves lFoundVariation alone. Overwrites
+// sMarkerPrefix and sMarkerSuffix.
 [[nodiscard]] bool FindVariationInDistrict(std::string_view v);
 
 } // namespace CommonRoutines

@@ -72,7 +72,7 @@ void SpellingIndex::Remove(std::string_view variation, std::int32_t slot) {
     m_entries.erase({hashes.thisSuffix, slot});
 }
 
-std::int32_t SpellingIndex::FirstSlotWith(const Spelling& sought) const {
+std::int32_t SpellingIndex::Find(const Spelling& sought) const {
     // What no variation of the district can match, not even an equal one, would be looked for in vain
     // among all equal ones.
     if (!SameSpelling(sought, sought, m_district, m_district)) {
@@ -98,9 +98,9 @@ std::int32_t SpellingIndex::FirstSlot(std::uint64_t hash, const Spelling& sought
     return 0;
 }
 
-const SpellingIndex& CurrentSpellings() {
-    if (!IsUpToDate(lCurrentDistrict)) {
-        Last.emplace(Kept{lTableNumber, lCurrentDistrict, SpellingIndex(lCurrentDistrict)});
+const SpellingIndex& SpellingsOf(std::int32_t lDistrict) {
+    if (!IsUpToDate(lDistrict)) {
+        Last.emplace(Kept{lTableNumber, lDistrict, SpellingIndex(lDistrict)});
     }
     return Last->index;
 }

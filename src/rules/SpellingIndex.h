@@ -19,7 +19,7 @@ public:
     void Remove(std::string_view variation, std::int32_t slot);
 
     // The first slot whose variation is the same spelling as the sought one; 0 when there is none.
-    [[nodiscard]] std::int32_t FirstSlotWith(const Spelling& sought) const;
+    [[nodiscard]] std::int32_t Find(const Spelling& sought) const;
 
 private:
     // A hash of what has to be equal, and a slot.
@@ -31,8 +31,8 @@ private:
     std::set<Entry> m_entries;
 };
 
-// The index of lCurrentDistrict, made when it is first asked for.
-[[nodiscard]] const SpellingIndex& CurrentSpellings();
+// The index of a district, made when it is first asked for. It lasts until another district's is asked for.
+[[nodiscard]] const SpellingIndex& SpellingsOf(std::int32_t lDistrict);
 
 // To be called when a variation of a district gets another text (or, as a new one, its first).
 void SpellingChanged(std::int32_t lDistrict, std::int32_t slot, std::string_view before, std::string_view after);

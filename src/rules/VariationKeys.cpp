@@ -4,8 +4,8 @@
 #include "core/Progress.h"
 #include "core/State.h"
 #include "rules/Markers.h"
-#include "rules/Matching.h"
 #include "rules/MiddlePivotSort.h"
+#include "rules/Spelling.h"
 
 #include <span>
 
@@ -61,7 +61,12 @@ bool KeyPrecedes(const VariationKey& a, const VariationKey& b) {
 }
 
 bool SameSpelling(const VariationKey& a, const VariationKey& b) {
-    return !CannotBeSame(a, b) && SameVariation(a.Text(), b.Text(), a.lDistrict, b.lDistrict);
+    if (CannotBeSame(a, b)) {
+        return false;
+    }
+    const std::string textA = a.Text();
+    const std::string textB = b.Text();
+    return SameSpelling(Spelling(textA), Spelling(textB), a.lDistrict, b.lDistrict);
 }
 
 void SortVariationKeys(std::vector<VariationKey>& Keys, std::int32_t lLow, std::int32_t lHigh) {

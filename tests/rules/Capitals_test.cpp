@@ -143,6 +143,14 @@ TEST_F(Capitals, TheMarkersAreLeftBehind) {
     EXPECT_EQ(sMarkerSuffix, "%12");
 }
 
+TEST_F(Capitals, AreLookedAtWithoutLeavingTheMarkers) {
+    sMarkerPrefix = sMarkerSuffix = "old";
+    EXPECT_FALSE(CapitalsAreUnusual("!%Smithton%12"));
+    EXPECT_TRUE(CapitalsAreUnusual("!%smithton%12"));
+    EXPECT_EQ(sMarkerPrefix, "old");
+    EXPECT_EQ(sMarkerSuffix, "old");
+}
+
 TEST_F(Capitals, AgreeWithTheSlowRulesOnRandomTexts) {
     constexpr std::string_view alphabets[] = {"!%? \t-[](ABab_|\xE9\xC9\x80\x9A\x8A", "ABabb [](A-", "AAabbbbb  ')"};
     const std::vector<std::string> words = {"ab", "b", "\xE9", "a)", "[a]b"};
@@ -154,6 +162,7 @@ TEST_F(Capitals, AgreeWithTheSlowRulesOnRandomTexts) {
         const std::string text = Slow::RandomText(random, alphabets[random() % 3], 8);
         const bool expected = Slow::UnusualCapitals(text, words);
         ASSERT_EQ(HasUnusualCapitals(text), expected) << text;
+        ASSERT_EQ(CapitalsAreUnusual(text), expected) << text;
         unusual += expected ? 1 : 0;
     }
     EXPECT_GT(unusual, rounds / 10);

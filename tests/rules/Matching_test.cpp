@@ -131,7 +131,11 @@ protected:
         AddDistrict("Other", {"Smithtown", "Sm_thton"});
         lCurrentDistrict = AddDistrict("Smithton", variations);
         lFoundVariation = 99;
-        return FindVariationInDistrict(variation);
+        const bool found = FindVariationInDistrict(variation);
+        const auto slot = FindSpelling(lCurrentDistrict, variation);
+        EXPECT_EQ(found, slot.has_value());
+        EXPECT_EQ(lFoundVariation, slot.value_or(0) == 0 ? 99 : *slot);
+        return found;
     }
 };
 
@@ -186,6 +190,33 @@ TEST_F(Finding, TheMarkersOfTheSoughtTextAreLeftBehindAFoundSlot) {
     EXPECT_TRUE(Find("!A%12", {"A"}));
     EXPECT_EQ(sMarkerPrefix, "!");
     EXPECT_EQ(sMarkerSuffix, "%12");
+}
+
+TEST_F(Finding, TheMarkersOfTheNameAreLeftWhereNoSlotIsFound) {
+    lCurrentDistrict = AddDistrict("!%Smithton%12", {"A"});
+    EXPECT_FALSE(FindVariationInDistrict("%B"));
+    EXPECT_EQ(sMarkerPrefix, "!%");
+    EXPECT_EQ(sMarkerSuffix, "%12");
+}
+
+TEST_F(Finding, TheDistrictThatIsNamedIsSearchedAndNothingIsLeft) {
+    const std::int32_t north = AddDistrict("North", {"Ash", "!%Elm%12"});
+    lCurrentDistrict = AddDistrict("South", {"Oak"});
+    lFoundVariation = 99;
+    sMarkerPrefix = sMarkerSuffix = "old";
+    EXPECT_EQ(FindSpelling(north, "%elm"), 2);
+    EXPECT_EQ(FindSpelling(north, "!NORTH"), 0);
+    EXPECT_EQ(FindSpelling(north, "Oak"), std::nullopt);
+    EXPECT_EQ(FindSpelling(lCurrentDistrict, "Oak"), 1);
+    EXPECT_EQ(lFoundVariation, 99);
+    EXPECT_EQ(sMarkerPrefix + sMarkerSuffix, "oldold");
+}
+
+TEST_F(Finding, TheRepeatedTextIsTheOneInTheTable) {
+    const std::int32_t north = AddDistrict("North", {"Ash", "!%Elm%12"});
+    EXPECT_EQ(RepeatedText(north, "%elm"), "!%Elm%12");
+    EXPECT_EQ(RepeatedText(north, "!NORTH"), "North");
+    EXPECT_EQ(RepeatedText(north, "Oak"), std::nullopt);
 }
 
 TEST_F(Finding, ADistrictThatEndsBeforeItBeginsDoesNotMatchItselfByDate) {

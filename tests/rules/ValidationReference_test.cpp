@@ -14,6 +14,20 @@ constexpr std::string_view Nasty = "!%? \t-[](ABab_|\xE9\xC9\x80\x7F\xFF\x1F";
 constexpr std::string_view Markers = "!%%  ?ABab_1";
 constexpr std::string_view Mild = "!%?_ABCabc 123}\xE9";
 
+// The verdict against what was just checked, which in no mode may differ.
+void ExpectSameVerdict(const std::string& text, const Slow::Validation& slow) {
+    const Verdict verdict = CheckVariation(text);
+    const bool isNull = verdict.state == Verdict::State::Null;
+    EXPECT_EQ(isNull, verdict.reason == "Null District") << text;
+    EXPECT_EQ(verdict.IsValid(), verdict.reason.empty()) << text;
+    if (!verdict.IsValid() && !slow.nullDistrict) {
+        EXPECT_EQ(verdict.reason, slow.invalidReason) << text;
+    }
+    if (verdict.warning) {
+        EXPECT_EQ(*verdict.warning, slow.warning ? slow.warningReason : "") << text;
+    }
+}
+
 // Runs both over the same texts, one after the other, so that what a check leaves to the next is
 // compared as well. Returns the reasons met, so that a test can tell that it has met them all.
 std::set<std::string> Compare(std::uint32_t seed, std::int16_t mode) {
@@ -27,13 +41,14 @@ std::set<std::string> Compare(std::uint32_t seed, std::int16_t mode) {
         const std::string text = Slow::RandomText(random, alphabets[random() % 3], 10);
         bool bNullDistrict = round % 2 == 0;
         const bool valid = ValidateVariation(text, round, &bNullDistrict);
-        const bool same = valid == slow.Check(text) && sInvalidReason == slow.invalidReason &&
-                          bWarning == slow.warning && sWarningReason == slow.warningReason &&
-                          bNullDistrict == slow.nullDistrict;
+        const bool same = valid == slow.Check(text) && CheckVariation(text).IsValid() == valid &&
+                          sInvalidReason == slow.invalidReason && bWarning == slow.warning &&
+                          sWarningReason == slow.warningReason && bNullDistrict == slow.nullDistrict;
         if (!same) {
             ADD_FAILURE() << '[' << text << "] " << valid << ", " << sInvalidReason << ", " << sWarningReason;
             return {};
         }
+        ExpectSameVerdict(text, slow);
         const std::string reason = valid ? "valid" : bNullDistrict ? "flagged" : sInvalidReason;
         reasons.insert(reason.substr(0, reason.find(" char at position")));
     }

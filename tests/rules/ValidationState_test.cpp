@@ -120,6 +120,31 @@ TEST_F(ValidationState, ATextRefusedAtOnceLeavesTheMarkersBefore) {
     }
 }
 
+TEST_F(ValidationState, AVerdictNeitherReadsNorWritesIt) {
+    for (const std::int16_t mode : {NothingOpen, DistrictIdle}) {
+        iEditMode = mode;
+        sInvalidReason = sWarningReason = sMarkerPrefix = sMarkerSuffix = "untouched";
+        for (const char* text : {"Smithton", "!Sm_thton%12", "Caf\xE9", "Smit|ton", "%", "!!a"}) {
+            EXPECT_EQ(CheckVariation(text).state == Verdict::State::Null, text == std::string("%")) << text;
+            EXPECT_FALSE(bWarning) << text;
+            for (const std::string& left : {sInvalidReason, sWarningReason, sMarkerPrefix, sMarkerSuffix}) {
+                EXPECT_EQ(left, "untouched") << text;
+            }
+        }
+    }
+}
+
+TEST_F(ValidationState, AVerdictOnATextRefusedAtOnceSaysNothingOfWarnings) {
+    for (const char* text : {"Sm_|ton", "Sm_thton%", "Sm_thton!", "_%1%2", "\xE9!"}) {
+        EXPECT_EQ(CheckVariation(text).warning, std::nullopt) << text;
+        EXPECT_FALSE(CheckVariation(text).Warns()) << text;
+    }
+    EXPECT_EQ(CheckVariation("Smithton").warning, "");
+    EXPECT_EQ(CheckVariation("!!a").warning, "");
+    EXPECT_FALSE(CheckVariation("Smithton").Warns());
+    EXPECT_EQ(CheckVariation(" Sm_thton").warning, "Should have !");
+}
+
 TEST_F(ValidationState, TheTextIsNotChanged) {
     const std::string text = " !Sm_thton %12\t ";
     std::string checked = text;

@@ -1,4 +1,4 @@
-#include "rules/ValidationVerdict.h"
+#include "rules/VerdictText.h"
 #include "support/Table.h"
 
 using namespace CommonRoutines;
@@ -13,36 +13,36 @@ char Byte(int code) {
 
 TEST_F(ValidationWarnings, CharactersOfAnUnreadableNameShouldHaveAShriek) {
     for (const char c : std::string_view("_*[]{}")) {
-        EXPECT_EQ(Verdict(std::string("Sm") + c + "thton"), "valid, warning: Should have !") << c;
-        EXPECT_EQ(Verdict(std::string("%Sm") + c + "thton"), "valid, warning: Should have !") << c;
-        EXPECT_EQ(Verdict(std::string(1, c)), "valid, warning: Should have !") << c;
+        EXPECT_EQ(VerdictText(std::string("Sm") + c + "thton"), "valid, warning: Should have !") << c;
+        EXPECT_EQ(VerdictText(std::string("%Sm") + c + "thton"), "valid, warning: Should have !") << c;
+        EXPECT_EQ(VerdictText(std::string(1, c)), "valid, warning: Should have !") << c;
     }
 }
 
 TEST_F(ValidationWarnings, WithTheShriekInFrontAllIsWell) {
     for (const char c : std::string_view("_*[]{}")) {
-        EXPECT_EQ(Verdict(std::string("!Sm") + c + "thton"), "valid") << c;
-        EXPECT_EQ(Verdict(std::string("!%Sm") + c + "thton"), "valid") << c;
-        EXPECT_EQ(Verdict(std::string("%!Sm") + c + "thton"), "valid") << c;
+        EXPECT_EQ(VerdictText(std::string("!Sm") + c + "thton"), "valid") << c;
+        EXPECT_EQ(VerdictText(std::string("!%Sm") + c + "thton"), "valid") << c;
+        EXPECT_EQ(VerdictText(std::string("%!Sm") + c + "thton"), "valid") << c;
     }
 }
 
 TEST_F(ValidationWarnings, AShriekBehindTheNameDoesNotHelp) {
-    EXPECT_EQ(Verdict("Sm_th!ton"), "valid, warning: Should have !");
+    EXPECT_EQ(VerdictText("Sm_th!ton"), "valid, warning: Should have !");
 }
 
 TEST_F(ValidationWarnings, OnlyTheNameIsLookedAt) {
-    EXPECT_EQ(Verdict("Smithton%[12]"), "valid");
-    EXPECT_EQ(Verdict("Smith!_"), "valid");
+    EXPECT_EQ(VerdictText("Smithton%[12]"), "valid");
+    EXPECT_EQ(VerdictText("Smith!_"), "valid");
 }
 
 TEST_F(ValidationWarnings, CharactersBeyondAsciiAreUnusual) {
-    EXPECT_EQ(Verdict("Caf\xE9"), "valid, warning: Unusual char at position 4 (Char=233)");
-    EXPECT_EQ(Verdict("Smithton%\xA3"), "valid, warning: Unusual char at position 10 (Char=163)");
+    EXPECT_EQ(VerdictText("Caf\xE9"), "valid, warning: Unusual char at position 4 (Char=233)");
+    EXPECT_EQ(VerdictText("Smithton%\xA3"), "valid, warning: Unusual char at position 10 (Char=163)");
 }
 
 TEST_F(ValidationWarnings, TheLastUnusualCharacterIsTheOneReported) {
-    EXPECT_EQ(Verdict("Caf\xE9 Zo\xEB s"), "valid, warning: Unusual char at position 8 (Char=235)");
+    EXPECT_EQ(VerdictText("Caf\xE9 Zo\xEB s"), "valid, warning: Unusual char at position 8 (Char=235)");
 }
 
 TEST_F(ValidationWarnings, ATildeBehindAnUnusualCharacterIsOrdinary) {
@@ -51,35 +51,35 @@ TEST_F(ValidationWarnings, ATildeBehindAnUnusualCharacterIsOrdinary) {
 }
 
 TEST_F(ValidationWarnings, AnUnusualCharacterHidesTheMissingShriek) {
-    EXPECT_EQ(Verdict("_\xE9_"), "valid, warning: Unusual char at position 2 (Char=233)");
+    EXPECT_EQ(VerdictText("_\xE9_"), "valid, warning: Unusual char at position 2 (Char=233)");
 }
 
 TEST_F(ValidationWarnings, ControlCharactersAreInvalid) {
-    EXPECT_EQ(Verdict("Sm\tithton"), "refused: Invalid char at position 3 (Char=9)");
-    EXPECT_EQ(Verdict("Smithton\r\n"), "refused: Invalid char at position 9 (Char=13)");
-    EXPECT_EQ(Verdict(std::string_view("S\0", 2)), "refused: Invalid char at position 2 (Char=0)");
+    EXPECT_EQ(VerdictText("Sm\tithton"), "refused: Invalid char at position 3 (Char=9)");
+    EXPECT_EQ(VerdictText("Smithton\r\n"), "refused: Invalid char at position 9 (Char=13)");
+    EXPECT_EQ(VerdictText(std::string_view("S\0", 2)), "refused: Invalid char at position 2 (Char=0)");
 }
 
 TEST_F(ValidationWarnings, PositionsCountFromTheStartOfTheUntrimmedText) {
-    EXPECT_EQ(Verdict("  !\tS"), "refused: Invalid char at position 4 (Char=9)");
-    EXPECT_EQ(Verdict(std::string(120, 'a') + "\t"), "refused: Invalid char at position 121 (Char=9)");
+    EXPECT_EQ(VerdictText("  !\tS"), "refused: Invalid char at position 4 (Char=9)");
+    EXPECT_EQ(VerdictText(std::string(120, 'a') + "\t"), "refused: Invalid char at position 121 (Char=9)");
 }
 
 TEST_F(ValidationWarnings, AControlCharacterIsTheReasonWhateverElseIsWrong) {
-    EXPECT_EQ(Verdict(" !!a?b \t "), "refused: Invalid char at position 8 (Char=9)");
-    EXPECT_EQ(Verdict("a?b\t"), "refused: Invalid char at position 4 (Char=9)");
+    EXPECT_EQ(VerdictText(" !!a?b \t "), "refused: Invalid char at position 8 (Char=9)");
+    EXPECT_EQ(VerdictText("a?b\t"), "refused: Invalid char at position 4 (Char=9)");
 }
 
 TEST_F(ValidationWarnings, TheFirstControlCharacterEndsTheCheck) {
-    EXPECT_EQ(Verdict("a\tb\n"), "refused: Invalid char at position 2 (Char=9)");
-    EXPECT_EQ(Verdict("\xE9\t\xEB"),
+    EXPECT_EQ(VerdictText("a\tb\n"), "refused: Invalid char at position 2 (Char=9)");
+    EXPECT_EQ(VerdictText("\xE9\t\xEB"),
               "refused: Invalid char at position 2 (Char=9), warning: Unusual char at position 1 (Char=233)");
-    EXPECT_EQ(Verdict("_\t"), "refused: Invalid char at position 2 (Char=9), warning: Should have !");
+    EXPECT_EQ(VerdictText("_\t"), "refused: Invalid char at position 2 (Char=9), warning: Should have !");
 }
 
 TEST_F(ValidationWarnings, ARefusedTextIsWarnedAboutAllTheSame) {
-    EXPECT_EQ(Verdict("Sm?_"), "refused: Question Mark, warning: Should have !");
-    EXPECT_EQ(Verdict(" Caf\xE9"), "refused: Leading space, warning: Unusual char at position 5 (Char=233)");
+    EXPECT_EQ(VerdictText("Sm?_"), "refused: Question Mark, warning: Should have !");
+    EXPECT_EQ(VerdictText(" Caf\xE9"), "refused: Leading space, warning: Unusual char at position 5 (Char=233)");
 }
 
 std::string ExpectedInsideAName(int code) {
@@ -109,7 +109,7 @@ std::string ExpectedInsideAName(int code) {
 
 TEST_F(ValidationWarnings, EveryCharacterInsideANameIsOfOneClass) {
     for (int code = 0; code < 256; ++code) {
-        EXPECT_EQ(Verdict(std::string("ab") + Byte(code) + "d"), ExpectedInsideAName(code)) << code;
+        EXPECT_EQ(VerdictText(std::string("ab") + Byte(code) + "d"), ExpectedInsideAName(code)) << code;
     }
 }
 

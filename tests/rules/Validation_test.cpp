@@ -1,4 +1,4 @@
-#include "rules/ValidationVerdict.h"
+#include "rules/VerdictText.h"
 #include "support/Table.h"
 
 using namespace CommonRoutines;
@@ -17,132 +17,132 @@ const std::string BadDependency = "refused: Invalid VNF dependency format";
 TEST_F(Validation, NamesWithAndWithoutMarkersAreValid) {
     for (const char* text : {"Smithton", "Upper Smithton", "!Smithton", "%Smithton", "!%Smithton", "Smithton%12",
                              "!Smithton%12", "%Smithton%12", "!%Smithton%12", "Sm!ithton"}) {
-        EXPECT_EQ(Verdict(text), "valid") << text;
+        EXPECT_EQ(VerdictText(text), "valid") << text;
     }
 }
 
 TEST_F(Validation, AnEmptyTextIsValid) {
-    EXPECT_EQ(Verdict(""), "valid");
+    EXPECT_EQ(VerdictText(""), "valid");
 }
 
 TEST_F(Validation, TheSeparatorOfTheFileIsRefused) {
-    EXPECT_EQ(Verdict("Smit|ton"), "refused: Invalid Char - |");
-    EXPECT_EQ(Verdict("|"), "refused: Invalid Char - |");
-    EXPECT_EQ(Verdict("Smithton|"), "refused: Invalid Char - |");
+    EXPECT_EQ(VerdictText("Smit|ton"), "refused: Invalid Char - |");
+    EXPECT_EQ(VerdictText("|"), "refused: Invalid Char - |");
+    EXPECT_EQ(VerdictText("Smithton|"), "refused: Invalid Char - |");
 }
 
 TEST_F(Validation, TheSeparatorIsLookedForBeforeAnythingElse) {
-    EXPECT_EQ(Verdict(" !!%|%\t"), "refused: Invalid Char - |");
+    EXPECT_EQ(VerdictText(" !!%|%\t"), "refused: Invalid Char - |");
 }
 
 TEST_F(Validation, MarkersWithoutANameAreANullDistrict) {
     for (const char* text : {"!", "%", "!%", " ! ", " % ", "  !%  ", "%!"}) {
-        EXPECT_EQ(Verdict(text), Null) << text;
+        EXPECT_EQ(VerdictText(text), Null) << text;
     }
 }
 
 TEST_F(Validation, AMarkerAtTheEndIsANullDistrict) {
     for (const char* text : {"Smithton%", "!Smithton%", "Smithton!", "%Smithton!", "Smithton%12!", "Smithton! ",
                              "Smithton %", "!!%", "!!Smithton%"}) {
-        EXPECT_EQ(Verdict(text), Null) << text;
+        EXPECT_EQ(VerdictText(text), Null) << text;
     }
 }
 
 TEST_F(Validation, TwoPercentsNeedADateMarkInFront) {
-    EXPECT_EQ(Verdict("Smithton%12%3"), BadDependency);
-    EXPECT_EQ(Verdict("!Smithton%12%3"), BadDependency);
-    EXPECT_EQ(Verdict("!!%Smithton%3"), BadDependency);
+    EXPECT_EQ(VerdictText("Smithton%12%3"), BadDependency);
+    EXPECT_EQ(VerdictText("!Smithton%12%3"), BadDependency);
+    EXPECT_EQ(VerdictText("!!%Smithton%3"), BadDependency);
 }
 
 TEST_F(Validation, ASecondPercentCannotBeTheLastCharacter) {
-    EXPECT_EQ(Verdict("%Sm%"), BadDependency);
-    EXPECT_EQ(Verdict("!%Sm%"), BadDependency);
-    EXPECT_EQ(Verdict("%Smithton% "), BadDependency); // the blank is trimmed away
-    EXPECT_EQ(Verdict("%Smithton%12%"), BadDependency);
+    EXPECT_EQ(VerdictText("%Sm%"), BadDependency);
+    EXPECT_EQ(VerdictText("!%Sm%"), BadDependency);
+    EXPECT_EQ(VerdictText("%Smithton% "), BadDependency); // the blank is trimmed away
+    EXPECT_EQ(VerdictText("%Smithton%12%"), BadDependency);
 }
 
 TEST_F(Validation, ASecondPercentStandsAtTheFourthCharacterOrLater) {
-    EXPECT_EQ(Verdict("%%S"), BadDependency);
-    EXPECT_EQ(Verdict("%S%1"), BadDependency);
-    EXPECT_EQ(Verdict("!%%1"), BadDependency);
-    EXPECT_EQ(Verdict(" %S%1"), BadDependency); // counted without the leading blank
-    EXPECT_EQ(Verdict("%Sm%1"), "valid");
-    EXPECT_EQ(Verdict("!%S%1"), "valid");
+    EXPECT_EQ(VerdictText("%%S"), BadDependency);
+    EXPECT_EQ(VerdictText("%S%1"), BadDependency);
+    EXPECT_EQ(VerdictText("!%%1"), BadDependency);
+    EXPECT_EQ(VerdictText(" %S%1"), BadDependency); // counted without the leading blank
+    EXPECT_EQ(VerdictText("%Sm%1"), "valid");
+    EXPECT_EQ(VerdictText("!%S%1"), "valid");
 }
 
 TEST_F(Validation, APercentBetweenTheFirstAndTheLastIsNotLookedAt) {
-    EXPECT_EQ(Verdict("%Smithton%1%2"), "valid");
-    EXPECT_EQ(Verdict("%%S%1"), "valid");
+    EXPECT_EQ(VerdictText("%Smithton%1%2"), "valid");
+    EXPECT_EQ(VerdictText("%%S%1"), "valid");
 }
 
 TEST_F(Validation, ASecondShriekIsRefused) {
-    EXPECT_EQ(Verdict("!!Smithton"), "refused: Multiple !'s");
-    EXPECT_EQ(Verdict("!Smithton!"), "refused: Multiple !'s");
-    EXPECT_EQ(Verdict("!!"), "refused: Multiple !'s");
-    EXPECT_EQ(Verdict("a!b!c"), "refused: Multiple !'s");
+    EXPECT_EQ(VerdictText("!!Smithton"), "refused: Multiple !'s");
+    EXPECT_EQ(VerdictText("!Smithton!"), "refused: Multiple !'s");
+    EXPECT_EQ(VerdictText("!!"), "refused: Multiple !'s");
+    EXPECT_EQ(VerdictText("a!b!c"), "refused: Multiple !'s");
 }
 
 TEST_F(Validation, ABlankBehindTheShriekIsRefused) {
-    EXPECT_EQ(Verdict("! Smithton"), "refused: Space after !");
-    EXPECT_EQ(Verdict("Smith! ton"), "refused: Space after !");
-    EXPECT_EQ(Verdict("Smith !ton"), "valid"); // before it is nobody's business
+    EXPECT_EQ(VerdictText("! Smithton"), "refused: Space after !");
+    EXPECT_EQ(VerdictText("Smith! ton"), "refused: Space after !");
+    EXPECT_EQ(VerdictText("Smith !ton"), "valid"); // before it is nobody's business
 }
 
 TEST_F(Validation, OnlyTheFirstShriekIsLookedBehind) {
-    EXPECT_EQ(Verdict("!Smith! ton"), "refused: Multiple !'s");
+    EXPECT_EQ(VerdictText("!Smith! ton"), "refused: Multiple !'s");
 }
 
 TEST_F(Validation, BlanksAroundAPercentAreRefused) {
-    EXPECT_EQ(Verdict("% Smithton"), "refused: Space after %");
-    EXPECT_EQ(Verdict("Smithton% 12"), "refused: Space after %");
-    EXPECT_EQ(Verdict("Smithton %12"), "refused: Space before %");
-    EXPECT_EQ(Verdict("%Smithton %12"), "refused: Space before %");
+    EXPECT_EQ(VerdictText("% Smithton"), "refused: Space after %");
+    EXPECT_EQ(VerdictText("Smithton% 12"), "refused: Space after %");
+    EXPECT_EQ(VerdictText("Smithton %12"), "refused: Space before %");
+    EXPECT_EQ(VerdictText("%Smithton %12"), "refused: Space before %");
 }
 
 TEST_F(Validation, OuterBlanksAreRefused) {
-    EXPECT_EQ(Verdict(" Smithton"), "refused: Leading space");
-    EXPECT_EQ(Verdict("Smithton "), "refused: Trailing space");
+    EXPECT_EQ(VerdictText(" Smithton"), "refused: Leading space");
+    EXPECT_EQ(VerdictText("Smithton "), "refused: Trailing space");
 }
 
 TEST_F(Validation, BlanksAloneEndInATrailingSpace) {
-    EXPECT_EQ(Verdict(" "), "refused: Trailing space");
-    EXPECT_EQ(Verdict("   "), "refused: Trailing space");
+    EXPECT_EQ(VerdictText(" "), "refused: Trailing space");
+    EXPECT_EQ(VerdictText("   "), "refused: Trailing space");
 }
 
 TEST_F(Validation, TheLastRuleThatFailsGivesTheReason) {
-    EXPECT_EQ(Verdict("! a!"), "refused: Space after !");
-    EXPECT_EQ(Verdict("! a% b"), "refused: Space after %");
-    EXPECT_EQ(Verdict("a % b"), "refused: Space before %");
-    EXPECT_EQ(Verdict(" a %b"), "refused: Leading space");
-    EXPECT_EQ(Verdict(" ! a"), "refused: Leading space");
-    EXPECT_EQ(Verdict(" Smithton "), "refused: Trailing space");
+    EXPECT_EQ(VerdictText("! a!"), "refused: Space after !");
+    EXPECT_EQ(VerdictText("! a% b"), "refused: Space after %");
+    EXPECT_EQ(VerdictText("a % b"), "refused: Space before %");
+    EXPECT_EQ(VerdictText(" a %b"), "refused: Leading space");
+    EXPECT_EQ(VerdictText(" ! a"), "refused: Leading space");
+    EXPECT_EQ(VerdictText(" Smithton "), "refused: Trailing space");
 }
 
 TEST_F(Validation, ADependencyIsJudgedBeforeTheShrieks) {
-    EXPECT_EQ(Verdict("!!a%b%"), BadDependency);
-    EXPECT_EQ(Verdict(" a% %b!"), BadDependency);
+    EXPECT_EQ(VerdictText("!!a%b%"), BadDependency);
+    EXPECT_EQ(VerdictText(" a% %b!"), BadDependency);
 }
 
 TEST_F(Validation, AQuestionMarkInANameIsRefused) {
-    EXPECT_EQ(Verdict("Smit?on"), "refused: Question Mark");
-    EXPECT_EQ(Verdict("!%Smit?on%12"), "refused: Question Mark");
-    EXPECT_EQ(Verdict("??"), "refused: Question Mark");
+    EXPECT_EQ(VerdictText("Smit?on"), "refused: Question Mark");
+    EXPECT_EQ(VerdictText("!%Smit?on%12"), "refused: Question Mark");
+    EXPECT_EQ(VerdictText("??"), "refused: Question Mark");
 }
 
 TEST_F(Validation, AQuestionMarkAloneIsAnUnknownNameAndValid) {
     for (const char* text : {"?", "!?", "%?", "!%?", "?%12"}) {
-        EXPECT_EQ(Verdict(text), "valid") << text;
+        EXPECT_EQ(VerdictText(text), "valid") << text;
     }
 }
 
 TEST_F(Validation, AQuestionMarkBehindTheNameIsValid) {
-    EXPECT_EQ(Verdict("Smithton%?12"), "valid");
-    EXPECT_EQ(Verdict("Smithton!?"), "valid");
+    EXPECT_EQ(VerdictText("Smithton%?12"), "valid");
+    EXPECT_EQ(VerdictText("Smithton!?"), "valid");
 }
 
 TEST_F(Validation, AQuestionMarkIsNotTheReasonWhenSomethingElseIsWrong) {
-    EXPECT_EQ(Verdict("!!a?b"), "refused: Multiple !'s");
-    EXPECT_EQ(Verdict("a?b "), "refused: Trailing space");
+    EXPECT_EQ(VerdictText("!!a?b"), "refused: Multiple !'s");
+    EXPECT_EQ(VerdictText("a?b "), "refused: Trailing space");
 }
 
 TEST_F(Validation, TheQuestionMarkRuleAloneLeavesReasonAndMarkers) {
