@@ -2,7 +2,6 @@
 
 #include "core/Ansi.h"
 #include "core/Lines.h"
-#include "core/State.h"
 #include "rules/Validation.h"
 
 namespace CommonRoutines {
@@ -32,10 +31,9 @@ bool Contains(std::string_view text, std::string_view part) {
 
 ChangeRow CheckedRow(std::string text) {
     ChangeRow row;
-    bWarning = false; // a refusal may leave the flag of the row before
-    const bool valid = ValidateVariation(Ansi::Trim(text), lCurrentDistrict);
-    row.iTag = valid ? ChangeRow::Valid : ChangeRow::Invalid;
-    row.bWarning = bWarning;
+    const Verdict verdict = CheckVariation(Ansi::Trim(text));
+    row.iTag = verdict.IsValid() ? ChangeRow::Valid : ChangeRow::Invalid;
+    row.bWarning = verdict.Warns();
     row.sText = std::move(text);
     return row;
 }

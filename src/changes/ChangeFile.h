@@ -36,7 +36,7 @@ struct ChangeList {
     [[nodiscard]] std::string Summary() const;
 };
 
-// Reads a change file and checks every proposal for lCurrentDistrict.
+// Reads a change file and checks every proposal.
 [[nodiscard]] ChangeList ReadChanges(std::string_view content);
 
 } // namespace CommonRoutines

@@ -32,17 +32,18 @@ void StoreCounts(DistrictRecord& record, const CountsOfStates& counts) {
 
 } // namespace
 
-VariationState StateOfVariation(const VariationRecord& variation, std::int32_t lDistrict) {
-    if (!ValidateVariation(variation.Text, lDistrict)) {
+VariationState StateOfVariation(const VariationRecord& variation) {
+    const Verdict verdict = CheckVariation(variation.Text);
+    if (!verdict.IsValid()) {
         return VariationState::Invalid;
     }
-    if (bWarning) {
+    if (verdict.Warns()) {
         return VariationState::Warning;
     }
     if (variation.bDuplicate) {
         return VariationState::Duplicate;
     }
-    return HasUnusualCapitals(variation.Text) ? VariationState::UnusualCaps : VariationState::Plain;
+    return CapitalsAreUnusual(variation.Text) ? VariationState::UnusualCaps : VariationState::Plain;
 }
 
 VariationList ListVariations(std::int32_t lDistrict) {
@@ -56,7 +57,7 @@ VariationList ListVariations(std::int32_t lDistrict) {
         if (variationAt(i).IsDeleted()) {
             continue;
         }
-        const VariationState state = StateOfVariation(variationAt(i), lDistrict);
+        const VariationState state = StateOfVariation(variationAt(i));
         ++counts[static_cast<std::size_t>(state)];
         list.rows.push_back({i, state});
     }

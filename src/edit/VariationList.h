@@ -21,8 +21,8 @@ struct VariationList {
     std::string summary;            // the counts of problems, a line each; empty when there are none
 };
 
-// Runs the checks of a variation, leaving the state of ValidateVariation.
-[[nodiscard]] VariationState StateOfVariation(const VariationRecord& variation, std::int32_t lDistrict);
+// Runs the checks of a variation.
+[[nodiscard]] VariationState StateOfVariation(const VariationRecord& variation);
 
 // Lists the variations of a district, deleted slots aside. Writes the counts of the district's record that
 // the table of states leaves to the list, and sets its question count to 0.

@@ -47,7 +47,7 @@ std::vector<std::int32_t> DistrictsOfType(std::span<const std::int32_t> district
 }
 
 void ReportDuplicatedDistricts(std::span<const std::int32_t> districts, Desktop& desktop) {
-    const auto baseName = [](std::int32_t district) { return Ansi::Trim(StripMarkers(RecordOf(district).Name)); };
+    const auto baseName = [](std::int32_t district) { return Ansi::Trim(SplitMarkers(RecordOf(district).Name).base); };
     // Hashes are made line by line, as the records lie in memory; in the order of the list, only the
     // records of neighbours with equal ones need to be visited.
     std::vector<std::uint64_t> hashes(static_cast<std::size_t>(lLineCount) + 1);

@@ -23,7 +23,7 @@ protected:
     static SelectionView Select(const std::vector<std::int32_t>& slots) {
         std::vector<VariationRow> rows;
         for (const std::int32_t slot : slots) {
-            rows.push_back({slot, StateOfVariation(VariationAt(lCurrentDistrict, slot), lCurrentDistrict)});
+            rows.push_back({slot, StateOfVariation(VariationAt(lCurrentDistrict, slot))});
         }
         return DescribeSelection(rows);
     }
@@ -60,10 +60,12 @@ TEST_F(SelectionTest, AnInvalidVariationShowsWhy) {
     const SelectionView view = SelectAll({"!!Smithton"});
     EXPECT_EQ(view.reason, "Multiple !'s");
     EXPECT_EQ(view.reasonState, VariationState::Invalid);
+    EXPECT_EQ(sInvalidReason, "Multiple !'s");
 }
 
 TEST_F(SelectionTest, ANullVariationShowsItsReason) {
     EXPECT_EQ(SelectAll({"Smithton%"}).reason, "Null District");
+    EXPECT_EQ(sInvalidReason, "Null District");
 }
 
 TEST_F(SelectionTest, AVariationRefusedBeforeTheWarningStageShowsItsOwnReason) {
@@ -215,6 +217,7 @@ TEST_F(SelectionTest, WithoutASelectionNothingIsEditedAndNothingIsSaid) {
     EXPECT_EQ(view.dateCaption, "Add Date%");
     EXPECT_EQ(view.editMode, 2);
     EXPECT_EQ(view.editIndex, 0);
+    EXPECT_EQ(sInvalidReason, "Leading space");
 }
 
 TEST_F(SelectionTest, WithoutASelectionThereNeedBeNoDistrict) {

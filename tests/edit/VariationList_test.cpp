@@ -1,5 +1,6 @@
 #include "edit/VariationList.h"
 
+#include "rules/Validation.h"
 #include "support/LowerCaseWords.h"
 #include "support/Table.h"
 
@@ -17,7 +18,7 @@ protected:
         VariationRecord variation;
         variation.Text = text;
         variation.bDuplicate = isDuplicate;
-        return StateOfVariation(variation, 1);
+        return StateOfVariation(variation);
     }
 
     // The texts of a list in its order.
@@ -85,12 +86,12 @@ TEST_F(VariationListTest, CapitalsAreJudgedByTheTextAndNotByWhatReadingFound) {
     VariationRecord variation;
     variation.Text = "Smithton";
     variation.bUnusualCaps = true;
-    EXPECT_EQ(StateOfVariation(variation, 1), VariationState::Plain);
+    EXPECT_EQ(StateOfVariation(variation), VariationState::Plain);
 }
 
 TEST_F(VariationListTest, InvalidGoesBeforeWarning) {
+    ASSERT_TRUE(CheckVariation("!!Caf\xE9").Warns());
     EXPECT_EQ(StateOf("!!Caf\xE9"), VariationState::Invalid);
-    EXPECT_TRUE(bWarning);
 }
 
 TEST_F(VariationListTest, InvalidGoesBeforeDuplicate) {

@@ -25,7 +25,7 @@ void VariationModel::RefreshRows(const std::vector<int>& rows) {
         return;
     }
     for (const int row : rows) {
-        m_rows[static_cast<std::size_t>(row)].state = StateOfVariation(VariationAt(row), m_district);
+        m_rows[static_cast<std::size_t>(row)].state = StateOfVariation(VariationAt(row));
     }
     const auto [first, last] = std::minmax_element(rows.begin(), rows.end());
     Q_EMIT dataChanged(index(*first), index(*last));
