@@ -33,18 +33,16 @@ bool UserAgrees(std::span<const ChangeRow> rows, bool selectedOnly, Desktop& des
 
 // Adds a proposal that the district does not have yet. Returns false for one that it has, which is
 // then listed with the text that it repeats.
-bool AddProposal(std::string_view proposal, bool asSpelling, Desktop& desktop) {
-    lFoundVariation = 0;
-    if (FindVariationInDistrict(proposal)) {
-        AddDupePair(proposal,
-                    lFoundVariation > 0 ? VariationInCurrentDistrict(lFoundVariation).Text : CurrentDistrict().Name);
+bool AddProposal(std::int32_t lDistrict, std::string_view proposal, bool asSpelling, Desktop& desktop) {
+    if (const auto repeated = RepeatedText(lDistrict, proposal)) {
+        AddDupePair(proposal, *repeated);
         return false;
     }
     const bool needsShriek = asSpelling && !proposal.starts_with('!');
     const std::string text = (needsShriek ? "!" : "") + std::string(proposal);
-    AddSlot(text, SpareSlots);
+    AddSlot(lDistrict, text, SpareSlots);
     bChanged = true;
-    CurrentUndoStep().NewItem({text, UndoAdd, ""}, lCurrentDistrict, desktop);
+    CurrentUndoStep().NewItem({text, UndoAdd, ""}, lDistrict, desktop);
     return true;
 }
 
@@ -67,7 +65,7 @@ std::optional<AppliedChanges> ApplyChanges(std::span<const ChangeRow> rows, bool
         if (proposal.empty() || (bSelectedOnly && !row.bChecked)) {
             continue;
         }
-        ++(AddProposal(proposal, bAsSpelling, desktop) ? applied.added : applied.ignored);
+        ++(AddProposal(lCurrentDistrict, proposal, bAsSpelling, desktop) ? applied.added : applied.ignored);
     }
     FindDuplicateVariations(lCurrentDistrict, KeepPairs);
     Unsaved.Write(desktop);

@@ -35,18 +35,8 @@ bool MayTypePercent(std::string_view text, std::size_t caret) {
 
 // A question mark has a place only in the volume behind the last "%".
 bool MayTypeQuestionMark(std::string_view text, std::size_t caret) {
-    StripMarkers(text);
     const auto lastPercent = text.rfind('%');
-    return !sMarkerSuffix.empty() && (lastPercent == None || caret > lastPercent);
-}
-
-// The text that the new one would repeat; nothing when it is new to the district.
-std::optional<std::string> ExistingText(std::string_view text) {
-    lFoundVariation = 0;
-    if (!FindVariationInDistrict(text)) {
-        return std::nullopt;
-    }
-    return lFoundVariation > 0 ? VariationInCurrentDistrict(lFoundVariation).Text : CurrentDistrict().Name;
+    return !SplitMarkers(text).suffix.empty() && (lastPercent == None || caret > lastPercent);
 }
 
 TextChange FollowAddedText(std::string_view text) {
@@ -54,12 +44,11 @@ TextChange FollowAddedText(std::string_view text) {
         return {AddingUnacceptable, std::nullopt};
     }
     TextChange change{AddingAcceptable, ""};
-    if (const auto existing = ExistingText(text)) {
-        change = {AddingUnacceptable, "Duplicates " + *existing};
+    if (const auto repeated = RepeatedText(lCurrentDistrict, text)) {
+        change = {AddingUnacceptable, "Duplicates " + std::string(*repeated)};
     }
     const std::string_view trimmed = Ansi::Trim(text);
-    const bool valid = ValidateVariation(text, lCurrentDistrict);
-    if (!valid || trimmed == "!" || trimmed.ends_with('%')) {
+    if (!CheckVariation(text).IsValid() || trimmed == "!" || trimmed.ends_with('%')) {
         change.editMode = AddingUnacceptable;
     }
     return change;
@@ -96,27 +85,26 @@ TextChange FollowText(std::string_view text) {
     return {EditingVariation, std::nullopt};
 }
 
-void CommitText(std::string_view text, Desktop& desktop) {
+Committed CommitText(std::string_view text, Desktop& desktop) {
     const std::string trimmed(Ansi::Trim(text));
+    const bool isNew = iEditMode == AddingAcceptable;
+    const bool isEdit = iEditMode == EditingVariation && lEditIndex > 0;
     bChanged = true;
-    if (iEditMode == AddingAcceptable) {
-        RecordChange(UndoAdd, trimmed, "", desktop);
-        AddSlot(trimmed);
-        iEditMode = DistrictIdle;
-    } else if (iEditMode == EditingVariation && lEditIndex > 0) {
-        RecordChange(UndoChange, trimmed, VariationInCurrentDistrict(lEditIndex).Text, desktop);
-        StoreText(lEditIndex, trimmed);
-        iEditMode = DistrictIdle;
+    if (isNew) {
+        RecordChange(lCurrentDistrict, UndoAdd, trimmed, "", desktop);
+        AddSlot(lCurrentDistrict, trimmed);
+    } else if (isEdit) {
+        RecordChange(lCurrentDistrict, UndoChange, trimmed, VariationOf(lCurrentDistrict, lEditIndex).Text, desktop);
+        StoreText(lCurrentDistrict, lEditIndex, trimmed);
     }
-    bWarning = false;
-    static_cast<void>(ValidateVariation(text, lCurrentDistrict)); // only the warning counts
     FindDuplicateVariations(lCurrentDistrict, !KeepPairs);
     Unsaved.Write(desktop);
+    return {isNew || isEdit, CheckVariation(text).warning.value_or("")};
 }
 
 std::string DeleteQuestion(std::span<const VariationRow> rows) {
     if (rows.size() == 1) {
-        const std::string_view text = VariationInCurrentDistrict(rows.front().lIndex).Text;
+        const std::string_view text = VariationOf(lCurrentDistrict, rows.front().lIndex).Text;
         return "Are you sure you want to delete variation " + std::string(Ansi::Trim(text));
     }
     return "Are you sure you want to delete these " + std::to_string(rows.size()) + " variations?";
@@ -125,8 +113,8 @@ std::string DeleteQuestion(std::span<const VariationRow> rows) {
 void DeleteVariations(std::span<const VariationRow> rows, Desktop& desktop) {
     bChanged = true;
     for (const VariationRow& row : rows) {
-        RecordChange(UndoDelete, VariationInCurrentDistrict(row.lIndex).Text, "", desktop);
-        StoreText(row.lIndex, DeletedText);
+        RecordChange(lCurrentDistrict, UndoDelete, VariationOf(lCurrentDistrict, row.lIndex).Text, "", desktop);
+        StoreText(lCurrentDistrict, row.lIndex, DeletedText);
     }
     lEditIndex = 0;
     FindDuplicateVariations(lCurrentDistrict, !KeepPairs);

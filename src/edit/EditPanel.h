@@ -27,15 +27,19 @@ struct TextChange {
 
 // Follows the text from the present iEditMode. While a variation is added, the text is acceptable
 // when it is valid, new to the district and not only or at its end a marker; while an existing one is
-// edited, nothing is checked. Leaves the state of ValidateVariation and lFoundVariation. Without a
-// district the mode stays as it is.
+// edited, nothing is checked. Without a district the mode stays as it is.
 [[nodiscard]] TextChange FollowText(std::string_view text);
 
+// What became of a text that was committed.
+struct Committed {
+    bool stored = false;
+    std::string warning; // empty when there is none
+};
+
 // Stores the text as a new variation or over the one at lEditIndex, as iEditMode says, and records
-// that; in any other mode nothing is stored. Then checks the text, leaving bWarning and
-// sWarningReason, and the duplicates of the district. A warning or an invalid text is no obstacle.
-// Sets bChanged, and iEditMode to DistrictIdle when something was stored.
-void CommitText(std::string_view text, Desktop& desktop);
+// that; in any other mode nothing is stored. Then checks the text for a warning, and looks for
+// duplicates again. A warning or an invalid text is no obstacle. Sets bChanged.
+Committed CommitText(std::string_view text, Desktop& desktop);
 
 // The question before rows are deleted, of which there is at least one.
 [[nodiscard]] std::string DeleteQuestion(std::span<const VariationRow> rows);

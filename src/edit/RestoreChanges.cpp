@@ -43,11 +43,10 @@ bool FitsTable(std::span<const SlotChange> changes) {
 // mixed with another one of the same line.
 void UndoRepairs(const std::set<std::int32_t>& lines) {
     for (const std::int32_t line : lines) {
-        lCurrentDistrict = line;
         const std::vector<std::string> fields = Unsaved.FieldsAsRead(line);
         for (std::size_t k = 1; k < fields.size(); ++k) {
             const bool blank = Ansi::Trim(fields[k]).empty();
-            StoreText(static_cast<std::int32_t>(k), blank ? DeletedText : std::string_view(fields[k]));
+            StoreText(line, static_cast<std::int32_t>(k), blank ? DeletedText : std::string_view(fields[k]));
         }
     }
 }
@@ -56,13 +55,12 @@ void UndoRepairs(const std::set<std::int32_t>& lines) {
 void MakeChanges(std::span<const SlotChange> changes, const std::map<std::int32_t, std::int32_t>& countsAsRead) {
     std::map<std::pair<std::int32_t, std::int32_t>, std::int32_t> added;
     for (const SlotChange& change : changes) {
-        lCurrentDistrict = change.lLine;
         if (change.lSlot <= countsAsRead.at(change.lLine)) {
-            StoreText(change.lSlot, change.sText);
+            StoreText(change.lLine, change.lSlot, change.sText);
         } else if (const auto slot = added.find({change.lLine, change.lSlot}); slot != added.end()) {
-            StoreText(slot->second, change.sText);
+            StoreText(change.lLine, slot->second, change.sText);
         } else {
-            added[{change.lLine, change.lSlot}] = AddSlot(change.sText);
+            added[{change.lLine, change.lSlot}] = AddSlot(change.lLine, change.sText);
         }
     }
 }
@@ -84,7 +82,6 @@ void MakeAll(Desktop& desktop, std::span<const LeftOver* const> wanted) {
         MakeChanges(leftOver->file->changes, countsAsRead); // which notes them as this editor's own
         Unsaved.TakeOver(leftOver->sName);
     }
-    lCurrentDistrict = 0;
     for (const std::int32_t line : lines) {
         FindDuplicateVariations(line);
         static_cast<void>(ListVariations(line)); // only the counts matter

@@ -9,7 +9,7 @@ class Desktop;
 // are wanted back. If so, makes them, counts the problems of their districts anew and sets bChanged.
 //
 // Recovery files of the file that do not fit it, or are damaged, are set aside with a message. None is
-// ever made in part. Expects sDataFileName to be open and no district to be chosen.
+// ever made in part. Expects sDataFileName to be open.
 void RestoreChanges(Desktop& desktop);
 
 } // namespace CommonRoutines

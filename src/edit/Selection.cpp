@@ -10,17 +10,17 @@ namespace CommonRoutines {
 namespace {
 
 std::string ReasonFor(const VariationRecord& variation) {
-    sInvalidReason.clear();
-    // The result is not needed: whatever is wrong stands in the reasons.
-    static_cast<void>(ValidateVariation(variation.Text, lCurrentDistrict));
-    if (sInvalidReason.empty() && sWarningReason.empty()) {
-        if (HasUnusualCapitals(variation.Text)) {
-            sInvalidReason = "Unusual Capitals";
-        } else if (variation.bDuplicate) {
-            sInvalidReason = "Duplicates " + VariationInCurrentDistrict(variation.lDuplicateOf).Text;
-        }
+    const Verdict verdict = CheckVariation(variation.Text);
+    sInvalidReason = verdict.reason;
+    if (verdict.IsValid() && verdict.Warns()) {
+        return *verdict.warning;
     }
-    return sInvalidReason.empty() ? sWarningReason : sInvalidReason;
+    if (verdict.IsValid() && CapitalsAreUnusual(variation.Text)) {
+        sInvalidReason = "Unusual Capitals";
+    } else if (verdict.IsValid() && variation.bDuplicate) {
+        sInvalidReason = "Duplicates " + VariationOf(lCurrentDistrict, variation.lDuplicateOf).Text;
+    }
+    return sInvalidReason;
 }
 
 } // namespace
@@ -30,7 +30,7 @@ SelectionView DescribeSelection(std::span<const VariationRow> selected) {
     bool other = false;
     bool date = false;
     for (const VariationRow& row : selected) {
-        const std::string_view text = VariationInCurrentDistrict(row.lIndex).Text;
+        const std::string_view text = VariationOf(lCurrentDistrict, row.lIndex).Text;
         const bool isSpelling = text.starts_with('!');
         spelling = spelling || isSpelling;
         other = other || !isSpelling;
@@ -38,7 +38,7 @@ SelectionView DescribeSelection(std::span<const VariationRow> selected) {
     }
     SelectionView view;
     if (!selected.empty()) {
-        view.reason = ReasonFor(VariationInCurrentDistrict(selected.back().lIndex));
+        view.reason = ReasonFor(VariationOf(lCurrentDistrict, selected.back().lIndex));
         view.reasonState = selected.back().state;
     }
     if (spelling && other) {

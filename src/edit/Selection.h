@@ -20,8 +20,9 @@ struct SelectionView {
 };
 
 // Describes a selection of rows of lCurrentDistrict, given in list order. The reason is that of the
-// last row, or a warning where spelling mistakes and other variations are mixed. Leaves the state of
-// ValidateVariation, and in sInvalidReason also a finding that makes no variation invalid.
+// last row, or a warning where spelling mistakes and other variations are mixed. With rows,
+// leaves in sInvalidReason why the last one is invalid, or a finding that makes no variation invalid; empty
+// where there is neither.
 [[nodiscard]] SelectionView DescribeSelection(std::span<const VariationRow> selected);
 
 } // namespace CommonRoutines

@@ -14,46 +14,46 @@ std::int16_t iUndoStep = 1;
 namespace {
 
 // Takes back an add: all equal texts go, since the item does not say which one was added.
-bool FreeSlotsWith(std::string_view text) {
+bool FreeSlotsWith(std::int32_t lDistrict, std::string_view text) {
     bool changed = false;
-    for (std::int32_t slot = 1; slot <= CurrentDistrict().lVariationCount; ++slot) {
-        if (VariationInCurrentDistrict(slot).Text == text) {
-            StoreText(slot, DeletedText);
+    for (std::int32_t slot = 1; slot <= RecordOf(lDistrict).lVariationCount; ++slot) {
+        if (VariationOf(lDistrict, slot).Text == text) {
+            StoreText(lDistrict, slot, DeletedText);
             changed = true;
         }
     }
     return changed;
 }
 
-bool ChangeBack(const UndoItem& item, std::span<const VariationRow> rows) {
+bool ChangeBack(std::int32_t lDistrict, const UndoItem& item, std::span<const VariationRow> rows) {
     const bool listed = std::any_of(rows.begin(), rows.end(), [&](const VariationRow& row) {
-        return VariationInCurrentDistrict(row.lIndex).Text == item.sNewName;
+        return VariationOf(lDistrict, row.lIndex).Text == item.sNewName;
     });
-    const std::int32_t slot = listed ? FirstSlotWith(item.sNewName) : 0;
+    const std::int32_t slot = listed ? FirstSlotWith(lDistrict, item.sNewName) : 0;
     if (slot == 0) {
         return false;
     }
-    StoreText(slot, item.sOldName);
+    StoreText(lDistrict, slot, item.sOldName);
     return item.sOldName != item.sNewName;
 }
 
-bool Restore(std::string_view text) {
-    if (const std::int32_t freeSlot = FirstSlotWith(DeletedText); freeSlot > 0) {
-        StoreText(freeSlot, text);
+bool Restore(std::int32_t lDistrict, std::string_view text) {
+    if (const std::int32_t freeSlot = FirstSlotWith(lDistrict, DeletedText); freeSlot > 0) {
+        StoreText(lDistrict, freeSlot, text);
     } else {
-        AddSlot(text);
+        AddSlot(lDistrict, text);
     }
     return true;
 }
 
-bool ChangeTable(const UndoItem& item, std::span<const VariationRow> rows) {
+bool ChangeTable(std::int32_t lDistrict, const UndoItem& item, std::span<const VariationRow> rows) {
     switch (item.iUndoType) {
     case UndoAdd:
-        return FreeSlotsWith(item.sNewName);
+        return FreeSlotsWith(lDistrict, item.sNewName);
     case UndoChange:
-        return ChangeBack(item, rows);
+        return ChangeBack(lDistrict, item, rows);
     case UndoDelete:
-        return Restore(item.sNewName);
+        return Restore(lDistrict, item.sNewName);
     default:
         return false;
     }
@@ -79,13 +79,14 @@ void StartUndoStep(std::int32_t lDistrict) {
     CurrentUndoStep().Clear();
 }
 
-void RecordChange(std::int16_t iUndoType, std::string_view newName, std::string_view oldName, Desktop& desktop) {
-    StartUndoStep(lCurrentDistrict);
-    CurrentUndoStep().NewItem({std::string(newName), iUndoType, std::string(oldName)}, lCurrentDistrict, desktop);
+void RecordChange(std::int32_t lDistrict, std::int16_t iUndoType, std::string_view newName, std::string_view oldName,
+                  Desktop& desktop) {
+    StartUndoStep(lDistrict);
+    CurrentUndoStep().NewItem({std::string(newName), iUndoType, std::string(oldName)}, lDistrict, desktop);
 }
 
 bool TakeBack(const UndoItem& item, std::span<const VariationRow> rows, Desktop& desktop) {
-    const bool changed = ChangeTable(item, rows);
+    const bool changed = ChangeTable(lCurrentDistrict, item, rows);
     bChanged = bChanged || changed;
     Unsaved.Write(desktop);
     return changed;

@@ -26,8 +26,9 @@ void ClearUndoRing();
 // another district the next step of the ring is cleared and becomes the current one.
 void StartUndoStep(std::int32_t lDistrict);
 
-// StartUndoStep for lCurrentDistrict, then NewItem.
-void RecordChange(std::int16_t iUndoType, std::string_view newName, std::string_view oldName, Desktop& desktop);
+// StartUndoStep, then NewItem.
+void RecordChange(std::int32_t lDistrict, std::int16_t iUndoType, std::string_view newName, std::string_view oldName,
+                  Desktop& desktop);
 
 // Takes a change back in lCurrentDistrict, of which `rows` are listed. Returns whether the table
 // changed: a text that can no longer be found is dropped without a word. An undone add frees every

@@ -5,6 +5,7 @@
 #include "core/Lines.h"
 #include "core/Progress.h"
 #include "core/State.h"
+#include "edit/Variations.h"
 #include "file/CommentTypes.h"
 #include "file/DistrictLine.h"
 #include "recovery/OpenMark.h"
@@ -51,7 +52,6 @@ private:
     void ReadVariations(DistrictRecord& record);
     void ReadVariation(DistrictRecord& record, std::int32_t k);
     void RepairVariation(DistrictRecord& record, std::int32_t k);
-    static void StoreRepaired(DistrictRecord& record, std::int32_t k, std::string_view text);
     void SetField(std::int32_t k, std::string text);
     void ReportLine();
     void ShowReport();
@@ -71,10 +71,6 @@ private:
     std::int32_t m_blankCount = 0;
     std::int32_t m_capsCount = 0;
 };
-
-VariationRecord& VariationOf(DistrictRecord& record, std::int32_t k) {
-    return record.Variations[static_cast<std::size_t>(k)];
-}
 
 VariationRecord DeletedSlot() {
     VariationRecord slot;
@@ -176,7 +172,7 @@ void FileRead::ReadVariations(DistrictRecord& record) {
 }
 
 void FileRead::ReadVariation(DistrictRecord& record, std::int32_t k) {
-    VariationRecord& variation = VariationOf(record, k);
+    VariationRecord& variation = VariationOf(lLineCount, k);
     if (Ansi::Trim(Field(k)).empty()) {
         ++m_blankCount;
         variation = DeletedSlot();
@@ -204,7 +200,7 @@ void FileRead::ReadVariation(DistrictRecord& record, std::int32_t k) {
         ++record.lWarningCount;
         ++m_warningCount;
     }
-    variation.bUnusualCaps = HasUnusualCapitals(variation.Text);
+    variation.bUnusualCaps = CapitalsAreUnusual(variation.Text);
     ++(variation.bUnusualCaps ? m_capsCount : lCapsOkTotal);
 }
 
@@ -221,29 +217,24 @@ void FileRead::RepairVariation(DistrictRecord& record, std::int32_t k) {
     --record.lInvalidCount;
     switch (iRepairAction) {
     case CombinePrevious:
-        StoreRepaired(record, k - 1, Field(k));
-        StoreRepaired(record, k, DeletedText);
+        StoreText(lLineCount, k - 1, Field(k));
+        StoreText(lLineCount, k, DeletedText);
         break;
     case CombineNext:
         SetField(k + 1, std::string(Field(k))); // read again as the next variation
-        Unsaved.Note(lLineCount, k + 1, Field(k));
-        StoreRepaired(record, k, DeletedText);
+        StoreText(lLineCount, k + 1, Field(k));
+        StoreText(lLineCount, k, DeletedText);
         break;
     case Remove:
-        StoreRepaired(record, k, DeletedText);
+        StoreText(lLineCount, k, DeletedText);
         break;
     case Type:
-        StoreRepaired(record, k, Field(k));
+        StoreText(lLineCount, k, Field(k));
         break;
     default:
         break;
     }
     Unsaved.Write(m_desktop);
-}
-
-void FileRead::StoreRepaired(DistrictRecord& record, std::int32_t k, std::string_view text) {
-    Unsaved.Note(lLineCount, k, text);
-    VariationOf(record, k).Text = text;
 }
 
 void FileRead::SetField(std::int32_t k, std::string text) {

@@ -10,15 +10,15 @@ class CommitTextTest : public EditTest {
 protected:
     CommitTextTest() { Show("North", {"Ash", "Elm", "Oak"}); }
 
-    void Add(const std::string& text) {
+    Committed Add(const std::string& text) {
         iEditMode = AddingAcceptable;
-        CommitText(text, m_desktop);
+        return CommitText(text, m_desktop);
     }
 
-    void Edit(std::int32_t slot, const std::string& text) {
+    Committed Edit(std::int32_t slot, const std::string& text) {
         lEditIndex = slot;
         iEditMode = EditingVariation;
-        CommitText(text, m_desktop);
+        return CommitText(text, m_desktop);
     }
 };
 
@@ -27,9 +27,9 @@ protected:
 // Adding
 
 TEST_F(CommitTextTest, ANewVariationBecomesTheLastOne) {
-    Add("Yew");
+    EXPECT_TRUE(Add("Yew").stored);
     EXPECT_EQ(Slots(), (Texts{"Ash", "Elm", "Oak", "Yew"}));
-    EXPECT_EQ(iEditMode, DistrictIdle);
+    EXPECT_EQ(iEditMode, AddingAcceptable) << "the caller sets it";
     EXPECT_TRUE(bChanged);
 }
 
@@ -92,9 +92,9 @@ TEST_F(CommitTextTest, OtherDistrictsStayAsTheyAre) {
 // Editing
 
 TEST_F(CommitTextTest, AnEditReplacesTheVariationAtTheEditIndex) {
-    Edit(2, "Yew");
+    EXPECT_TRUE(Edit(2, "Yew").stored);
     EXPECT_EQ(Slots(), (Texts{"Ash", "Yew", "Oak"}));
-    EXPECT_EQ(iEditMode, DistrictIdle);
+    EXPECT_EQ(iEditMode, EditingVariation) << "the caller sets it";
     EXPECT_TRUE(bChanged);
 }
 
@@ -114,9 +114,8 @@ TEST_F(CommitTextTest, AnEditIsTrimmedButTheOldTextIsRecordedAsItStood) {
 
 TEST_F(CommitTextTest, AnInvalidEditIsStored) {
     for (const char* text : {"!!Yew", "Yew%", "!", "", "Yew|Fir", "Ash"}) {
-        Edit(2, text);
+        EXPECT_TRUE(Edit(2, text).stored) << text;
         EXPECT_EQ(Slots()[1], text);
-        EXPECT_EQ(iEditMode, DistrictIdle);
     }
     EXPECT_EQ(CurrentUndoStep().Count(), 6);
 }
@@ -129,7 +128,7 @@ TEST_F(CommitTextTest, AnEditThatChangesNothingIsRecordedToo) {
 
 TEST_F(CommitTextTest, AnEditOfNothingStoresNothing) {
     VariationAt(1, 0).Text = "never used";
-    Edit(0, "Yew");
+    EXPECT_FALSE(Edit(0, "Yew").stored);
     EXPECT_EQ(VariationAt(1, 0).Text, "never used");
     EXPECT_EQ(Slots(), (Texts{"Ash", "Elm", "Oak"}));
     EXPECT_EQ(iEditMode, EditingVariation);
@@ -142,7 +141,7 @@ TEST_F(CommitTextTest, InEveryOtherModeNothingIsStoredOrRecordedAndTheModeStays)
     lEditIndex = 2;
     for (const auto mode : std::to_array<std::int16_t>({2, 3, 4, 5, 7, 8, 10})) {
         iEditMode = mode;
-        CommitText("Yew", m_desktop);
+        EXPECT_FALSE(CommitText("Yew", m_desktop).stored) << mode;
         EXPECT_EQ(Slots(), (Texts{"Ash", "Elm", "Oak"})) << mode;
         EXPECT_EQ(iEditMode, mode);
         ExpectNothingRecorded();
@@ -152,37 +151,43 @@ TEST_F(CommitTextTest, InEveryOtherModeNothingIsStoredOrRecordedAndTheModeStays)
 TEST_F(CommitTextTest, InEveryOtherModeTheTextIsStillCheckedAndTheFileCountsAsChanged) {
     iEditMode = AddingUnacceptable;
     VariationAt(1, 2).Text = "ash";
-    CommitText("Y_w", m_desktop);
-    EXPECT_TRUE(bWarning);
-    EXPECT_EQ(sWarningReason, "Should have !");
+    EXPECT_EQ(CommitText("Y_w", m_desktop).warning, "Should have !");
     EXPECT_TRUE(VariationAt(1, 2).bDuplicate);
     EXPECT_TRUE(bChanged);
 }
 
 // The check after it
 
-TEST_F(CommitTextTest, AWarningIsLeftForTheCallerAndTheVariationStored) {
-    Add("Caf\xE9");
-    EXPECT_TRUE(bWarning);
-    EXPECT_EQ(sWarningReason, "Unusual char at position 4 (Char=233)");
+TEST_F(CommitTextTest, AWarningIsToldAndTheVariationStored) {
+    const Committed committed = Add("Caf\xE9");
+    EXPECT_TRUE(committed.stored);
+    EXPECT_EQ(committed.warning, "Unusual char at position 4 (Char=233)");
     EXPECT_EQ(Slots().back(), "Caf\xE9");
 }
 
 TEST_F(CommitTextTest, TheTextIsCheckedBeforeItIsTrimmed) {
-    Add("  Caf\xE9");
-    EXPECT_EQ(sWarningReason, "Unusual char at position 6 (Char=233)");
+    EXPECT_EQ(Add("  Caf\xE9").warning, "Unusual char at position 6 (Char=233)");
 }
 
-TEST_F(CommitTextTest, AnUnsuspiciousTextLeavesNoWarning) {
+TEST_F(CommitTextTest, AnUnsuspiciousTextHasNoWarning) {
     Add("Caf\xE9");
-    Add("Yew");
-    EXPECT_FALSE(bWarning);
+    EXPECT_EQ(Add("Yew").warning, "");
 }
 
-TEST_F(CommitTextTest, ATextRefusedBeforeTheWarningStageLeavesNoWarningOfAnEarlierOne) {
-    Add("Caf\xE9");
-    ASSERT_TRUE(bWarning);
-    Edit(1, "Yew%");
+TEST_F(CommitTextTest, ATextRefusedBeforeTheWarningStageHasNoWarningOfAnEarlierOne) {
+    ASSERT_NE(Add("Caf\xE9").warning, "");
+    EXPECT_EQ(Edit(1, "Yew%").warning, "");
+}
+
+TEST_F(CommitTextTest, ARefusedTextMayHaveAWarning) {
+    EXPECT_EQ(Edit(1, "!!Caf\xE9").warning, "Unusual char at position 6 (Char=233)");
+}
+
+TEST_F(CommitTextTest, TheSharedResultOfAnEarlierCheckStays) {
+    sInvalidReason = sWarningReason = "untouched";
+    Add("!!Caf\xE9");
+    EXPECT_EQ(sInvalidReason, "untouched");
+    EXPECT_EQ(sWarningReason, "untouched");
     EXPECT_FALSE(bWarning);
 }
 

@@ -61,10 +61,13 @@ public:
     }
 
     void Ok() {
-        CommonRoutines::CommitText(box, m_desktop);
+        const CommonRoutines::Committed committed = CommonRoutines::CommitText(box, m_desktop);
+        if (committed.stored) {
+            SetMode(CommonRoutines::DistrictIdle);
+        }
         nextUndo = CommonRoutines::CurrentUndoStep().WhatAmI();
         box.clear();
-        warned = CommonRoutines::bWarning;
+        warned = !committed.warning.empty();
         List();
         SetMode(CommonRoutines::iEditMode);
     }
@@ -134,7 +137,7 @@ private:
 
     static std::string EditedText() {
         const std::int32_t slot = CommonRoutines::lEditIndex;
-        return slot > 0 ? CommonRoutines::VariationInCurrentDistrict(slot).Text : std::string();
+        return slot > 0 ? CommonRoutines::VariationOf(CommonRoutines::lCurrentDistrict, slot).Text : std::string();
     }
 
     CommonRoutines::Desktop& m_desktop;

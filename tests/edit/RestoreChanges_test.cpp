@@ -80,8 +80,7 @@ TEST_F(RestoreChangesTest, ThatAreBackAreThisEditorsOwn) {
     ExpectQuestion(BoxAnswer::Yes);
     Open();
     EXPECT_EQ(desktop.state.Kept(), Texts{"1002.changes"});
-    lCurrentDistrict = 1;
-    StoreText(1, "Larch");
+    StoreText(1, 1, "Larch");
     Unsaved.Write(desktop);
     desktop.state.Die();
     ExpectQuestion(BoxAnswer::Yes);
@@ -270,8 +269,7 @@ TEST_F(RestoreChangesTest, OfALivingEditorAreNotTouchedAndTheSecondEditorIsTold)
                       BoxIcon::Exclamation);
     Open();
     ExpectUntouched();
-    lCurrentDistrict = 1;
-    StoreText(1, "Mine");
+    StoreText(1, 1, "Mine");
     Unsaved.Write(desktop);
     for (const auto& [name, content] : before) {
         EXPECT_EQ(desktop.state.Read(name), content) << name;

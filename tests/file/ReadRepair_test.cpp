@@ -175,6 +175,22 @@ TEST_F(ReadRepairTest, CombiningWithThePreviousPutsTheJoinIntoThePreviousSlot) {
     ExpectSaved("|Elm%|Oak");
 }
 
+TEST_F(ReadRepairTest, EveryRepairIsNotedSlotBySlot) {
+    ExpectFirst("!", "Elm", "Combine Next");
+    ExpectMiddle("!Elm", "%", "Oak", 3, "Combine Previous");
+    ExpectMiddle("Oak", "%", "Fir", 5, "Remove");
+    ExpectLastAfterRemoved("!", 8, "Type");
+    m_desktop.ExpectInput("Please enter a replacement for the variation !", "Yew");
+    ExpectReadReport(m_desktop, {"There were 1 blank variations in District Ash.  They have been removed.\r\n",
+                                 "There were 1 blank variations in District # end.  They have been removed.\r\n",
+                                 "0 variations with capitalisation problems"});
+    Read("|!|Elm|%|Oak|%|Fir||!");
+    const auto file = ParseRecoveryFile(*m_desktop.state.Read(m_desktop.state.Kept().back()));
+    const std::vector<SlotChange> expected{{1, 2, "!Elm"}, {1, 1, "\t"}, {1, 2, "!Elm%"},
+                                           {1, 3, "\t"},   {1, 5, "\t"}, {1, 8, "Yew"}};
+    EXPECT_EQ(file->changes, expected);
+}
+
 TEST_F(ReadRepairTest, ARemovedVariationIsNoNeighbourOfTheNext) {
     m_desktop.ExpectChoice(Opening("!", 1) +
                                "It is the first variation and can only be combined with the next or removed.\r\n"

@@ -35,11 +35,11 @@ protected:
     }
     // As the program does after every command.
     void Store(std::int32_t slot, std::string_view text) {
-        StoreText(slot, text);
+        StoreText(lCurrentDistrict, slot, text);
         Unsaved.Write(desktop);
     }
     void Add(std::string_view text) {
-        AddSlot(text);
+        AddSlot(lCurrentDistrict, text);
         Unsaved.Write(desktop);
     }
     void ExpectTold() {
@@ -75,8 +75,8 @@ TEST_F(UnsavedChangesTest, SayToWhichFileTheyBelong) {
 }
 
 TEST_F(UnsavedChangesTest, OfOneCommandAreWrittenTogether) {
-    StoreText(1, "Fir");
-    AddSlot("");
+    StoreText(1, 1, "Fir");
+    AddSlot(1, "");
     EXPECT_TRUE(desktop.state.Names().empty());
     Unsaved.Write(desktop);
     EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 1, "Fir"}, {1, 4, ""}}));
@@ -206,7 +206,7 @@ TEST_F(UnsavedChangesTest, FollowWhatAFailedWriteLeftHalfDone) {
 TEST_F(UnsavedChangesTest, TakenOverGoOnceTheyAreWritten) {
     desktop.state.storage->files["0001.changes"] = "left over";
     ASSERT_EQ(desktop.state.Lock("0001.changes.lock"), LockResult::Taken);
-    StoreText(1, "Fir");
+    StoreText(1, 1, "Fir");
     Unsaved.TakeOver("0001.changes");
     desktop.state.canWrite = false;
     ExpectTold();

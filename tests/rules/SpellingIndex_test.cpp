@@ -28,10 +28,10 @@ protected:
     void ChangeTheDistrict() {
         const std::int32_t count = DistrictAt(lCurrentDistrict).lVariationCount;
         if (count == 0 || (count < MostSlots && m_random() % 3 == 0)) {
-            AddSlot(Text());
+            AddSlot(lCurrentDistrict, Text());
         } else {
             const auto slot = static_cast<std::int32_t>(1 + m_random() % static_cast<unsigned>(count));
-            StoreText(slot, m_random() % 3 == 0 ? std::string(DeletedText) : Text());
+            StoreText(lCurrentDistrict, slot, m_random() % 3 == 0 ? std::string(DeletedText) : Text());
         }
     }
 
@@ -58,6 +58,8 @@ TEST_F(SpellingIndexTest, FindsWhatAWalkThroughTheSlotsFinds) {
         const bool isName = Slow::Same(sought, "North", lCurrentDistrict, lCurrentDistrict);
         ASSERT_EQ(FindVariationInDistrict(sought), expected > 0 || isName) << sought;
         ASSERT_EQ(lFoundVariation, expected) << sought;
+        const bool isNew = expected == 0 && !isName;
+        ASSERT_EQ(FindSpelling(lCurrentDistrict, sought), isNew ? std::nullopt : std::optional(expected)) << sought;
         found += expected > 0 ? 1 : 0;
     }
     EXPECT_GT(found, rounds / 20);

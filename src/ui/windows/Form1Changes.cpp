@@ -148,7 +148,7 @@ void Form1::CompleteCheckClicked() {
 void Form1::SaveVariationsClicked() {
     std::vector<std::string> texts;
     for (const VariationRow& row : SelectedVariations()) {
-        texts.push_back(VariationInCurrentDistrict(row.lIndex).Text);
+        texts.push_back(VariationOf(lCurrentDistrict, row.lIndex).Text);
     }
     SaveSelectedVariations(texts, m_desktop);
 }

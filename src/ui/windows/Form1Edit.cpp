@@ -84,12 +84,15 @@ void Form1::AddClicked() {
 }
 
 void Form1::OkClicked() {
-    CommitText(Text::FromQt(m_controls.tbEdit->text()), m_desktop);
+    const Committed committed = CommitText(Text::FromQt(m_controls.tbEdit->text()), m_desktop);
+    if (committed.stored) {
+        iEditMode = DistrictIdle;
+    }
     ShowNextUndo(CurrentUndoStep().WhatAmI());
-    if (bWarning) {
+    if (!committed.warning.empty()) {
         m_desktop.Beep();
         m_controls.lbWhyError->SetBackground(StateColours::BlueGreen);
-        ShowWhyError(sWarningReason, VariationState::Plain);
+        ShowWhyError(committed.warning, VariationState::Plain);
     } else {
         m_controls.lbWhyError->SetBackground(StateColours::LightGrey);
     }
@@ -148,7 +151,7 @@ void Form1::ChangeSelectedMarkers(MarkerCommand command, QPushButton& button) {
     // The rows stay where they are, and selected, until the list is filled again.
     m_variations->RefreshRows(m_controls.lvVariations->SelectedRows());
     if (lEditIndex > 0) {
-        PutIntoEditBox(VariationInCurrentDistrict(lEditIndex).Text);
+        PutIntoEditBox(VariationOf(lCurrentDistrict, lEditIndex).Text);
     }
     button.setEnabled(false);
     iEditMode = DistrictIdle;

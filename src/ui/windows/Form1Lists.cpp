@@ -61,7 +61,7 @@ void Form1::VariationsChosen() {
     lEditIndex = view.editIndex;
     if (lEditIndex > 0) {
         iLastAction = VariationSelected;
-        PutIntoEditBox(VariationInCurrentDistrict(lEditIndex).Text);
+        PutIntoEditBox(VariationOf(lCurrentDistrict, lEditIndex).Text);
     } else {
         PutIntoEditBox({});
     }
