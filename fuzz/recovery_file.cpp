@@ -4,7 +4,7 @@
 #include "FuzzDesktop.h"
 
 #include "core/State.h"
-#include "edit/RestoreChanges.h"
+#include "commands/RestoreChanges.h"
 #include "file/DistrictFileReader.h"
 #include "file/DistrictFileWriter.h"
 #include "recovery/RecoveryFile.h"

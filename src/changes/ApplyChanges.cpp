@@ -5,7 +5,6 @@
 #include "core/State.h"
 #include "edit/UndoJournal.h"
 #include "edit/Variations.h"
-#include "recovery/UnsavedChanges.h"
 #include "rules/Duplicates.h"
 #include "rules/Matching.h"
 
@@ -68,7 +67,6 @@ std::optional<AppliedChanges> ApplyChanges(std::span<const ChangeRow> rows, bool
         ++(AddProposal(lCurrentDistrict, proposal, bAsSpelling, desktop) ? applied.added : applied.ignored);
     }
     FindDuplicateVariations(lCurrentDistrict, KeepPairs);
-    Unsaved.Write(desktop);
     return applied;
 }
 

@@ -4,7 +4,6 @@
 #include "core/State.h"
 #include "edit/UndoJournal.h"
 #include "edit/Variations.h"
-#include "recovery/UnsavedChanges.h"
 #include "rules/Duplicates.h"
 #include "rules/Markers.h"
 #include "rules/Matching.h"
@@ -98,7 +97,6 @@ Committed CommitText(std::string_view text, Desktop& desktop) {
         StoreText(lCurrentDistrict, lEditIndex, trimmed);
     }
     FindDuplicateVariations(lCurrentDistrict, !KeepPairs);
-    Unsaved.Write(desktop);
     return {isNew || isEdit, CheckVariation(text).warning.value_or("")};
 }
 
@@ -118,7 +116,6 @@ void DeleteVariations(std::span<const VariationRow> rows, Desktop& desktop) {
     }
     lEditIndex = 0;
     FindDuplicateVariations(lCurrentDistrict, !KeepPairs);
-    Unsaved.Write(desktop);
 }
 
 } // namespace CommonRoutines

@@ -15,6 +15,9 @@ namespace CommonRoutines {
 
 class Desktop;
 
+// A longer text can only be looked at: each key would lay it out anew.
+inline constexpr std::size_t LongestEditableText = 200'000;
+
 // Whether a character may be typed into the text behind `caret` characters. Markers are kept where
 // the rules for variations want them; other characters than blank to "|" always pass.
 [[nodiscard]] bool MayType(char key, std::string_view text, std::size_t caret);

@@ -4,7 +4,6 @@
 #include "core/State.h"
 #include "edit/UndoJournal.h"
 #include "edit/Variations.h"
-#include "recovery/UnsavedChanges.h"
 
 namespace CommonRoutines {
 
@@ -55,7 +54,6 @@ void ChangeMarkers(MarkerCommand command, std::span<const VariationRow> rows, De
         StoreText(lCurrentDistrict, row.lIndex, changed);
         bChanged = true;
     }
-    Unsaved.Write(desktop);
 }
 
 } // namespace CommonRoutines

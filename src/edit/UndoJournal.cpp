@@ -2,7 +2,6 @@
 
 #include "core/State.h"
 #include "edit/Variations.h"
-#include "recovery/UnsavedChanges.h"
 
 #include <algorithm>
 
@@ -85,10 +84,9 @@ void RecordChange(std::int32_t lDistrict, std::int16_t iUndoType, std::string_vi
     CurrentUndoStep().NewItem({std::string(newName), iUndoType, std::string(oldName)}, lDistrict, desktop);
 }
 
-bool TakeBack(const UndoItem& item, std::span<const VariationRow> rows, Desktop& desktop) {
+bool TakeBack(const UndoItem& item, std::span<const VariationRow> rows) {
     const bool changed = ChangeTable(lCurrentDistrict, item, rows);
     bChanged = bChanged || changed;
-    Unsaved.Write(desktop);
     return changed;
 }
 

@@ -34,7 +34,7 @@ void RecordChange(std::int32_t lDistrict, std::int16_t iUndoType, std::string_vi
 // changed: a text that can no longer be found is dropped without a word. An undone add frees every
 // slot with its text; an undone change needs its text among the rows; an undone delete takes the
 // first free slot, or a new one. Sets bChanged when the table changed.
-bool TakeBack(const UndoItem& item, std::span<const VariationRow> rows, Desktop& desktop);
+bool TakeBack(const UndoItem& item, std::span<const VariationRow> rows);
 
 // Moves back to the step before when the current one has been emptied, and returns what the next undo
 // would take back; empty when there is nothing.

@@ -6,8 +6,7 @@
 #include <string_view>
 
 // The slots of a district. Every change of a variation comes through StoreText or AddSlot, so that what is
-// kept about the texts follows, and so that the change is noted as unsaved; the command that made it has it
-// written (Unsaved.Write) before it ends.
+// kept about the texts follows, and so that the change is noted as unsaved; it is written when the command ends.
 namespace CommonRoutines {
 
 // The variation in a slot, 1 to lVariationCount.

@@ -234,7 +234,7 @@ void FileRead::RepairVariation(DistrictRecord& record, std::int32_t k) {
     default:
         break;
     }
-    Unsaved.Write(m_desktop);
+    Unsaved.Write(m_desktop); // reading may go on for long
 }
 
 void FileRead::SetField(std::int32_t k, std::string text) {

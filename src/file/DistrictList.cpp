@@ -4,6 +4,7 @@
 #include "core/Desktop.h"
 #include "core/State.h"
 #include "core/UpperCase.h"
+#include "edit/VariationStates.h"
 #include "file/DistrictComments.h"
 #include "rules/Markers.h"
 
@@ -22,8 +23,10 @@ std::string DistrictCell(const DistrictRecord& record, std::size_t column, std::
 }
 
 bool DistrictHasProblem(const DistrictRecord& record) {
-    return record.iQuestionCount > 0 || record.iDuplicateCount > 0 || record.lInvalidCount > 0 ||
-           record.lWarningCount > 0;
+    return record.iQuestionCount > 0 ||
+           std::any_of(VariationStateTable.begin(), VariationStateTable.end(), [&](const VariationStateFacts& facts) {
+               return facts.count != nullptr && record.*facts.count > 0;
+           });
 }
 
 std::vector<std::int32_t> DistrictsByName() {

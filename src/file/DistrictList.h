@@ -32,9 +32,6 @@ inline constexpr auto DistrictColumnTable = std::to_array<DistrictColumn>({
     {"QtrA", &DistrictRecord::QtrA, "WW"},
 });
 
-// The same table under the name of its headings, for who only counts them.
-inline constexpr const auto& DistrictHeadings = DistrictColumnTable;
-
 // What a district has in a column of the table; of a text no more than its first `longest` characters.
 [[nodiscard]] std::string DistrictCell(const DistrictRecord& record, std::size_t column,
                                        std::size_t longest = std::string_view::npos);

@@ -204,7 +204,7 @@ TEST_F(ApplyChangesTest, MoreItemsThanAStepHasRoomForAreAllTakenBack) {
     for (int i = 250; i >= 1; --i) {
         const UndoneItem undone = CurrentUndoStep().LastItem();
         ASSERT_EQ(undone.item.sNewName, "Name " + std::to_string(i));
-        EXPECT_TRUE(TakeBack(undone.item, {}, desktop));
+        EXPECT_TRUE(TakeBack(undone.item, {}));
     }
     Texts expected(251, "\t");
     expected[0] = "Oak";

@@ -13,7 +13,7 @@ protected:
     // table changed must be what the file's own flag says.
     bool Back(std::int16_t type, const std::string& newName, const std::string& oldName = "") {
         bChanged = false;
-        const bool changed = TakeBack({newName, type, oldName}, AllRows(), desktop);
+        const bool changed = TakeBack({newName, type, oldName}, AllRows());
         EXPECT_EQ(bChanged, changed);
         return changed;
     }
@@ -45,7 +45,7 @@ TEST_F(TakeBackTest, AnUndoneAddLeavesTextsThatAreOnlyTheSameSpelling) {
 
 TEST_F(TakeBackTest, AnUndoneAddDoesNotNeedARow) {
     Show("North", {"Yew"});
-    EXPECT_TRUE(TakeBack({"Yew", UndoAdd, ""}, {}, desktop));
+    EXPECT_TRUE(TakeBack({"Yew", UndoAdd, ""}, {}));
     EXPECT_EQ(Slots(), Texts{"\t"});
 }
 
@@ -71,15 +71,15 @@ TEST_F(TakeBackTest, AnUndoneChangeOfATextThatIsGoneIsDropped) {
 
 TEST_F(TakeBackTest, AnUndoneChangeOfATextThatIsNotListedIsDropped) {
     Show("North", {"Ash", "Yew"});
-    EXPECT_FALSE(TakeBack({"Yew", UndoChange, "Fir"}, RowsOf({1}), desktop));
-    EXPECT_FALSE(TakeBack({"Yew", UndoChange, "Fir"}, {}, desktop));
+    EXPECT_FALSE(TakeBack({"Yew", UndoChange, "Fir"}, RowsOf({1})));
+    EXPECT_FALSE(TakeBack({"Yew", UndoChange, "Fir"}, {}));
     EXPECT_EQ(Slots(), (Texts{"Ash", "Yew"}));
     EXPECT_FALSE(bChanged);
 }
 
 TEST_F(TakeBackTest, AnyListedRowWithTheTextIsEnough) {
     Show("North", {"Ash", "Yew", "Elm", "Yew"});
-    EXPECT_TRUE(TakeBack({"Yew", UndoChange, "Fir"}, RowsOf({1, 3, 4}), desktop));
+    EXPECT_TRUE(TakeBack({"Yew", UndoChange, "Fir"}, RowsOf({1, 3, 4})));
     EXPECT_EQ(Slots(), (Texts{"Ash", "Fir", "Elm", "Yew"}));
 }
 
@@ -99,7 +99,7 @@ TEST_F(TakeBackTest, AMarkerChangeOfATextWithABlankAtItsEndCannotBeFoundAgain) {
     Show("North", {"Yew "});
     ChangeMarkers(MarkerCommand::AddShriek, AllRows(), m_desktop);
     bChanged = false;
-    EXPECT_FALSE(TakeBack(CurrentUndoStep().LastItem().item, AllRows(), desktop));
+    EXPECT_FALSE(TakeBack(CurrentUndoStep().LastItem().item, AllRows()));
     EXPECT_EQ(Slots(), Texts{"!Yew "});
     EXPECT_FALSE(bChanged);
 }
@@ -110,7 +110,7 @@ TEST_F(TakeBackTest, MarkerChangesOfSeveralRowsComeBackOneByOne) {
     ASSERT_EQ(Slots(), (Texts{"!Ash", "!%Elm", "!Oak"}));
     int changes = 0;
     while (CurrentUndoStep().Count() > 0) {
-        changes += TakeBack(CurrentUndoStep().LastItem().item, AllRows(), desktop) ? 1 : 0;
+        changes += TakeBack(CurrentUndoStep().LastItem().item, AllRows()) ? 1 : 0;
     }
     EXPECT_EQ(changes, 2);
     EXPECT_EQ(Slots(), (Texts{"Ash", "%Elm", "!Oak"}));
@@ -174,7 +174,7 @@ TEST_F(TakeBackTest, OnlyTheCurrentDistrictChanges) {
 TEST_F(TakeBackTest, UnsavedChangesStayUnsavedWhereNothingIsTakenBack) {
     Show("North", {"Ash"});
     bChanged = true;
-    EXPECT_FALSE(TakeBack({"Yew", UndoAdd, ""}, AllRows(), desktop));
+    EXPECT_FALSE(TakeBack({"Yew", UndoAdd, ""}, AllRows()));
     EXPECT_TRUE(bChanged);
 }
 

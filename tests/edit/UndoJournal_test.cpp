@@ -220,7 +220,7 @@ TEST_F(UndoJournalTest, ThreeDeletesAndAnAddAreOneStepTakenBackInReverseOrder) {
     const Texts tables[] = {
         {"\t", "\t", "\t", "\t"}, {"Oak", "\t", "\t", "\t"}, {"Oak", "Elm", "\t", "\t"}, {"Oak", "Elm", "Ash", "\t"}};
     for (std::size_t i = 0; i < 4; ++i) {
-        EXPECT_TRUE(TakeBack(CurrentUndoStep().LastItem().item, AllRows(), m_desktop));
+        EXPECT_TRUE(TakeBack(CurrentUndoStep().LastItem().item, AllRows()));
         EXPECT_EQ(DescribeNextUndo(), next[i]);
         EXPECT_EQ(Slots(), tables[i]);
     }

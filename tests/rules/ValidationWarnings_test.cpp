@@ -46,8 +46,8 @@ TEST_F(ValidationWarnings, TheLastUnusualCharacterIsTheOneReported) {
 }
 
 TEST_F(ValidationWarnings, ATildeBehindAnUnusualCharacterIsOrdinary) {
-    EXPECT_EQ(Verdict("Caf\xE9~"), "valid, warning: Unusual char at position 4 (Char=233)");
-    EXPECT_EQ(Verdict("Caf\xE9\x7F"), "valid, warning: Unusual char at position 5 (Char=127)");
+    EXPECT_EQ(VerdictText("Caf\xE9~"), "valid, warning: Unusual char at position 4 (Char=233)");
+    EXPECT_EQ(VerdictText("Caf\xE9\x7F"), "valid, warning: Unusual char at position 5 (Char=127)");
 }
 
 TEST_F(ValidationWarnings, AnUnusualCharacterHidesTheMissingShriek) {

@@ -6,8 +6,6 @@
 
 #include <QGuiApplication>
 
-#include <algorithm>
-
 namespace Ui {
 
 using namespace CommonRoutines;
@@ -37,32 +35,22 @@ QString RowInWords(const ChangeRow& row) {
 
 } // namespace
 
-void ChangeModel::SetRows(std::vector<ChangeRow> rows) {
-    beginResetModel();
-    m_rows = std::move(rows);
-    endResetModel();
-}
-
-bool ChangeModel::AnyChecked() const {
-    return std::any_of(m_rows.begin(), m_rows.end(), [](const ChangeRow& row) { return row.bChecked; });
-}
-
-void ChangeModel::UncheckAll() {
-    if (m_rows.empty()) {
-        return;
+void ChangeModel::Show(const Commands::ListView<ChangeRow>& list) {
+    if (m_rows.AreOthersThan(list)) {
+        beginResetModel();
+        m_rows.Take(list);
+        endResetModel();
+    } else if (m_rows.HaveChanged(list) && m_rows.Count() > 0) {
+        Q_EMIT dataChanged(index(0), index(m_rows.Count() - 1), {Qt::CheckStateRole});
     }
-    for (ChangeRow& row : m_rows) {
-        row.bChecked = false;
-    }
-    Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
 }
 
 int ChangeModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    return parent.isValid() ? 0 : m_rows.Count();
 }
 
 QVariant ChangeModel::data(const QModelIndex& index, int role) const {
-    const ChangeRow& row = m_rows[static_cast<std::size_t>(index.row())];
+    const ChangeRow& row = m_rows.At(index.row());
     switch (role) {
     case Qt::DisplayRole:
         return Text::ForList(row.sText);
@@ -80,23 +68,13 @@ QVariant ChangeModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-void ChangeModel::SetChecked(int row, bool checked) {
-    m_rows[static_cast<std::size_t>(row)].bChecked = checked;
-    Q_EMIT dataChanged(index(row), index(row), {Qt::CheckStateRole});
-}
-
 bool ChangeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::CheckStateRole) {
         return false;
     }
-    const bool check = value.toInt() == Qt::Checked;
-    if (check && m_rows[static_cast<std::size_t>(index.row())].iTag != ChangeRow::Valid) {
-        Q_EMIT TickRefused();
-        return false;
-    }
-    SetChecked(index.row(), check);
-    Q_EMIT Ticked();
-    return true;
+    const bool wanted = value.toInt() == Qt::Checked;
+    Q_EMIT TickWanted(index.row(), wanted);
+    return m_rows.At(index.row()).bChecked == wanted;
 }
 
 Qt::ItemFlags ChangeModel::flags(const QModelIndex& index) const {

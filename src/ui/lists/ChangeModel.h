@@ -1,6 +1,6 @@
 #pragma once
 
-#include "changes/ChangeRow.h"
+#include "ui/lists/ShownRows.h"
 
 #include <QAbstractListModel>
 
@@ -8,20 +8,14 @@
 
 namespace Ui {
 
-// The change list: proposed variations, each with a check box. Only valid proposals can be ticked.
+// The change list: proposed variations, each with a check box. Whether one may be ticked is not decided here.
 class ChangeModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    void SetRows(std::vector<CommonRoutines::ChangeRow> rows);
-
-    [[nodiscard]] const std::vector<CommonRoutines::ChangeRow>& Rows() const { return m_rows; }
-    [[nodiscard]] bool AnyChecked() const;
-    // The program's own ticking; nothing is announced.
-    void SetChecked(int row, bool checked);
-    void UncheckAll();
+    void Show(const Commands::ListView<CommonRoutines::ChangeRow>& list);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -30,12 +24,11 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 Q_SIGNALS:
-    // The user has ticked or unticked a row, or has tried to tick one that must not be ticked.
-    void Ticked();
-    void TickRefused();
+    // The user wants to tick a row, or to take its tick away.
+    void TickWanted(int row, bool ticked);
 
 private:
-    std::vector<CommonRoutines::ChangeRow> m_rows;
+    ShownRows<CommonRoutines::ChangeRow> m_rows;
 };
 
 } // namespace Ui

@@ -1,5 +1,6 @@
 #include "ui/lists/CommentModels.h"
 
+#include "file/CommentTypes.h"
 #include "ui/Text.h"
 
 namespace Ui {
@@ -40,10 +41,13 @@ QVariant CommentModel::headerData(int section, Qt::Orientation orientation, int 
     return section == 0 ? QStringLiteral("Type") : QStringLiteral("Comment");
 }
 
-void CommentTypeModel::Refresh() {
-    beginResetModel();
-    m_count = static_cast<int>(CommentTypes.Items().size());
-    endResetModel();
+void CommentTypeModel::Show(const Commands::CommentTypesView& types) {
+    if (types.filled != m_filled) {
+        beginResetModel();
+        m_filled = types.filled;
+        m_count = static_cast<int>(types.count);
+        endResetModel();
+    }
 }
 
 int CommentTypeModel::rowCount(const QModelIndex& parent) const {

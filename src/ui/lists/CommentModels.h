@@ -1,6 +1,6 @@
 #pragma once
 
-#include "file/CommentTypes.h"
+#include "commands/WindowView.h"
 #include "file/DistrictComments.h"
 
 #include <QAbstractListModel>
@@ -31,15 +31,16 @@ class CommentTypeModel : public QAbstractListModel {
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    // CommentTypes has changed. Until this is called, types that are being added do not count.
-    void Refresh();
+    // Types that are being added do not count until the list is filled with them.
+    void Show(const Commands::CommentTypesView& types);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    int m_count = static_cast<int>(CommonRoutines::CommentTypes.Items().size());
+    int m_count = 0;
+    std::int32_t m_filled = -1;
 };
 
 } // namespace Ui

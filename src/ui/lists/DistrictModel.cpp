@@ -17,25 +17,30 @@ using namespace CommonRoutines;
 static_assert(DistrictColumnTable[0].field == decltype(DistrictColumn::field)(&DistrictRecord::Name),
               "type-ahead finds a district by its first column");
 
-void DistrictModel::SetDistricts(std::vector<std::int32_t> districts) {
-    beginResetModel();
-    m_districts = std::move(districts);
-    endResetModel();
+void DistrictModel::Show(const Commands::ListView<std::int32_t>& list, std::int32_t changed) {
+    if (m_districts.AreOthersThan(list)) {
+        beginResetModel();
+        m_districts.Take(list);
+        endResetModel();
+    } else if (m_districts.HaveChanged(list)) {
+        PaintAnew(changed);
+    }
 }
 
 int DistrictModel::RowOf(std::int32_t district) const {
-    const auto found = std::find(m_districts.begin(), m_districts.end(), district);
-    return found == m_districts.end() ? -1 : static_cast<int>(found - m_districts.begin());
+    const std::vector<std::int32_t>& all = m_districts.All();
+    const auto found = std::find(all.begin(), all.end(), district);
+    return found == all.end() ? -1 : static_cast<int>(found - all.begin());
 }
 
-void DistrictModel::Refresh(std::int32_t district) {
+void DistrictModel::PaintAnew(std::int32_t district) {
     if (const int row = RowOf(district); row >= 0) {
         Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
     }
 }
 
 int DistrictModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_districts.size());
+    return parent.isValid() ? 0 : m_districts.Count();
 }
 
 int DistrictModel::columnCount(const QModelIndex& parent) const {
@@ -81,18 +86,18 @@ QModelIndexList DistrictModel::match(const QModelIndex& start, int role, const Q
     const auto beginning = [&](std::int32_t district) {
         return RecordOf(district).Name.View().substr(0, typed.size());
     };
-    const auto first = std::partition_point(m_districts.begin(), m_districts.end(), [&](std::int32_t district) {
+    const std::vector<std::int32_t>& all = m_districts.All();
+    const auto first = std::partition_point(all.begin(), all.end(), [&](std::int32_t district) {
         return Ansi::CompareUpper(beginning(district), typed) < 0;
     });
-    const auto last = std::partition_point(first, m_districts.end(), [&](std::int32_t district) {
-        return Ansi::CompareUpper(beginning(district), typed) == 0;
-    });
+    const auto last = std::partition_point(
+        first, all.end(), [&](std::int32_t district) { return Ansi::CompareUpper(beginning(district), typed) == 0; });
     if (first == last) {
         return {};
     }
-    const auto from = m_districts.begin() + start.row();
+    const auto from = all.begin() + start.row();
     const auto found = first <= from && from < last ? from : first;
-    return {index(static_cast<int>(found - m_districts.begin()), 0)};
+    return {index(static_cast<int>(found - all.begin()), 0)};
 }
 
 } // namespace Ui

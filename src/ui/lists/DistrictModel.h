@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/lists/ShownRows.h"
+
 #include <QAbstractTableModel>
 
 #include <cstdint>
@@ -12,14 +14,13 @@ class DistrictModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    void SetDistricts(std::vector<std::int32_t> districts);
+    // Shows a list. Where it is the one that is shown, `changed` is the district whose row is painted anew if
+    // any has been touched.
+    void Show(const Commands::ListView<std::int32_t>& list, std::int32_t changed);
 
     // The district of a row (the row's tag), and the row of a district, -1 when it is not listed.
-    [[nodiscard]] std::int32_t DistrictAt(int row) const { return m_districts[static_cast<std::size_t>(row)]; }
+    [[nodiscard]] std::int32_t DistrictAt(int row) const { return m_districts.At(row); }
     [[nodiscard]] int RowOf(std::int32_t district) const;
-
-    // The state of a district has changed: its row is painted anew.
-    void Refresh(std::int32_t district);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -30,7 +31,9 @@ public:
                                         Qt::MatchFlags flags) const override;
 
 private:
-    std::vector<std::int32_t> m_districts;
+    void PaintAnew(std::int32_t district);
+
+    ShownRows<std::int32_t> m_districts;
 };
 
 } // namespace Ui

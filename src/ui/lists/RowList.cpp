@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
@@ -98,10 +99,20 @@ std::vector<int> RowList::SelectedRows() const {
     return rows;
 }
 
-void RowList::SelectRow(int row) {
-    m_quiet = true;
-    setCurrentIndex(model()->index(row, 0));
-    m_quiet = false;
+void RowList::ShowSelection(const std::vector<int>& rows) {
+    if (rows == SelectedRows()) {
+        return;
+    }
+    const QScopedValueRollback quiet(m_quiet, true);
+    if (rows.size() == 1) {
+        setCurrentIndex(model()->index(rows.front(), 0));
+        return;
+    }
+    QItemSelection selection;
+    for (const int row : rows) {
+        selection.select(model()->index(row, 0), model()->index(row, model()->columnCount() - 1));
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
 // The base class looks for a row among all others, going out from the one that it looked at last. In a

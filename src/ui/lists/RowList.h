@@ -21,8 +21,9 @@ public:
     // The numbers of the selected rows, in list order.
     [[nodiscard]] std::vector<int> SelectedRows() const;
 
-    // Selects one row and scrolls to it, as the program's own doing: nothing is announced.
-    void SelectRow(int row);
+    // Selects these rows, as the program's own doing: nothing is announced. A single row is scrolled to. Nothing
+    // happens when they are selected already.
+    void ShowSelection(const std::vector<int>& rows);
 
     // What an empty list says, in grey: what to do next.
     void SetHint(const QString& hint);

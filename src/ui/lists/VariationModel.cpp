@@ -7,41 +7,32 @@
 
 #include <QGuiApplication>
 
-#include <algorithm>
-
 namespace Ui {
 
 using namespace CommonRoutines;
 
-void VariationModel::SetRows(std::int32_t district, std::vector<VariationRow> rows) {
-    beginResetModel();
-    m_district = district;
-    m_rows = std::move(rows);
-    endResetModel();
-}
-
-void VariationModel::RefreshRows(const std::vector<int>& rows) {
-    if (rows.empty()) {
-        return;
+void VariationModel::Show(const Commands::ListView<VariationRow>& list, std::int32_t district) {
+    if (m_rows.AreOthersThan(list)) {
+        beginResetModel();
+        m_district = district;
+        m_rows.Take(list);
+        endResetModel();
+    } else if (m_rows.HaveChanged(list) && m_rows.Count() > 0) {
+        Q_EMIT dataChanged(index(0), index(m_rows.Count() - 1));
     }
-    for (const int row : rows) {
-        m_rows[static_cast<std::size_t>(row)].state = StateOfVariation(VariationAt(row));
-    }
-    const auto [first, last] = std::minmax_element(rows.begin(), rows.end());
-    Q_EMIT dataChanged(index(*first), index(*last));
 }
 
 const VariationRecord& VariationModel::VariationAt(int row) const {
-    const auto slot = static_cast<std::size_t>(m_rows[static_cast<std::size_t>(row)].lIndex);
+    const auto slot = static_cast<std::size_t>(m_rows.At(row).lIndex);
     return RecordOf(m_district).Variations[slot];
 }
 
 int VariationModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    return parent.isValid() ? 0 : m_rows.Count();
 }
 
 QVariant VariationModel::data(const QModelIndex& index, int role) const {
-    const VariationState state = m_rows[static_cast<std::size_t>(index.row())].state;
+    const VariationState state = m_rows.At(index.row()).state;
     switch (role) {
     case Qt::DisplayRole:
         return Text::ForList(VariationAt(index.row()).Text);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "edit/VariationList.h"
+#include "ui/lists/ShownRows.h"
 
 #include <QAbstractListModel>
 
@@ -14,12 +14,9 @@ class VariationModel : public QAbstractListModel {
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    void SetRows(std::int32_t district, std::vector<CommonRoutines::VariationRow> rows);
+    // Shows a list of variations of a district.
+    void Show(const Commands::ListView<CommonRoutines::VariationRow>& list, std::int32_t district);
 
-    // The texts of some rows' variations have changed: their states are found anew, their places stay.
-    void RefreshRows(const std::vector<int>& rows);
-
-    [[nodiscard]] const std::vector<CommonRoutines::VariationRow>& Rows() const { return m_rows; }
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
@@ -28,7 +25,7 @@ private:
     [[nodiscard]] const CommonRoutines::VariationRecord& VariationAt(int row) const;
 
     std::int32_t m_district = 0;
-    std::vector<CommonRoutines::VariationRow> m_rows;
+    ShownRows<CommonRoutines::VariationRow> m_rows;
 };
 
 } // namespace Ui

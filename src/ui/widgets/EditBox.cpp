@@ -11,8 +11,6 @@ namespace Ui {
 
 namespace {
 
-constexpr int LongestEditable = 200'000;
-
 // The text as the data file can hold it, in one line.
 QString Allowed(QString text) {
     text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
@@ -24,14 +22,14 @@ QString Allowed(QString text) {
 } // namespace
 
 EditBox::EditBox(QWidget* parent) : QLineEdit(parent) {
-    setMaxLength(LongestEditable);
+    setMaxLength(static_cast<int>(CommonRoutines::LongestEditableText));
     connect(this, &QLineEdit::inputRejected, this, &EditBox::KeyRefused);
     connect(this, &QLineEdit::textEdited, this, &EditBox::ReplaceForeignCharacters);
     connect(this, &QLineEdit::textChanged, this, [this] { m_lastText = text(); });
 }
 
 void EditBox::ShowText(std::string_view text) {
-    const bool cutOff = text.size() > LongestEditable;
+    const bool cutOff = text.size() > CommonRoutines::LongestEditableText;
     setReadOnly(cutOff);
     setText(cutOff ? Text::ForList(text) : Text::ToQt(text));
 }

@@ -1,20 +1,18 @@
 #include "ui/windows/Form1.h"
 
-#include "core/Desktop.h"
-#include "core/State.h"
-#include "edit/UndoJournal.h"
-#include "recovery/UnsavedChanges.h"
-#include "rules/Capitals.h"
+#include "commands/DistrictCommands.h"
+#include "commands/EditCommands.h"
+#include "commands/FileCommands.h"
+#include "commands/ProposalCommands.h"
+#include "commands/VariationCommands.h"
 #include "ui/Text.h"
 #include "ui/lists/ChangeModel.h"
 #include "ui/lists/CommentModels.h"
+#include "ui/lists/DistrictColumns.h"
 #include "ui/lists/DistrictModel.h"
 #include "ui/lists/RowList.h"
-#include "ui/lists/StateColours.h"
 #include "ui/lists/VariationModel.h"
 #include "ui/widgets/EditBox.h"
-#include "ui/widgets/PlainLabel.h"
-#include "ui/windows/Commands.h"
 #include "ui/windows/LongWork.h"
 #include "ui/windows/WindowFit.h"
 
@@ -31,19 +29,11 @@
 namespace Ui {
 
 using namespace CommonRoutines;
+using Commands::Session;
 
 namespace {
 
 constexpr QSize DesignSize(1240, 680);
-
-// The list whose rows a button works on.
-RowList* ListBeside(const QWidget& button, const Form1Controls& controls) {
-    const QWidget* frame = button.parentWidget();
-    if (frame == controls.cbAdd->parentWidget()) {
-        return controls.lvVariations;
-    }
-    return frame == controls.cbApplyAll->parentWidget() ? controls.LvChanges : controls.lvAlpha;
-}
 
 // A bare widget would be a nameless part of a window to a screen reader.
 QAccessibleInterface* AccessibleWindow(const QString& /*className*/, QObject* object) {
@@ -53,21 +43,23 @@ QAccessibleInterface* AccessibleWindow(const QString& /*className*/, QObject* ob
 
 } // namespace
 
-Form1::Form1(Desktop& desktop) : m_desktop(desktop), m_controls(this) {
+Form1::Form1(Desktop& desktop) : m_controls(this), m_session(desktop, *this) {
     QAccessible::installFactory(&AccessibleWindow);
     setObjectName(QStringLiteral("Form1"));
     setWindowTitle(QStringLiteral("Quexal Editor"));
     resize(DesignSize);
     setAcceptDrops(true);
     SetModels();
-    ConnectButtons();
+    ConnectCommands();
     ConnectEditPanel();
     ConnectLists();
-    AddShortcuts();
+    ConnectProposals();
 }
 
-void Form1::Run(void (Form1::*handler)()) {
-    Commands::Run(m_desktop, [=, this] { (this->*handler)(); });
+Form1::~Form1() = default;
+
+void Form1::Run(const std::function<void(Session&)>& command) {
+    LongWork::UnlessPainting([&] { m_session.Run(command); });
 }
 
 void Form1::SetModels() {
@@ -83,100 +75,94 @@ void Form1::SetModels() {
     m_controls.lbComments->setModel(m_commentTypes);
 }
 
-void Form1::ConnectButtons() {
-    const auto onClick = [this](QPushButton* button, void (Form1::*handler)()) {
-        connect(button, &QPushButton::clicked, this, [=, this] { Run(handler); });
-    };
-    onClick(m_controls.cbOpen, &Form1::OpenClicked);
-    onClick(m_controls.cbSave, &Form1::SaveClicked);
-    onClick(m_controls.cbUndo, &Form1::UndoClicked);
-    onClick(m_controls.cbAdd, &Form1::AddClicked);
-    onClick(m_controls.cbDelete, &Form1::DeleteClicked);
-    onClick(m_controls.cbShriek, &Form1::ShriekClicked);
-    onClick(m_controls.cbDate, &Form1::DateClicked);
-    onClick(m_controls.cbOk, &Form1::OkClicked);
-    onClick(m_controls.cbCancel, &Form1::CancelClicked);
-    onClick(m_controls.btnProcess, &Form1::ProcessClicked);
-    onClick(m_controls.cbCompleteCheck, &Form1::CompleteCheckClicked);
-    onClick(m_controls.cbSaveVariations, &Form1::SaveVariationsClicked);
-    onClick(m_controls.cbEditSel, &Form1::EditSelClicked);
-    onClick(m_controls.cbClearSel, &Form1::ClearSelClicked);
+void Form1::ConnectCommands() {
+    for (const Commands::Command& command : Commands::AllCommands()) {
+        if (QPushButton* button = m_controls.Button(command.control)) {
+            connect(button, &QPushButton::clicked, this, [this, run = command.run] { Run(run); });
+        }
+        if (!command.key.empty()) {
+            ConnectKey(command);
+        }
+    }
+    auto* escapeKey = new QShortcut(Qt::Key_Escape, m_controls.lvVariations);
+    escapeKey->setContext(Qt::WidgetShortcut);
+    connect(escapeKey, &QShortcut::activated, this, [this] { Run(Commands::LeaveVariations); });
+}
 
-    const auto onApply = [this](QPushButton* button, bool selectedOnly, bool asSpelling) {
-        connect(button, &QPushButton::clicked, this,
-                [=, this] { Commands::Run(m_desktop, [=, this] { Apply(selectedOnly, asSpelling); }); });
-    };
-    onApply(m_controls.cbApplyAll, false, false);
-    onApply(m_controls.cbApplyAllSpell, false, true);
-    onApply(m_controls.cbApplySelected, true, false);
-    onApply(m_controls.cbApplySelSpell, true, true);
+// A button that is disabled ignores its key as it ignores a click.
+void Form1::ConnectKey(const Commands::Command& command) {
+    if (command.scope == Commands::KeyScope::EditBox) {
+        return; // the box handles its keys itself, so that none of them is typed
+    }
+    const bool isOfList = command.scope == Commands::KeyScope::Variations;
+    auto* parent = isOfList ? static_cast<QWidget*>(m_controls.lvVariations) : this;
+    auto* key = new QShortcut(QKeySequence(Text::ToQt(command.key)), parent);
+    key->setContext(isOfList ? Qt::WidgetShortcut : Qt::WindowShortcut);
+    if (QPushButton* button = m_controls.Button(command.control)) {
+        connect(key, &QShortcut::activated, button, &QPushButton::click);
+    } else {
+        connect(key, &QShortcut::activated, this, [this, run = command.run] { Run(run); });
+    }
 }
 
 void Form1::ConnectEditPanel() {
-    connect(m_controls.cbSpelling, &QCheckBox::clicked, this, [this] { Run(&Form1::SpellingClicked); });
-    connect(m_controls.cbVariation, &QCheckBox::clicked, this, [this] { Run(&Form1::VariationClicked); });
+    using Clicked = void (*)(Session&, bool);
+    const auto onClick = [this](QCheckBox* box, Clicked clicked) {
+        connect(box, &QCheckBox::clicked, this,
+                [=, this](bool ticked) { Run([=](Session& session) { clicked(session, ticked); }); });
+    };
+    onClick(m_controls.cbSpelling, Commands::ClickSpelling);
+    onClick(m_controls.cbVariation, Commands::ClickVariation);
+    onClick(m_controls.cbValidinyears, Commands::ClickValidInYears);
+    onClick(m_controls.cbVNF, Commands::ClickVolume);
 
     EditBox* edit = m_controls.tbEdit;
-    connect(edit, &QLineEdit::textChanged, this, [this] { Run(&Form1::EditTextChanged); });
-    connect(edit, &EditBox::KeyRefused, this, [this] { m_desktop.Beep(); });
-    connect(edit, &EditBox::Entered, m_controls.cbOk, &QPushButton::click);
-    connect(edit, &EditBox::Escaped, m_controls.cbCancel, &QPushButton::click);
-    connect(edit, &EditBox::NothingToUndo, m_controls.cbUndo, &QPushButton::click);
+    connect(edit, &QLineEdit::textChanged, this, [=, this] {
+        if (!bIgnoreEvents) { // what the signal brings may have been replaced since
+            Run([=](Session& session) { Commands::TypeText(session, Text::FromQt(edit->text())); });
+        }
+    });
+    connect(edit, &EditBox::KeyRefused, this, [this] { m_session.desktop.Beep(); });
+    connect(edit, &EditBox::Entered, m_controls.Button(Commands::Control::cbOk), &QPushButton::click);
+    connect(edit, &EditBox::Escaped, m_controls.Button(Commands::Control::cbCancel), &QPushButton::click);
+    connect(edit, &EditBox::NothingToUndo, m_controls.Button(Commands::Control::cbUndo), &QPushButton::click);
 }
 
 void Form1::ConnectLists() {
-    connect(m_controls.lvAlpha, &RowList::Chosen, this, [this] { Run(&Form1::DistrictChosen); });
-    connect(m_controls.lvVariations, &RowList::Chosen, this, [this] { Run(&Form1::VariationsChosen); });
-    connect(m_controls.lbComments, &RowList::Chosen, this, [this] { Run(&Form1::CommentTypeChosen); });
+    using Chosen = void (*)(Session&, const std::vector<int>&);
+    const auto onChoice = [this](RowList* list, Chosen chosen) {
+        connect(list, &RowList::Chosen, this,
+                [=, this] { Run([=](Session& session) { chosen(session, list->SelectedRows()); }); });
+    };
+    onChoice(m_controls.lvAlpha, Commands::ChooseDistrict);
+    onChoice(m_controls.lvVariations, Commands::SelectVariations);
+    onChoice(m_controls.LvChanges, Commands::HighlightProposals);
+    onChoice(m_controls.lbComments, Commands::ChooseCommentType);
     connect(m_controls.lvVariations, &RowList::Resized, this, &Form1::SizeWideColumns);
     connect(m_controls.LvChanges, &RowList::Resized, this, &Form1::SizeWideColumns);
     connect(m_controls.lvComments, &RowList::Resized, this, [this] {
         SizeCommentColumn();
-        // A filter may have cleared the comments since the district was chosen.
-        if (m_comments->rowCount() > 0) {
-            Commands::Show(m_desktop, [this] { ShowDistrictComments(); });
-        }
+        Commands::WithinMemory(m_session.desktop, [this] { WrapComments(); });
     });
-    connect(m_changes, &ChangeModel::Ticked, this, [this] { Run(&Form1::ChangeTicked); });
-    connect(m_changes, &ChangeModel::TickRefused, this, [this] { Run(&Form1::ChangeTickRefused); });
-    connect(m_controls.LvChanges, &QAbstractItemView::pressed, this, [this] { m_tickedByClick = false; });
-    connect(m_controls.LvChanges, &QAbstractItemView::clicked, this,
-            [this](const QModelIndex& index) { Commands::Run(m_desktop, [&] { ChangeRowClicked(index); }); });
 }
 
-void Form1::AddShortcuts() {
-    // A button that is disabled ignores its shortcut as it ignores a click.
-    const auto onKeys = [this](const QKeySequence& keys, QPushButton* button) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, button, &QPushButton::click);
-    };
-    onKeys(QKeySequence::Open, m_controls.cbOpen);
-    onKeys(QKeySequence::Save, m_controls.cbSave);
-    onKeys(QKeySequence::Undo, m_controls.cbUndo);
-    onKeys(Qt::Key_Insert, m_controls.cbAdd);
-    // In the edit box the key deletes a character.
-    auto* deleteKey = new QShortcut(QKeySequence::Delete, m_controls.lvVariations);
-    deleteKey->setContext(Qt::WidgetShortcut);
-    connect(deleteKey, &QShortcut::activated, m_controls.cbDelete, &QPushButton::click);
-    auto* escapeKey = new QShortcut(Qt::Key_Escape, m_controls.lvVariations);
-    escapeKey->setContext(Qt::WidgetShortcut);
-    connect(escapeKey, &QShortcut::activated, this, [this] { Run(&Form1::LeaveVariations); });
-    connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, this, [this] {
-        if (m_controls.tbEdit->isEnabled()) {
-            m_controls.tbEdit->setFocus(Qt::ShortcutFocusReason);
+void Form1::ConnectProposals() {
+    connect(m_changes, &ChangeModel::TickWanted, this, [this](int row, bool ticked) {
+        m_tickedByClick = true;
+        Run([=](Session& session) { Commands::TickProposal(session, row, ticked); });
+    });
+    connect(m_controls.LvChanges, &QAbstractItemView::pressed, this, [this] { m_tickedByClick = false; });
+    connect(m_controls.LvChanges, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
+        if (!m_tickedByClick) { // a click on the check box only ticks
+            Run([&](Session& session) { Commands::ClickProposal(session, index.row()); });
         }
     });
 }
 
 void Form1::LoadForm() {
-    ClearUndoRing();
-    iUndoStep = 1;
-    LoadLowerCaseWords(m_desktop);
     SizeWideColumns();
     SizeCommentColumn();
-    bChanged = false;
-    iEditMode = NothingOpen;
-    ApplyWindowMode();
-    m_controls.cbOpen->setFocus();
+    Run(Commands::Start);
 }
 
 void Form1::showEvent(QShowEvent* event) {
@@ -185,17 +171,16 @@ void Form1::showEvent(QShowEvent* event) {
 }
 
 void Form1::closeEvent(QCloseEvent* event) {
-    event->setAccepted(!LongWork::IsPainting() && MayDiscardChanges());
-    if (event->isAccepted() && bChanged) {
-        Unsaved.Remove(m_desktop);
-    }
+    bool mayClose = false;
+    Run([&](Session& session) { mayClose = Commands::MayClose(session); });
+    event->setAccepted(mayClose);
 }
 
 // A button that its own command disables gives the focus to the list that it belongs to, not to whatever
 // control comes next.
 bool Form1::focusNextPrevChild(bool next) {
     if (const QWidget* control = focusWidget(); control != nullptr && !control->isEnabled()) {
-        ListBeside(*control, m_controls)->setFocus();
+        m_controls.ListBeside(*control)->setFocus();
         return true;
     }
     return QWidget::focusNextPrevChild(next);
@@ -204,8 +189,8 @@ bool Form1::focusNextPrevChild(bool next) {
 // One file that is dropped on the window is opened, wherever "Open File" could be pressed.
 void Form1::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.constFirst().isLocalFile() && m_controls.cbOpen->isEnabled() &&
-        !LongWork::IsPainting()) {
+    if (urls.size() == 1 && urls.constFirst().isLocalFile() &&
+        m_controls.Widget(Commands::Control::cbOpen)->isEnabled() && !LongWork::IsPainting()) {
         event->acceptProposedAction();
     }
 }
@@ -214,38 +199,35 @@ void Form1::dropEvent(QDropEvent* event) {
     const std::string path = Text::PathFromQt(event->mimeData()->urls().constFirst().toLocalFile());
     event->acceptProposedAction();
     // Questions come up only when the program that the file was dragged from has been answered.
-    QTimer::singleShot(0, this, [=, this] { Commands::Run(m_desktop, [&] { OpenDropped(path); }); });
+    QTimer::singleShot(0, this, [=, this] { Run([&](Session& session) { Commands::OpenPath(session, path); }); });
 }
 
-void Form1::ApplyWindowMode() {
-    const ChangeListState changes{m_changes->rowCount() > 0,
-                                  m_changes->AnyChecked() || !m_controls.LvChanges->SelectedRows().empty()};
-    for (std::size_t i = 0; i < ControlCount; ++i) {
-        const auto control = static_cast<Control>(i);
-        if (const auto enabled = EnabledInMode(control, iEditMode, bChanged, changes)) {
-            m_controls.Widget(control)->setEnabled(*enabled);
-        }
-    }
-    ShowHints();
-    if (ModeClearsStatus(iEditMode)) {
-        m_controls.lbStatus->ShowText({});
-    }
-    if (ModeClearsApplyTo(iEditMode)) {
-        m_controls.lbApplyTo->ShowText({});
-    }
+void Form1::StartColumnWidths() {
+    m_columns = std::make_unique<DistrictColumns>(m_controls.lvAlpha->font());
 }
 
-// What to do next, where a list is empty.
-void Form1::ShowHints() {
-    const bool hasDistricts = !m_districtsByName.empty() && iEditMode != NothingOpen;
-    m_controls.lvAlpha->SetHint(hasDistricts ? tr("No district has a comment of this type")
-                                             : tr("Open a file, or drop one here, to see its districts"));
-    m_controls.lvVariations->SetHint(IsDistrict(lCurrentDistrict)
-                                         ? tr("This district has no variations: press Add to enter one")
-                                         : tr("Choose a district to see its variations"));
-    m_controls.LvChanges->SetHint(tr("Process File shows proposals here"));
-    m_controls.lvComments->SetHint(IsDistrict(lCurrentDistrict) ? tr("This district has no comments")
-                                                                : tr("Choose a district to see its comments"));
+void Form1::AddDistrictRow(const DistrictRecord& record) {
+    m_columns->AddDistrictRow(record);
+}
+
+void Form1::SetColumnWidths() {
+    for (int column = 0; column < m_districts->columnCount(); ++column) {
+        m_controls.lvAlpha->setColumnWidth(column, m_columns->Width(static_cast<std::size_t>(column)));
+    }
+    m_columns.reset();
+}
+
+void Form1::SizeCommentColumn() {
+    const RowList& list = *m_controls.lvComments;
+    const int width =
+        list.width() - list.columnWidth(0) - WindowFit::TwipsToPixels(WindowFit::CommentColumnTwips, logicalDpiX());
+    m_controls.lvComments->setColumnWidth(1, width);
+}
+
+void Form1::SizeWideColumns() {
+    for (RowList* list : {m_controls.lvVariations, m_controls.LvChanges}) {
+        list->setColumnWidth(0, 2 * list->width());
+    }
 }
 
 void Form1::FitWindowToScreen() {
@@ -260,16 +242,6 @@ void Form1::FitWindowToScreen() {
         resize(std::min(width(), available.width()), *height - caption);
         move(x(), available.top());
     }
-}
-
-void Form1::ShowWhyError(std::string_view text, VariationState state) {
-    m_controls.lbWhyError->SetTextColour(StateColours::OnLight(state));
-    m_controls.lbWhyError->ShowText(Text::ForBox(text));
-}
-
-void Form1::ClearWhyError() {
-    ShowWhyError({}, VariationState::Plain);
-    m_controls.lbWhyError->SetBackground(StateColours::LightGrey);
 }
 
 } // namespace Ui

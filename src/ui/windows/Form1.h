@@ -1,36 +1,28 @@
 #pragma once
 
+#include "commands/Session.h"
 #include "ui/windows/Form1Controls.h"
 
 #include <QWidget>
 
-#include <cstdint>
-#include <string>
-#include <string_view>
-#include <vector>
-
-namespace CommonRoutines {
-class Desktop;
-enum class MarkerCommand;
-enum class VariationState;
-struct ChangeRow;
-struct VariationRow;
-} // namespace CommonRoutines
+#include <functional>
+#include <memory>
 
 namespace Ui {
 
 class ChangeModel;
 class CommentModel;
 class CommentTypeModel;
+class DistrictColumns;
 class DistrictModel;
 class VariationModel;
 
-// The main window. Its handlers read the controls, call the routine that decides, and show the
-// result; the shared state of CommonRoutines is what they work on.
-class Form1 : public QWidget {
+// The main window. It turns events into commands and shows what they end with; it decides nothing.
+class Form1 : public QWidget, private Commands::Screen {
 public:
     // `desktop` must live as long as the window.
     explicit Form1(CommonRoutines::Desktop& desktop);
+    ~Form1() override;
 
     // What happens once before the window is used: the word list is read, all is set for "no file".
     void LoadForm();
@@ -43,91 +35,48 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    // Where the per-user settings of the window are kept.
-    struct Settings {
-        static constexpr std::string_view Section = "Paths";
-        static constexpr std::string_view DataFolder = "InFile";
-        static constexpr std::string_view ChangeFolder = "ProcessFile";
-    };
+    // Runs a command, unless the window is only being painted in the middle of another one.
+    void Run(const std::function<void(Commands::Session&)>& command);
 
-    void Run(void (Form1::*handler)()); // as Commands::Run does
     void SetModels();
-    void ConnectButtons();
+    void ConnectCommands();
+    void ConnectKey(const Commands::Command& command);
     void ConnectEditPanel();
     void ConnectLists();
-    void AddShortcuts();
+    void ConnectProposals();
 
-    // The file.
-    void OpenClicked();
-    void OpenDropped(const std::string& path);
-    void OpenFile(const std::string& path);
-    void SaveClicked();
-    [[nodiscard]] bool MayDiscardChanges();
-    void RememberFolder(const std::string& path, std::string_view key);
-    void ResetWindow();
-    void FillDistrictList();
+    // What a command has ended with.
+    void Show(const Commands::WindowView& view) override;
+    void ShowLists(const Commands::WindowView& view);
+    void ShowComments(const Commands::CommentsView& comments);
+    void WrapComments();
+    void ShowEnabled(const Commands::WindowView& view);
+    void ShowTexts(const Commands::WindowView& view);
+    void ShowEditPanel(const Commands::EditView& edit);
+    void ShowHints(const Commands::HintsView& hints);
+    void ShowFocus(Commands::Focus focus);
 
-    // The lists.
-    void DistrictChosen();
-    void VariationsChosen();
-    void CommentTypeChosen();
-    [[nodiscard]] std::vector<CommonRoutines::VariationRow> SelectedVariations() const;
-    void RefreshVariationList();
-    void ShowDistrictComments();
-    void SizeCommentColumn();
+    void StartColumnWidths() override;
+    void AddDistrictRow(const CommonRoutines::DistrictRecord& record) override;
+    void SetColumnWidths() override;
+    void SizeCommentColumn() override;
+
     void SizeWideColumns();
-
-    // Editing.
-    void EditTextChanged();
-    void UpdateMarkerOptions();
-    void PutIntoEditBox(std::string_view text);
-    void ResetEditPanel();
-    void ReturnToIdle();
-    void AddClicked();
-    void OkClicked();
-    void CancelClicked();
-    void LeaveVariations();
-    void DeleteClicked();
-    void ShriekClicked();
-    void DateClicked();
-    void ChangeSelectedMarkers(CommonRoutines::MarkerCommand command, QPushButton& button);
-    void UndoClicked();
-    [[nodiscard]] bool GoToDistrict(std::int32_t district);
-    void ShowNextUndo(std::string_view description);
-    void SpellingClicked();
-    void VariationClicked();
-    void ChooseOption(QCheckBox& chosen, QCheckBox& other);
-
-    // The change list and the whole-file commands.
-    void ProcessClicked();
-    void ShowChanges(std::vector<CommonRoutines::ChangeRow> rows);
-    void ChangeTicked();
-    void ChangeTickRefused();
-    void ChangeRowClicked(const QModelIndex& index);
-    void UpdateChangeSelection();
-    void Apply(bool selectedOnly, bool asSpelling);
-    void EditSelClicked();
-    void ClearSelClicked();
-    void CompleteCheckClicked();
-    void SaveVariationsClicked();
-
-    // The window as a whole.
-    void ApplyWindowMode();
-    void ShowHints();
     void FitWindowToScreen();
-    void ShowWhyError(std::string_view text, CommonRoutines::VariationState state);
-    void ClearWhyError();
 
-    CommonRoutines::Desktop& m_desktop;
     Form1Controls m_controls;
     DistrictModel* m_districts = nullptr;
     VariationModel* m_variations = nullptr;
     ChangeModel* m_changes = nullptr;
     CommentModel* m_comments = nullptr;
     CommentTypeModel* m_commentTypes = nullptr;
-    std::vector<std::int32_t> m_districtsByName; // all of the file; the filter chooses from them
+    std::unique_ptr<DistrictColumns> m_columns; // while the districts are being measured
+    std::int32_t m_editFilled = 0;              // how often the edit box has been filled, and the comments
+    std::int32_t m_commentsFilled = 0;
+    std::int32_t m_commentsOf = 0; // the district whose comments are shown
     bool m_fittedToScreen = false;
     bool m_tickedByClick = false; // the click being handled was on a check box
+    Commands::Session m_session;
 };
 
 } // namespace Ui

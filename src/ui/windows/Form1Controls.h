@@ -1,10 +1,13 @@
 #pragma once
 
-#include "edit/WindowMode.h"
+#include "commands/CommandTable.h"
+
+#include <array>
 
 class QBoxLayout;
 class QCheckBox;
 class QFrame;
+class QGridLayout;
 class QLabel;
 class QPushButton;
 class QString;
@@ -16,15 +19,20 @@ class EditBox;
 class PlainLabel;
 class RowList;
 
-// The controls of the main window and their arrangement. Each control has its name as its objectName.
-// The form owns the controls; this class only builds them and knows where they are.
+// The controls of the main window and their arrangement; the buttons are those of the table of commands.
+// Each control has its name as its objectName. The form owns the controls; this class only builds them and
+// knows where they are.
 class Form1Controls {
 public:
     // Creates all controls as children of `form` and lays them out.
     explicit Form1Controls(QWidget* form);
 
-    // The control that a row of the mode table is about.
-    [[nodiscard]] QWidget* Widget(CommonRoutines::Control control) const;
+    // The control of a command, and its button; nothing when it is none.
+    [[nodiscard]] QWidget* Widget(Commands::Control control) const;
+    [[nodiscard]] QPushButton* Button(Commands::Control control) const;
+
+    // The list whose rows a button works on.
+    [[nodiscard]] RowList* ListBeside(const QWidget& button) const;
 
     RowList* lvAlpha = nullptr;
     RowList* lvVariations = nullptr;
@@ -37,38 +45,17 @@ public:
     QCheckBox* cbValidinyears = nullptr;
     QCheckBox* cbVNF = nullptr;
     EditBox* tbEdit = nullptr;
-    QPushButton* cbOk = nullptr;
-    QPushButton* cbCancel = nullptr;
     PlainLabel* lbStatus = nullptr;
 
-    QPushButton* cbAdd = nullptr;
-    QPushButton* cbDelete = nullptr;
-    QPushButton* cbShriek = nullptr;
-    QPushButton* cbDate = nullptr;
-    QPushButton* cbSaveVariations = nullptr;
-
-    QPushButton* cbOpen = nullptr;
-    QPushButton* cbSave = nullptr;
-    QPushButton* btnProcess = nullptr;
-    QPushButton* cbCompleteCheck = nullptr;
-
-    QPushButton* cbUndo = nullptr;
     PlainLabel* lbUndo = nullptr;
-
-    QPushButton* cbApplySelected = nullptr;
-    QPushButton* cbApplySelSpell = nullptr;
-    QPushButton* cbApplyAll = nullptr;
-    QPushButton* cbApplyAllSpell = nullptr;
-    QPushButton* cbEditSel = nullptr;
-    QPushButton* cbClearSel = nullptr;
     PlainLabel* lbSelectCount = nullptr;
-
     PlainLabel* lbWhyError = nullptr;
     PlainLabel* lbApplyTo = nullptr;
 
 private:
+    static constexpr int Space = 8; // between controls, in pixels
+
     RowList* List(const char* name, const QString& accessibleName);
-    QPushButton* Button(const char* name, const QString& caption, const QString& toolTip);
     QCheckBox* OptionBox(const char* name, const QString& caption, const QString& toolTip);
     PlainLabel* Status(const char* name, const QString& purpose, int lines);
     QFrame* Frame(const char* name, const QString& accessibleName);
@@ -76,19 +63,22 @@ private:
 
     void CreateLists();
     void CreateEditRow();
-    void CreateButtons();
+    void CreateButton(const Commands::Command& command);
     void CreateLabels();
+    void Arrange();
 
+    // The buttons of a group, where the table has them.
+    void AddButtons(QGridLayout* layout, Commands::Frame frame);
+    QFrame* ButtonFrame(const char* name, const QString& accessibleName, Commands::Frame frame);
     QWidget* FileRow();
     QWidget* EditRow();
-    QWidget* VariationButtons();
-    QWidget* ChangeButtons();
     QWidget* ChangeHeading();
     QBoxLayout* ListBand();
     QBoxLayout* CommentBand();
     void SetTabOrder();
 
     QWidget* m_form;
+    std::array<QPushButton*, Commands::ControlCount> m_buttons{}; // by Control
 };
 
 } // namespace Ui

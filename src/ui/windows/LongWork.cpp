@@ -21,6 +21,12 @@ bool LongWork::IsPainting() {
     return s_painting;
 }
 
+void LongWork::UnlessPainting(const std::function<void()>& command) {
+    if (!IsPainting()) {
+        command();
+    }
+}
+
 void LongWork::Begin(QWidget* window) {
     End();
     m_window = window;

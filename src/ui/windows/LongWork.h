@@ -4,6 +4,7 @@
 #include <QPointer>
 
 #include <chrono>
+#include <functional>
 
 class QString;
 class QWidget;
@@ -40,6 +41,8 @@ public:
 
     // True while a window is painted in the middle of some work, when nothing else may be begun.
     [[nodiscard]] static bool IsPainting();
+    // Does what comes from a user, or from a screen reader, unless it comes then.
+    static void UnlessPainting(const std::function<void()>& command);
 
 private:
     Delays m_delays;

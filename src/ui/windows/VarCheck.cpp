@@ -1,11 +1,12 @@
 #include "ui/windows/VarCheck.h"
 
 #include "checks/ReportOutput.h"
+#include "commands/Session.h"
 #include "core/State.h"
 #include "ui/Text.h"
 #include "ui/lists/ReportModel.h"
 #include "ui/lists/RowList.h"
-#include "ui/windows/Commands.h"
+#include "ui/windows/LongWork.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -63,8 +64,11 @@ void VarCheck::BuildButtons() {
         button->setVisible(m_report.bCanPrintAndSave);
     }
     const auto onClick = [this](QPushButton* button, auto command) {
-        connect(button, &QPushButton::clicked, this,
-                [=, this] { Commands::Run(m_desktop, [=, this] { command(m_report, DataFile(), m_desktop); }); });
+        connect(button, &QPushButton::clicked, this, [=, this] {
+            LongWork::UnlessPainting([&] {
+                Commands::WithinMemory(m_desktop, [&] { command(m_report, DataFile(), m_desktop); });
+            });
+        });
     };
     onClick(cbPrint, &PrintReport);
     onClick(cbSave, &SaveReport);

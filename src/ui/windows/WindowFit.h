@@ -25,4 +25,7 @@ struct Screen {
     return (twips * dotsPerInch + twipsPerInch / 2) / twipsPerInch;
 }
 
+// Room beside the comment column, so that its text never touches the scroll bar.
+inline constexpr int CommentColumnTwips = 400;
+
 } // namespace WindowFit

@@ -1,6 +1,7 @@
 // The models keep the rules that the views rely on.
 
 #include "core/State.h"
+#include "file/CommentTypes.h"
 #include "file/DistrictList.h"
 #include "support/Reading.h"
 #include "support/Table.h"
@@ -40,6 +41,13 @@ private:
     QtMessageHandler m_before = nullptr;
 };
 
+template <typename Row>
+Commands::ListView<Row> ListOf(std::vector<Row> rows) {
+    Commands::ListView<Row> list;
+    list.Fill(std::move(rows));
+    return list;
+}
+
 QVariant Cell(const QAbstractItemModel& model, int row, int column = 0, int role = Qt::DisplayRole) {
     return model.index(row, column).data(role);
 }
@@ -51,14 +59,14 @@ TEST_F(ModelsTest, TheDistrictModelKeepsTheRules) {
     const std::int32_t beta = AddDistrict("Beta");
     DistrictModel model;
     const auto tester = Tester(model);
-    model.SetDistricts({beta, alpha});
+    model.Show(ListOf<std::int32_t>({beta, alpha}), 0);
     EXPECT_EQ(model.rowCount(), 2);
     EXPECT_EQ(model.columnCount(), 7);
     EXPECT_EQ(Cell(model, 0), QStringLiteral("Beta"));
     EXPECT_EQ(model.DistrictAt(0), beta);
     EXPECT_EQ(model.RowOf(alpha), 1);
     EXPECT_EQ(model.RowOf(99), -1);
-    model.SetDistricts({});
+    model.Show(ListOf<std::int32_t>({}), 0);
     EXPECT_EQ(model.rowCount(), 0);
 }
 
@@ -66,13 +74,18 @@ TEST_F(ModelsTest, ADistrictsRowIsAnnouncedWhenItsStateHasChanged) {
     const std::int32_t alpha = AddDistrict("Alpha");
     const std::int32_t beta = AddDistrict("Beta");
     DistrictModel model;
-    model.SetDistricts({beta, alpha});
+    auto list = ListOf<std::int32_t>({beta, alpha});
+    model.Show(list, 0);
     const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
-    model.Refresh(alpha);
+    model.Show(list, alpha); // which has not changed
+    EXPECT_EQ(changed.size(), 0);
+    ++list.touched;
+    model.Show(list, alpha);
     ASSERT_EQ(changed.size(), 1);
     EXPECT_EQ(changed[0][0].toModelIndex(), model.index(1, 0));
     EXPECT_EQ(changed[0][1].toModelIndex(), model.index(1, 6));
-    model.Refresh(99); // filtered out
+    ++list.touched;
+    model.Show(list, 99); // filtered out
     EXPECT_EQ(changed.size(), 1);
 }
 
@@ -80,13 +93,19 @@ TEST_F(ModelsTest, TheVariationModelKeepsTheRules) {
     const std::int32_t alpha = AddDistrict("Alpha", {"One", "Two"});
     VariationModel model;
     const auto tester = Tester(model);
-    model.SetRows(alpha, {{2, VariationState::Plain}, {1, VariationState::Invalid}});
+    auto list = ListOf<VariationRow>({{2, VariationState::Plain}, {1, VariationState::Invalid}});
+    model.Show(list, alpha);
     EXPECT_EQ(Cell(model, 0), QStringLiteral("Two"));
     EXPECT_EQ(Cell(model, 1), QStringLiteral("One"));
     EXPECT_EQ(Cell(model, 1, 0, Qt::ForegroundRole).value<QColor>(), QColor(236, 0, 0));
     VariationAt(alpha, 2).Text = "Changed";
     EXPECT_EQ(Cell(model, 0), QStringLiteral("Changed"));
-    model.SetRows(0, {});
+    const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    ++list.touched;
+    model.Show(list, alpha);
+    ASSERT_EQ(changed.size(), 1);
+    EXPECT_EQ(changed[0][1].toModelIndex(), model.index(1, 0));
+    model.Show(ListOf<VariationRow>({}), 0);
     EXPECT_EQ(model.rowCount(), 0);
 }
 
@@ -106,37 +125,44 @@ TEST_F(ModelsTest, TheCommentTypeModelKeepsTheRules) {
     CommentTypeModel model;
     const auto tester = Tester(model);
     CommentTypes.Add("SEAT");
-    model.Refresh();
+    model.Show({2, {}, 1});
     EXPECT_EQ(model.rowCount(), 2);
     EXPECT_EQ(Cell(model, 0), QStringLiteral(" All"));
     EXPECT_EQ(Cell(model, 1), QStringLiteral("SEAT"));
     CommentTypes.Reset();
-    model.Refresh();
+    model.Show({1, {}, 2});
     EXPECT_EQ(model.rowCount(), 1);
 }
 
 TEST_F(ModelsTest, TheChangeModelKeepsTheRules) {
     ChangeModel model;
     const auto tester = Tester(model);
-    model.SetRows({{"Good"}, {"Bad", ChangeRow::Invalid}, {"Odd", ChangeRow::Valid, true}});
+    model.Show(ListOf<ChangeRow>({{"Good"}, {"Bad", ChangeRow::Invalid}, {"Odd", ChangeRow::Valid, true}}));
     EXPECT_EQ(model.rowCount(), 3);
     EXPECT_EQ(Cell(model, 1, 0, Qt::ForegroundRole).value<QColor>(), QColor(236, 0, 0));
     EXPECT_EQ(Cell(model, 2, 0, Qt::ForegroundRole).value<QColor>(), QColor(204, 102, 0));
     EXPECT_FALSE(model.flags(model.index(0, 0)).testFlag(Qt::ItemIsEditable));
 }
 
-TEST_F(ModelsTest, AProposalCanBeTickedAndUnticked) {
+TEST_F(ModelsTest, ATickIsOnlyAskedForAndShownWhenItIsThere) {
     ChangeModel model;
-    model.SetRows({{"One"}, {"Two"}});
+    auto list = ListOf<ChangeRow>({{"One"}, {"Two"}});
+    model.Show(list);
     const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
-    EXPECT_FALSE(model.AnyChecked());
+    QSignalSpy wanted(&model, &ChangeModel::TickWanted);
+    EXPECT_FALSE(model.setData(model.index(1, 0), Qt::Checked, Qt::CheckStateRole)); // nobody has done it
+    ASSERT_EQ(wanted.size(), 1);
+    EXPECT_EQ(wanted[0], (QVariantList{1, true}));
+    QObject::connect(&model, &ChangeModel::TickWanted, [&](int row, bool ticked) {
+        (*list.rows)[static_cast<std::size_t>(row)].bChecked = ticked;
+        ++list.touched;
+        model.Show(list);
+    });
     EXPECT_TRUE(model.setData(model.index(1, 0), Qt::Checked, Qt::CheckStateRole));
-    EXPECT_TRUE(model.AnyChecked());
-    EXPECT_TRUE(model.Rows()[1].bChecked);
     EXPECT_EQ(Cell(model, 1, 0, Qt::CheckStateRole).toInt(), Qt::Checked);
     EXPECT_EQ(changed.size(), 1);
     EXPECT_TRUE(model.setData(model.index(1, 0), Qt::Unchecked, Qt::CheckStateRole));
-    EXPECT_FALSE(model.AnyChecked());
+    EXPECT_EQ(Cell(model, 1, 0, Qt::CheckStateRole).toInt(), Qt::Unchecked);
     EXPECT_FALSE(model.setData(model.index(1, 0), QStringLiteral("typed"), Qt::EditRole));
     EXPECT_EQ(Cell(model, 1), QStringLiteral("Two"));
 }
@@ -162,7 +188,7 @@ TEST_F(ModelsTest, TypingFindsTheDistrictThatALookAtEveryRowFinds) {
             AddDistrict(name);
         }
         DistrictModel model;
-        model.SetDistricts(DistrictsByName());
+        model.Show(ListOf(DistrictsByName()), 0);
         for (const char* typed : {"a", "B", "ab", "\xC3\xA9", "a ", "z", "zz", "abab", "c"}) {
             for (int row = 0; row < model.rowCount(); ++row) {
                 const auto start = model.index(row, 0);
@@ -180,7 +206,7 @@ TEST_F(ModelsTest, OtherSearchesAmongDistrictsAreThoseOfTheToolkit) {
     const std::int32_t alpha = AddDistrict("Alpha");
     DistrictAt(alpha).County = "Kent";
     DistrictModel model;
-    model.SetDistricts({alpha});
+    model.Show(ListOf<std::int32_t>({alpha}), 0);
     const auto beginning = Qt::MatchStartsWith | Qt::MatchWrap;
     EXPECT_EQ(model.match(model.index(0, 2), Qt::DisplayRole, QStringLiteral("ke"), 1, beginning).size(), 1);
     EXPECT_EQ(model.match(model.index(0, 0), Qt::DisplayRole, QStringLiteral("ph"), 1, Qt::MatchContains).size(), 1);

@@ -138,7 +138,7 @@ TEST_F(ColumnKeys, AColumnThatIsGoneToIsScrolledIntoView) {
 }
 
 TEST_F(ColumnKeys, TheCurrentCellIsInTheColumnAndTheSelectionStays) {
-    m_list.SelectRow(3);
+    m_list.ShowSelection({3});
     Press(Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(m_list.currentIndex(), m_model.index(3, 1));
     EXPECT_EQ(m_list.SelectedRows(), std::vector<int>{3});
@@ -175,7 +175,7 @@ TEST_F(ColumnKeys, AListWithoutHeadingsHasNoColumnKeys) {
 }
 
 TEST_F(ColumnKeys, TypingFindsTheFirstColumnWhicheverIsAtHand) {
-    m_list.SelectRow(3);
+    m_list.ShowSelection({3});
     Press(Qt::Key_Right, Qt::ControlModifier);
     QTest::keyClicks(&m_list, QStringLiteral("27"));
     EXPECT_EQ(m_list.SelectedRows(), std::vector<int>{27});
@@ -183,7 +183,7 @@ TEST_F(ColumnKeys, TypingFindsTheFirstColumnWhicheverIsAtHand) {
 
 TEST_F(ColumnKeys, LeftAndRightScrollSideways) {
     m_list.resize(150, 200);
-    m_list.SelectRow(3);
+    m_list.ShowSelection({3});
     Press(Qt::Key_Right, Qt::NoModifier);
     EXPECT_GT(m_list.horizontalScrollBar()->value(), 0);
     Press(Qt::Key_Left, Qt::NoModifier);
@@ -193,7 +193,7 @@ TEST_F(ColumnKeys, LeftAndRightScrollSideways) {
 
 TEST_F(ColumnKeys, CtrlMovesWithoutChoosingAndCtrlSpaceChooses) {
     m_list.setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_list.SelectRow(3);
+    m_list.ShowSelection({3});
     Press(Qt::Key_Down, Qt::ControlModifier);
     Press(Qt::Key_Down, Qt::ControlModifier);
     EXPECT_EQ(m_list.SelectedRows(), std::vector<int>{3});

@@ -2,9 +2,6 @@
 
 #include "ui/windows/LongWork.h"
 
-#include "support/ScriptedDesktop.h"
-#include "ui/windows/Commands.h"
-
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -120,7 +117,6 @@ TEST_F(LongWorkTest, AWaitForTheUserIsNotLong) {
 }
 
 TEST_F(LongWorkTest, CommandsThatComeMeanwhileAreLeftOut) {
-    ScriptedDesktop desktop;
     LongWork work(PaintedOnly);
     work.Begin(&window);
     int runs = 0;
@@ -128,14 +124,14 @@ TEST_F(LongWorkTest, CommandsThatComeMeanwhileAreLeftOut) {
     QTimer::singleShot(0, &window, [&] {
         came = true;
         EXPECT_TRUE(LongWork::IsPainting());
-        Commands::Run(desktop, [&] { ++runs; });
+        LongWork::UnlessPainting([&] { ++runs; });
     });
     QTest::qSleep(2);
     work.Show(QStringLiteral("Counting"), 0.5);
     EXPECT_TRUE(came);
     EXPECT_EQ(runs, 0);
     EXPECT_FALSE(LongWork::IsPainting());
-    Commands::Run(desktop, [&] { ++runs; });
+    LongWork::UnlessPainting([&] { ++runs; });
     EXPECT_EQ(runs, 1);
 }
 

@@ -1,9 +1,8 @@
 // Texts of the data are shown as they are, whatever they look like.
 
-#include "ui/windows/FormTest.h"
+#include "ui/windows/ChangesTest.h"
 
 #include "ui/Text.h"
-#include "ui/lists/ChangeModel.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -25,17 +24,19 @@ QString Rendered(const QString& toolTip) {
     return document.toPlainText();
 }
 
+class PlainTextTest : public ChangesTest {};
+
 const std::vector<std::string> LikeMarkup{"<img src=x>", "<b>A</b>", "A &amp; B", "&lt;", "<!-- A -->", "A<br>B"};
 
 } // namespace
 
-TEST_F(FormTest, TextsThatLookLikeMarkupAreShownAsTheyAre) {
+TEST_F(PlainTextTest, TextsThatLookLikeMarkupAreShownAsTheyAre) {
     for (const std::string& text : LikeMarkup) {
         SCOPED_TRACE(text);
         const QString shown = QString::fromStdString(text);
         OpenContent("#QX_" + text + " " + text + "\r\n" + HeaderOf(text) + "|" + text + "|!" + text + "\r\n");
-        dynamic_cast<ChangeModel&>(*Find<RowList>("LvChanges").model()).SetRows({{text}});
         Key("lvAlpha", Qt::Key_Home);
+        Process(text + "\r\n");
         EXPECT_EQ(TextOf("lbApplyTo"), shown);
         EXPECT_EQ(Column("lvAlpha"), QStringList{shown});
         EXPECT_TRUE(Column("lvVariations").contains(shown));
@@ -46,12 +47,12 @@ TEST_F(FormTest, TextsThatLookLikeMarkupAreShownAsTheyAre) {
     }
 }
 
-TEST_F(FormTest, TooltipsShowTheTextsAsTheyAre) {
+TEST_F(PlainTextTest, TooltipsShowTheTextsAsTheyAre) {
     for (const std::string& text : LikeMarkup) {
         SCOPED_TRACE(text);
         OpenContent("#QX_NOTE " + text + "\r\n" + HeaderOf(text) + "|" + text + "\r\n");
-        dynamic_cast<ChangeModel&>(*Find<RowList>("LvChanges").model()).SetRows({{text}});
         Key("lvAlpha", Qt::Key_Home);
+        Process(text + "\r\n");
         const QString shown = QString::fromStdString(text);
         for (const char* name : {"lvAlpha", "lvVariations", "LvChanges"}) {
             const QModelIndex index = Find<RowList>(name).model()->index(0, 0);

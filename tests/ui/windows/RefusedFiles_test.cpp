@@ -1,10 +1,10 @@
 // What is no file, or too large a one, is refused with a message, whichever command wants to read it.
 
+#include "commands/Session.h"
 #include "driver/AnsweringDesktop.h"
 #include "rules/Capitals.h"
 #include "support/Table.h"
 #include "ui/machine/Memory.h"
-#include "ui/windows/Commands.h"
 #include "ui/windows/Form1.h"
 
 #include <QApplication>
@@ -83,8 +83,8 @@ TEST_F(RefusedFiles, AsADataFile) {
 
 TEST_F(RefusedFiles, AsAChangeFile) {
     Form1 form(desktop);
-    form.findChild<QPushButton*>(QStringLiteral("btnProcess"))->setEnabled(true);
     for (const std::string& path : Refused()) {
+        form.findChild<QPushButton*>(QStringLiteral("btnProcess"))->setEnabled(true);
         desktop.fileToOpen = path;
         desktop.messages.clear();
         Click(form, "btnProcess");
@@ -105,9 +105,9 @@ TEST_F(RefusedFiles, AsTheWordList) {
 
 TEST_F(RefusedFiles, ACommandWithoutMemoryEndsWithAMessage) {
     int runs = 0;
-    Commands::Run(desktop, [&] { ++runs; });
+    Commands::WithinMemory(desktop, [&] { ++runs; });
     EXPECT_TRUE(desktop.messages.empty());
-    Commands::Run(desktop, [&]() {
+    Commands::WithinMemory(desktop, [&]() {
         ++runs;
         throw std::bad_alloc();
     });

@@ -2,7 +2,7 @@
 
 // The editing commands once more, written to be understood: a district is a list of texts, a step of
 // the journal a list of changes, and every command does what its description says, one thing after
-// another. Random sessions are given to this and to the routines of the program.
+// another. Random rounds are given to this and to the program.
 
 #include "rules/SlowRules.h"
 
@@ -70,6 +70,7 @@ public:
         }
         shriekAdds = !spelling;
         dateAdds = !date;
+        warned = false;
         editSlot = selected.size() == 1 ? selected[0] : 0;
         box = editSlot > 0 ? Slot(editSlot) : "";
         SetMode(selected.size() < 2 ? 2 : 10);
@@ -198,6 +199,11 @@ public:
         EndMarking();
     }
 
+    void Save() {
+        changed = false;
+        warned = false;
+    }
+
     // False when there was nothing to take back.
     bool Undo() {
         if (Now().changes.empty()) {
@@ -208,6 +214,8 @@ public:
             Choose(Now().line);
             met["undo in another district"] += 1;
         }
+        // What was selected is shown in the box, also when a marker has just been changed.
+        const bool boxShowsSelection = mode == 2 || (mode == 4 && editSlot > 0);
         Now().changes.pop_back();
         const std::vector<std::string> before = Here().slots;
         TakeBack(change);
@@ -218,7 +226,8 @@ public:
             step = step == 1 ? 20 : step - 1;
         }
         List();
-        SetMode(mode == 6 ? 4 : mode);
+        box = boxShowsSelection ? "" : box;
+        SetMode(mode == 2 || mode == 6 || mode == 10 ? 4 : mode);
         return true;
     }
 

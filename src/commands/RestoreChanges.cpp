@@ -1,4 +1,4 @@
-#include "edit/RestoreChanges.h"
+#include "commands/RestoreChanges.h"
 
 #include "core/Ansi.h"
 #include "core/Desktop.h"
@@ -67,7 +67,7 @@ void MakeChanges(std::span<const SlotChange> changes, const std::map<std::int32_
 
 // Makes the changes of the wanted files, those of the oldest first, so that of two changes of one
 // variation the later one counts.
-void MakeAll(Desktop& desktop, std::span<const LeftOver* const> wanted) {
+void MakeAll(std::span<const LeftOver* const> wanted) {
     std::set<std::int32_t> lines;
     std::map<std::int32_t, std::int32_t> countsAsRead;
     for (const LeftOver* leftOver : wanted) {
@@ -86,7 +86,6 @@ void MakeAll(Desktop& desktop, std::span<const LeftOver* const> wanted) {
         FindDuplicateVariations(line);
         static_cast<void>(ListVariations(line)); // only the counts matter
     }
-    Unsaved.Write(desktop);
 }
 
 std::string ChangesOf(Desktop& desktop, const LeftOver& leftOver) {
@@ -173,7 +172,7 @@ void RestoreChanges(Desktop& desktop) {
     }
     const std::vector<LeftOver> leftOvers = LeftOversOfFile(desktop.State());
     if (const std::vector<const LeftOver*> wanted = AskFor(desktop, leftOvers); !wanted.empty()) {
-        MakeAll(desktop, wanted);
+        MakeAll(wanted);
     }
 }
 

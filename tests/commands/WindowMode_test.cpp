@@ -1,4 +1,4 @@
-#include "edit/WindowMode.h"
+#include "commands/WindowMode.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-using namespace CommonRoutines;
+using namespace Commands;
 
 namespace {
 
@@ -51,6 +51,7 @@ constexpr ModeRow ModeRows[] = {
     {Control::cbDate,           "cbDate",          "- E - - - -   - - E"},
     {Control::lbComments,       "lbComments",      "- - E E E - - - - E"},
     {Control::cbEditSel,        "cbEditSel",       "- - - - - - - - - -"},
+    {Control::cbUndo,           "cbUndo",          "E E E E E E E E E E"},
 };
 // clang-format on
 

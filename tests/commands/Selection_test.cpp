@@ -1,4 +1,4 @@
-#include "edit/Selection.h"
+#include "commands/Selection.h"
 
 #include "rules/Duplicates.h"
 #include "support/Table.h"

@@ -1,37 +1,13 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
+#include "commands/CommandTable.h"
+
 #include <cstdint>
 #include <optional>
 
-namespace CommonRoutines {
+namespace Commands {
 
-// The controls whose enabled state follows the window's mode.
-enum class Control : std::size_t {
-    cbAdd,
-    cbCancel,
-    cbDelete,
-    cbSaveVariations,
-    cbOk,
-    cbOpen,
-    cbSave,
-    tbEdit,
-    btnProcess,
-    cbApplySelected,
-    cbApplyAll,
-    cbApplyAllSpell,
-    cbApplySelSpell,
-    cbClearSel,
-    cbCompleteCheck,
-    cbShriek,
-    cbDate,
-    lbComments,
-    cbEditSel,
-};
-inline constexpr std::size_t ControlCount = 19;
-
-// What the mode table asks of the change list.
+// What the modes ask of the change list.
 struct ChangeListState {
     bool hasRows = false;
     bool hasSelection = false; // a row is highlighted or ticked
@@ -46,4 +22,13 @@ struct ChangeListState {
 [[nodiscard]] bool ModeClearsStatus(std::int16_t mode);
 [[nodiscard]] bool ModeClearsApplyTo(std::int16_t mode);
 
-} // namespace CommonRoutines
+// Writes iEditMode; nothing else does.
+void SetMode(std::int16_t mode);
+
+// Shows what iEditMode means: enabled controls, cleared labels, the hints of empty lists.
+void ApplyWindowMode(Session& session);
+
+// SetMode, then ApplyWindowMode.
+void EnterMode(Session& session, std::int16_t mode);
+
+} // namespace Commands

@@ -1,11 +1,9 @@
 #pragma once
 
+#include "commands/EditingPlayer.h"
+#include "commands/SlowEditor.h"
+#include "edit/EditPanel.h"
 #include "edit/EditTest.h"
-#include "edit/HeadlessWindow.h"
-#include "edit/RestoreChanges.h"
-#include "edit/SlowEditor.h"
-#include "file/DistrictFileWriter.h"
-#include "support/Reading.h"
 
 #include <algorithm>
 #include <random>
@@ -19,20 +17,17 @@ inline const Texts TameTexts = {"Ash",    "ASH",    "!Ash",        "%Ash",   "!%
 inline const Texts WildTexts = {"",     " ",       "!",  "%",   "!%",    "Ash ", " Elm",
                                 "Oak%", "Ash|Elm", "\t", "!\t", "%Yew%", "Yew!", "\tYew"};
 
-// A window and the slow editor side by side over the same small file, given the same commands at random.
-// A wild session also enters texts that do not survive being read again.
-class EditingSession {
+// A player and the slow editor side by side over the same small file, given the same commands at random.
+// A wild round also enters texts that do not survive being read again. The player begins with a fresh state.
+class EditingRound {
 public:
-    EditingSession(std::uint32_t seed, bool wild)
-        : m_random(seed), m_wild(wild), m_hasty(seed % 5 == 0), m_window(m_desktop) {
-        m_desktop.recordReports = true;
+    EditingRound(EditingPlayer& player, std::uint32_t seed, bool wild)
+        : m_random(seed), m_wild(wild), m_hasty(seed % 5 == 0), m_player(player) {
         std::string file;
         for (auto count = 2 + UpTo(3); count > 0; --count) {
             AddLine(file, count);
         }
-        ResetEverything();
-        ReadText(m_desktop, file);
-        CommonRoutines::iEditMode = CommonRoutines::FileOpen;
+        m_player.Open(file, RepeatedNames());
         m_original = m_slow.lines;
         Choose();
     }
@@ -59,38 +54,39 @@ public:
         case 10:
             return Press();
         case 11:
-            return Both(HeadlessWindow::Enabled(CommonRoutines::Control::cbCancel),
-                        [](auto& editor) { editor.Cancel(); });
+            return Both(Control::cbCancel, [](auto& slow) { slow.Cancel(); });
         case 12:
-            return Both(HeadlessWindow::Enabled(CommonRoutines::Control::cbAdd),
-                        [](auto& editor) { editor.StartAdd(); });
+            return Both(Control::cbAdd, [](auto& slow) { slow.StartAdd(); });
         case 13:
             return Delete();
         case 14:
-            return Both(HeadlessWindow::Enabled(CommonRoutines::Control::cbShriek),
-                        [](auto& editor) { editor.Shriek(); });
+            return Both(Control::cbShriek, [](auto& slow) { slow.Shriek(); });
         case 15:
-            return Both(HeadlessWindow::Enabled(CommonRoutines::Control::cbDate), [](auto& editor) { editor.Date(); });
+            return Both(Control::cbDate, [](auto& slow) { slow.Date(); });
         case 16:
         case 17:
-            return Both(true, [](auto& editor) { editor.Undo(); });
+            return Both(Control::cbUndo, [](auto& slow) { slow.Undo(); });
         case 18:
             return Save();
         default:
-            return Both(HeadlessWindow::Enabled(CommonRoutines::Control::cbOk) || UpTo(20) == 0,
-                        [](auto& editor) { editor.Ok(); });
+            return Both(Control::cbOk, [](auto& slow) { slow.Ok(); });
         }
     }
 
     // What both show, and the table behind it.
     [[nodiscard]] std::string Shown() const {
+        const ShownWindow window = m_player.Shown();
         std::ostringstream shown;
         shown << "district " << CommonRoutines::lCurrentDistrict << " mode " << CommonRoutines::iEditMode << " editing "
-              << CommonRoutines::lEditIndex << " changed " << CommonRoutines::bChanged << " warned " << m_window.warned
-              << "\nbox [" << m_window.box << "] status [" << m_window.status << "] undo [" << m_window.nextUndo
-              << "] [" << CommonRoutines::CurrentUndoStep().WhatAmI() << "]\nrows";
-        for (const CommonRoutines::VariationRow& row : m_window.listed) {
-            shown << " [" << VariationAt(CommonRoutines::lCurrentDistrict, row.lIndex).Text << ']';
+              << CommonRoutines::lEditIndex << " changed " << CommonRoutines::bChanged << "\nbox [" << window.box
+              << "] status [" << window.labels[0] << "] undo [" << window.labels[1] << "] warns [" << window.labels[3]
+              << "] captions [" << window.labels[6] << "] [" << window.labels[7] << "]\nrows";
+        for (const std::string& variation : window.variations) {
+            shown << " [" << variation.substr(0, variation.rfind(' ')) << ']';
+        }
+        shown << "\nselected";
+        for (const int row : window.chosenVariations) {
+            shown << ' ' << row;
         }
         for (std::int32_t line = 1; line <= CommonRoutines::lLineCount; ++line) {
             shown << "\nline " << line;
@@ -104,10 +100,19 @@ public:
     [[nodiscard]] std::string Expected() {
         std::ostringstream shown;
         shown << "district " << m_slow.line << " mode " << m_slow.mode << " editing " << m_slow.editSlot << " changed "
-              << m_slow.changed << " warned " << m_slow.warned << "\nbox [" << m_slow.box << "] status ["
-              << m_slow.status << "] undo [" << m_slow.NextUndo() << "] [" << m_slow.NextUndo() << "]\nrows";
+              << m_slow.changed << "\nbox [" << m_slow.box << "] status [" << m_slow.status << "] undo ["
+              << m_slow.NextUndo() << "] warns [" << (m_slow.warned ? "warns" : "") << "] captions ["
+              << (m_slow.shriekAdds ? "Add !" : "Remove !") << "] [" << (m_slow.dateAdds ? "Add Date%" : "Remove Date%")
+              << "]\nrows";
         for (const int slot : m_slow.listed) {
             shown << " [" << m_slow.Slot(slot) << ']';
+        }
+        shown << "\nselected";
+        for (std::size_t row = 0; row < m_slow.listed.size(); ++row) {
+            const auto& selected = m_slow.selected;
+            if (std::find(selected.begin(), selected.end(), m_slow.listed[row]) != selected.end()) {
+                shown << ' ' << row;
+            }
         }
         for (std::size_t line = 0; line < m_slow.lines.size(); ++line) {
             shown << "\nline " << line + 1;
@@ -130,10 +135,10 @@ public:
 
     // Undoes until nothing is left to undo.
     void UndoAll() {
-        while (m_window.Undo()) {
-            m_slow.Undo();
+        while (m_slow.Undo()) {
+            m_player.Press(Control::cbUndo);
         }
-        EXPECT_FALSE(m_slow.Undo());
+        m_player.Press(Control::cbUndo); // to no effect
     }
 
     // The texts of every line apart from free slots.
@@ -158,15 +163,20 @@ public:
     // What a new editor has in its table after this one has died and the user wants the changes back: the
     // slots of every line.
     std::vector<Texts> AfterCrash() {
-        m_desktop.state.Die();
+        m_player.desktop.state.Die();
         ResetEverything();
-        if (!m_desktop.state.Kept(".changes").empty()) {
-            m_desktop.ExpectBox(
+        CommandPlayer heir;
+        heir.desktop.files = m_player.desktop.files;
+        heir.desktop.state.storage = m_player.desktop.state.storage;
+        heir.desktop.ExpectOpen(DataFilePath);
+        if (!heir.desktop.state.Kept(".changes").empty()) {
+            heir.desktop.ExpectBox(
                 "There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
                 CommonRoutines::BoxIcon::Question, CommonRoutines::BoxButtons::YesNo, CommonRoutines::BoxAnswer::Yes);
         }
-        ReadText(m_desktop, std::string(m_desktop.files[DataFilePath]));
-        CommonRoutines::RestoreChanges(m_desktop);
+        heir.desktop.recordReports = true;
+        heir.ExpectRepeatedNames(RepeatedNames());
+        heir.Press(Control::cbOpen);
         return SlotsInTable();
     }
     [[nodiscard]] bool HasSaved() const { return m_hasSaved; }
@@ -186,6 +196,8 @@ public:
     [[nodiscard]] const Slow::Editor& SlowEditor() const { return m_slow; }
 
 private:
+    using Control = Commands::Control;
+
     std::size_t UpTo(std::size_t most) { return m_random() % (most + 1); }
 
     std::string Text() {
@@ -227,11 +239,24 @@ private:
         file += "\r\n";
     }
 
-    template <typename Command>
-    void Both(bool enabled, Command command) {
-        if (enabled) {
-            command(m_window);
-            command(m_slow);
+    // Of the districts of one name, all but the first are asked about.
+    [[nodiscard]] std::vector<std::string> RepeatedNames() const {
+        std::vector<std::string> repeated;
+        for (const char* name : {"North", "South"}) {
+            const auto count = std::count_if(m_slow.lines.begin(), m_slow.lines.end(), [&](const Slow::Line& line) {
+                return line.isDistrict && line.name == name;
+            });
+            repeated.insert(repeated.end(), static_cast<std::size_t>(std::max<std::ptrdiff_t>(count - 1, 0)), name);
+        }
+        return repeated;
+    }
+
+    // Presses a button that is enabled.
+    template <typename Slowly>
+    void Both(Control button, Slowly slowly) {
+        if (m_player.IsEnabled(button)) {
+            m_player.Press(button);
+            slowly(m_slow);
         }
     }
 
@@ -243,33 +268,39 @@ private:
             }
         }
         const int line = districts[UpTo(districts.size() - 1)];
-        Both(true, [&](auto& editor) { editor.Choose(line); });
+        m_player.ChooseDistrict(line);
+        m_slow.Choose(line);
     }
 
+    // Where nothing was chosen, a click beside the rows chooses nothing anew.
     void Select() {
-        std::vector<CommonRoutines::VariationRow> rows;
+        std::vector<int> rows;
         std::vector<int> slots;
         const auto oneIn = 1 + UpTo(3);
-        for (std::size_t i = 0; i < m_window.listed.size(); ++i) {
+        for (std::size_t i = 0; i < m_slow.listed.size(); ++i) {
             if (UpTo(oneIn) == 0) {
-                rows.push_back(m_window.listed[i]);
+                rows.push_back(static_cast<int>(i));
                 slots.push_back(m_slow.listed[i]);
             }
         }
-        m_window.Select(rows);
-        m_slow.Select(slots);
+        if (!rows.empty() || !m_slow.selected.empty()) {
+            m_player.Select(rows);
+            m_slow.Select(slots);
+        }
     }
 
     void Enter(const std::string& text) {
-        Both(HeadlessWindow::Enabled(CommonRoutines::Control::tbEdit), [&](auto& editor) { editor.ChangeBox(text); });
+        if (m_player.IsEnabled(Control::tbEdit) && text != m_slow.box) {
+            m_player.Enter(text);
+            m_slow.ChangeBox(text);
+        }
     }
 
     // A text from its first character to its last, each step followed by both.
     void Type() {
         const std::string text = Text();
         const std::size_t length = m_wild ? UpTo(text.size()) : text.size();
-        for (std::size_t typed = 1; typed <= length && HeadlessWindow::Enabled(CommonRoutines::Control::tbEdit);
-             ++typed) {
+        for (std::size_t typed = 1; typed <= length && m_player.IsEnabled(Control::tbEdit); ++typed) {
             Enter(text.substr(0, typed));
             ASSERT_EQ(Shown(), Expected());
         }
@@ -292,41 +323,41 @@ private:
     void AddSomewhere() {
         Choose();
         Enter("Name " + std::to_string(UpTo(999)));
-        Both(HeadlessWindow::Enabled(CommonRoutines::Control::cbOk), [](auto& editor) { editor.Ok(); });
+        Both(Control::cbOk, [](auto& slow) { slow.Ok(); });
     }
 
     void Delete() {
-        if (!HeadlessWindow::Enabled(CommonRoutines::Control::cbDelete)) {
+        if (!m_player.IsEnabled(Control::cbDelete)) {
             return;
         }
-        if (!m_window.selected.empty()) {
-            ASSERT_EQ(CommonRoutines::DeleteQuestion(m_window.selected), m_slow.Question());
-        }
         const bool yes = UpTo(4) > 0;
-        Both(true, [&](auto& editor) { editor.Delete(yes); });
+        if (!m_slow.selected.empty()) {
+            m_player.desktop.ExpectBox(m_slow.Question(), CommonRoutines::BoxIcon::Question,
+                                       CommonRoutines::BoxButtons::YesNo,
+                                       yes ? CommonRoutines::BoxAnswer::Yes : CommonRoutines::BoxAnswer::No);
+        }
+        Both(Control::cbDelete, [&](auto& slow) { slow.Delete(yes); });
     }
 
     void Save() {
-        if (HeadlessWindow::Enabled(CommonRoutines::Control::cbSave)) {
-            // Only what survives being read again can be compared with what a crash leaves.
-            const bool cancels = m_wild || UpTo(1) == 0;
-            m_desktop.ExpectSave(cancels ? std::nullopt : std::optional(DataFilePath));
-            if (!cancels) {
-                m_desktop.ExpectBox("File Saved to " + DataFilePath, CommonRoutines::BoxIcon::Information);
-                m_hasSaved = true;
-            }
-            CommonRoutines::SaveDistrictFile(m_desktop);
-            CommonRoutines::bChanged = false;
-            m_slow.changed = false;
+        if (!m_player.IsEnabled(Control::cbSave)) {
+            return;
         }
+        // Only what survives being read again can be compared with what a crash leaves.
+        const bool cancels = m_wild || UpTo(1) == 0;
+        m_player.desktop.ExpectSave(cancels ? std::nullopt : std::optional(DataFilePath));
+        if (!cancels) {
+            m_player.desktop.ExpectBox("File Saved to " + DataFilePath, CommonRoutines::BoxIcon::Information);
+            m_hasSaved = true;
+        }
+        Both(Control::cbSave, [](auto& slow) { slow.Save(); });
     }
 
     std::mt19937 m_random;
     bool m_wild;
     bool m_hasSaved = false;
     bool m_hasty; // goes from district to district, so that the journal runs out of steps
-    ScriptedDesktop m_desktop;
-    HeadlessWindow m_window;
+    EditingPlayer& m_player;
     Slow::Editor m_slow;
     std::vector<Slow::Line> m_original;
 };

@@ -1,4 +1,4 @@
-#include "edit/RestoreChanges.h"
+#include "commands/RestoreChanges.h"
 
 #include "edit/EditTest.h"
 #include "edit/Variations.h"
@@ -28,6 +28,7 @@ protected:
     void Open(const std::string& content = Content) {
         ReadText(desktop, content);
         RestoreChanges(desktop);
+        Unsaved.Write(desktop); // as the end of a command does
     }
     void ExpectQuestion(BoxAnswer answer) {
         desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
@@ -151,6 +152,7 @@ TEST_F(RestoreChangesTest, OfOtherFilesAreFreeWhileOthersAreAskedAbout) {
                        BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No);
     ReadText(watching, Content);
     RestoreChanges(watching);
+    Unsaved.Write(watching);
     EXPECT_TRUE(watching.locksAtQuestion.contains("0001.changes.lock"));
     EXPECT_FALSE(watching.locksAtQuestion.contains("0002.changes.lock"));
 }

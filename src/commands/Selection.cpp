@@ -1,4 +1,4 @@
-#include "edit/Selection.h"
+#include "commands/Selection.h"
 
 #include "core/State.h"
 #include "edit/Variations.h"

@@ -1,0 +1,136 @@
+#include "commands/EditCommands.h"
+
+#include "commands/Session.h"
+#include "commands/VariationCommands.h"
+#include "commands/WindowMode.h"
+#include "core/State.h"
+#include "edit/EditPanel.h"
+#include "edit/UndoJournal.h"
+
+using namespace CommonRoutines;
+
+namespace Commands {
+
+namespace {
+
+void UpdateMarkerOptions(Session& session) {
+    session.view.edit.options = MarkerOptionsOf(session.view.edit.text);
+}
+
+// Proposals are applied with one of these two boxes ticked, which only makes sense while some are
+// ticked themselves; while a text is being edited the boxes say what it is. That a click on "Spelling
+// Mistake" is left standing then, and one on "Variation" undone, is meant.
+void ChooseOption(Session& session, bool& chosen, bool& other) {
+    if (session.view.selectCount.empty()) {
+        session.desktop.Beep();
+        chosen = false;
+    } else if (chosen) {
+        other = false;
+    }
+}
+
+} // namespace
+
+void StartAdding(Session& session) {
+    session.view.whyError.text.clear();
+    iLastAction = AddStarted;
+    PutIntoEditBox(session, {});
+    EnterMode(session, AddingUnacceptable);
+    session.view.focus = Focus::EditBox;
+}
+
+void TypeText(Session& session, std::string_view text) {
+    session.view.edit.text = text;
+    FollowEditText(session);
+}
+
+void FollowEditText(Session& session) {
+    WindowView& view = session.view;
+    view.whyError.text.clear();
+    if (view.edit.text.size() > LongestEditableText) {
+        ApplyWindowMode(session);
+        view.status = "This text is too long to be edited here.";
+        return;
+    }
+    // Without a district the controls stay as they are: a file whose reopening was cancelled can still be saved.
+    if (IsDistrict(lCurrentDistrict)) {
+        TextChange change = FollowText(view.edit.text);
+        if (change.status) {
+            view.status = std::move(*change.status);
+        }
+        EnterMode(session, change.editMode);
+    }
+    UpdateMarkerOptions(session);
+}
+
+void Accept(Session& session) {
+    WindowView& view = session.view;
+    const Committed committed = CommitText(view.edit.text, session.desktop);
+    if (committed.stored) {
+        SetMode(DistrictIdle);
+    }
+    view.nextUndo = CurrentUndoStep().WhatAmI();
+    view.whyError.warns = !committed.warning.empty();
+    if (view.whyError.warns) {
+        session.desktop.Beep();
+        ShowWhyError(session, committed.warning, VariationState::Plain);
+    }
+    RefreshVariationList(session);
+    ApplyWindowMode(session);
+    ResetEditPanel(session);
+    view.focus = Focus::Districts;
+}
+
+void Cancel(Session& session) {
+    session.view.whyError.text.clear();
+    ReturnToIdle(session);
+}
+
+void GoToEditBox(Session& session) {
+    if (session.view.IsEnabled(Control::tbEdit)) {
+        session.view.focus = Focus::WholeText;
+    }
+}
+
+void ClickSpelling(Session& session, bool ticked) {
+    MarkerOptions& options = session.view.edit.options;
+    options.spelling = ticked;
+    if (iEditMode == DistrictIdle) {
+        ChooseOption(session, options.spelling, options.variation);
+    }
+}
+
+void ClickVariation(Session& session, bool ticked) {
+    MarkerOptions& options = session.view.edit.options;
+    if (iEditMode == DistrictIdle) {
+        options.variation = ticked;
+        ChooseOption(session, options.variation, options.spelling);
+    }
+}
+
+void ClickValidInYears(Session& session, bool ticked) {
+    session.view.edit.options.validInYears = ticked;
+}
+
+void ClickVolume(Session& session, bool ticked) {
+    session.view.edit.options.volume = ticked;
+}
+
+void PutIntoEditBox(Session& session, std::string_view text) {
+    EditView& edit = session.view.edit;
+    edit.text = text.substr(0, LongestEditableText + 1);
+    ++edit.filled;
+    UpdateMarkerOptions(session);
+}
+
+void ResetEditPanel(Session& session) {
+    PutIntoEditBox(session, {}); // no option belongs to an empty text
+}
+
+void ReturnToIdle(Session& session) {
+    ResetEditPanel(session);
+    EnterMode(session, DistrictIdle);
+    session.view.focus = Focus::Districts; // the button is disabled now; the focus must not fall just anywhere
+}
+
+} // namespace Commands

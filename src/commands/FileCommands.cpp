@@ -1,0 +1,136 @@
+#include "commands/FileCommands.h"
+
+#include "commands/DistrictCommands.h"
+#include "commands/RestoreChanges.h"
+#include "commands/Session.h"
+#include "commands/VariationCommands.h"
+#include "commands/WindowMode.h"
+#include "core/Paths.h"
+#include "core/State.h"
+#include "edit/UndoJournal.h"
+#include "file/CommentTypes.h"
+#include "file/DistrictFileReader.h"
+#include "file/DistrictFileWriter.h"
+#include "recovery/UnsavedChanges.h"
+#include "rules/Capitals.h"
+
+using namespace CommonRoutines;
+
+namespace Commands {
+
+namespace {
+
+bool MayDiscardChanges(Session& session) {
+    // A cancelled or failed save costs nothing, unless the recovery file could not be written either.
+    if (!bChanged && !Unsaved.AreUnwritten()) {
+        return true;
+    }
+    bChanged = true; // the save that cleared it has saved nothing
+    return session.desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
+                                  BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+}
+
+void ShowCommentTypes(Session& session) {
+    CommentTypesView& types = session.view.commentTypes;
+    types = {CommentTypes.Items().size(), {0}, types.filled + 1};
+}
+
+void ResetWindow(Session& session) {
+    WindowView& view = session.view;
+    lCurrentDistrict = 0;
+    lEditIndex = 0;
+    view.applyTo = 0;
+    view.comments = {0, view.comments.filled + 1};
+    session.screen.SizeCommentColumn();
+    ClearWhyError(session);
+    ClearUndoRing();
+    CommentTypes.Reset();
+    ShowCommentTypes(session);
+    SetMode(NothingOpen);
+    view.nextUndo.clear();
+    view.districts.Fill({});
+    ShowVariations(session, 0, {});
+}
+
+void ReadAndShow(Session& session, const std::string& path) {
+    if (bChanged) {
+        Unsaved.Remove(session.desktop); // they were given up; until now the choice of a file could be cancelled
+    }
+    sDataFileName = path;
+    RememberFolder(session, path, Settings::DataFolder);
+    bChanged = false;
+    session.districtsByName.clear();
+    ReadDistrictFile(session.desktop);
+    if (sDataFileName.empty()) {
+        // Nothing is open, so nothing must be saved over the file that could not be read.
+        ApplyWindowMode(session);
+        return;
+    }
+    ShowCommentTypes(session);
+    if (iRepairAction == Quit) {
+        lLineCount = 0;
+    }
+    if (lLineCount > 0) {
+        RestoreChanges(session.desktop);
+        FillDistrictList(session);
+        EnterMode(session, FileOpen);
+        session.view.focus = Focus::Districts;
+    }
+}
+
+} // namespace
+
+void Start(Session& session) {
+    ClearUndoRing();
+    iUndoStep = 1;
+    LoadLowerCaseWords(session.desktop);
+    bChanged = false;
+    EnterMode(session, NothingOpen);
+    session.view.focus = Focus::OpenButton;
+}
+
+void Open(Session& session) {
+    if (!MayDiscardChanges(session)) {
+        return;
+    }
+    ResetWindow(session);
+    FileRequest request;
+    request.sFolder = session.desktop.GetSetting(Settings::Section, Settings::DataFolder);
+    if (request.sFolder.empty()) {
+        request.sFolder = session.desktop.ProgramFolder();
+    }
+    if (const auto path = session.desktop.ChooseFileToOpen(request)) {
+        ReadAndShow(session, *path);
+    }
+}
+
+void OpenPath(Session& session, const std::string& path) {
+    if (MayDiscardChanges(session)) {
+        ResetWindow(session);
+        ReadAndShow(session, path);
+    }
+}
+
+void Save(Session& session) {
+    ClearWhyError(session);
+    SaveDistrictFile(session.desktop);
+    bChanged = false;
+}
+
+bool MayClose(Session& session) {
+    if (!MayDiscardChanges(session)) {
+        return false;
+    }
+    if (bChanged) {
+        Unsaved.Remove(session.desktop);
+    }
+    return true;
+}
+
+void RememberFolder(Session& session, const std::string& path, std::string_view key) {
+    if (const std::string_view folder = Paths::FolderOf(path); !folder.empty()) {
+        session.desktop.SaveSetting(Settings::Section, key, std::string(folder));
+    }
+}
+
+} // namespace Commands

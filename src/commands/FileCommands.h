@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Commands {
+
+struct Session;
+
+// The per-user settings of the program.
+struct Settings {
+    static constexpr std::string_view Section = "Paths";
+    static constexpr std::string_view DataFolder = "InFile";
+    static constexpr std::string_view ChangeFolder = "ProcessFile";
+};
+
+// What happens once before the window is used: the word list is read, all is set for "no file".
+void Start(Session& session);
+
+// Asks for a data file and opens it, unless unsaved changes are to be kept. Cancelled, it leaves an emptied
+// window and the old table.
+void Open(Session& session);
+
+// The same for a file that is known already.
+void OpenPath(Session& session, const std::string& path);
+
+// Asks for a name and writes the table there. Unsaved changes count as saved whatever came of it.
+void Save(Session& session);
+
+// Whether the window may be closed; unsaved changes are given up then.
+[[nodiscard]] bool MayClose(Session& session);
+
+// Keeps the folder of a chosen file for the next dialogue.
+void RememberFolder(Session& session, const std::string& path, std::string_view key);
+
+} // namespace Commands

@@ -1,0 +1,172 @@
+#include "commands/ProposalCommands.h"
+
+#include "changes/ApplyChanges.h"
+#include "changes/ChangeFile.h"
+#include "changes/ChangeSelection.h"
+#include "commands/EditCommands.h"
+#include "commands/FileCommands.h"
+#include "commands/Session.h"
+#include "commands/VariationCommands.h"
+#include "commands/WindowMode.h"
+#include "core/Ansi.h"
+#include "core/State.h"
+#include "edit/UndoJournal.h"
+
+#include <algorithm>
+#include <optional>
+
+using namespace CommonRoutines;
+
+namespace Commands {
+
+namespace {
+
+void SetTick(Session& session, int row, bool ticked) {
+    ListView<ChangeRow>& list = session.view.proposals;
+    (*list.rows)[static_cast<std::size_t>(row)].bChecked = ticked;
+    ++list.touched;
+}
+
+void UpdateChangeSelection(Session& session) {
+    WindowView& view = session.view;
+    ClearWhyError(session);
+    ChangeSelection selection = DescribeChangeSelection(*view.proposals.rows);
+    view.selectCount = std::move(selection.count);
+    if (view.proposals.IsEmpty() || !IsDistrict(lCurrentDistrict)) {
+        return;
+    }
+    view.Enable(Control::cbClearSel, true);
+    view.Enable(Control::cbApplySelected, selection.applySelected);
+    view.Enable(Control::cbApplySelSpell, selection.applySelected);
+    view.Enable(Control::cbApplyAll, selection.applyAll);
+    view.Enable(Control::cbApplyAllSpell, selection.applyAll);
+    view.Enable(Control::cbEditSel, selection.edit);
+}
+
+// The proposals of a file; nothing when it cannot be read.
+std::optional<ChangeList> ReadChangeFile(Desktop& desktop, const std::string& path) {
+    desktop.ShowBusy(true);
+    const auto content = desktop.ReadFile(path);
+    auto changes = content ? std::optional(ReadChanges(*content)) : std::nullopt;
+    desktop.ShowBusy(false);
+    if (!changes) {
+        desktop.MsgBox("The file cannot be read:\r\n" + Ansi::FromUtf8(path), BoxIcon::Exclamation, BoxButtons::Ok);
+    }
+    return changes;
+}
+
+void Apply(Session& session, bool selectedOnly, bool asSpelling) {
+    // The buttons stay enabled when opening a file is cancelled, which leaves no district chosen.
+    if (!IsDistrict(lCurrentDistrict)) {
+        return;
+    }
+    WindowView& view = session.view;
+    const auto applied = ApplyChanges(*view.proposals.rows, selectedOnly, asSpelling, session.desktop);
+    if (!applied) {
+        return;
+    }
+    RefreshVariationList(session);
+    ReportAppliedChanges(*applied, session.desktop);
+    EnterMode(session, ChangesApplied);
+    view.applyTo = 0;
+    view.nextUndo = CurrentUndoStep().WhatAmI();
+}
+
+} // namespace
+
+void ProcessFile(Session& session) {
+    ClearWhyError(session);
+    FileRequest request;
+    request.sFolder = session.desktop.GetSetting(Settings::Section, Settings::ChangeFolder);
+    const auto path = session.desktop.ChooseFileToOpen(request);
+    if (!path) {
+        return;
+    }
+    RememberFolder(session, *path, Settings::ChangeFolder);
+    auto changes = ReadChangeFile(session.desktop, *path);
+    if (!changes) {
+        return;
+    }
+    const std::string summary = changes->Summary();
+    ShowProposals(session, std::move(changes->rows));
+    EnterMode(session, DistrictIdle);
+    if (!summary.empty()) {
+        ShowWhyError(session, summary, VariationState::Plain);
+    }
+    session.view.focus = Focus::Proposals;
+}
+
+void ApplyAll(Session& session) {
+    Apply(session, false, false);
+}
+
+void ApplyAllAsSpelling(Session& session) {
+    Apply(session, false, true);
+}
+
+void ApplySelected(Session& session) {
+    Apply(session, true, false);
+}
+
+void ApplySelectedAsSpelling(Session& session) {
+    Apply(session, true, true);
+}
+
+void EditTicked(Session& session) {
+    const auto& rows = *session.view.proposals.rows;
+    const auto ticked = std::find_if(rows.begin(), rows.end(), [](const ChangeRow& row) { return row.bChecked; });
+    if (ticked != rows.end()) {
+        PutIntoEditBox(session, ticked->sText);
+        FollowEditText(session);
+        session.view.focus = Focus::EditBox;
+    }
+}
+
+void UntickAll(Session& session) {
+    WindowView& view = session.view;
+    for (ChangeRow& row : *view.proposals.rows) {
+        row.bChecked = false;
+    }
+    ++view.proposals.touched;
+    for (const Control control :
+         {Control::cbClearSel, Control::cbApplySelected, Control::cbApplySelSpell, Control::cbEditSel}) {
+        view.Enable(control, false);
+    }
+    for (const Control control : {Control::cbApplyAll, Control::cbApplyAllSpell}) {
+        view.Enable(control, true);
+    }
+    view.selectCount.clear();
+}
+
+void TickProposal(Session& session, int row, bool ticked) {
+    if (ticked && session.view.proposals.At(row).iTag != ChangeRow::Valid) {
+        session.desktop.Beep();
+        return;
+    }
+    SetTick(session, row, ticked);
+    UpdateChangeSelection(session);
+}
+
+void ClickProposal(Session& session, int row) {
+    const ChangeRow& proposal = session.view.proposals.At(row);
+    SetTick(session, row, proposal.iTag == ChangeRow::Valid);
+    session.view.proposals.selected.clear();
+    if (IsDistrict(lCurrentDistrict)) {
+        SetMode(AddingUnacceptable);
+        PutIntoEditBox(session, proposal.sText);
+        FollowEditText(session);
+    }
+    UpdateChangeSelection(session);
+}
+
+void HighlightProposals(Session& session, const std::vector<int>& rows) {
+    session.view.proposals.selected = rows;
+}
+
+void ShowProposals(Session& session, std::vector<ChangeRow> rows) {
+    session.view.proposals.Fill(std::move(rows));
+    session.view.selectCount.clear();
+    session.view.Enable(Control::cbEditSel, false);
+}
+
+} // namespace Commands

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "commands/PresentingDesktop.h"
+#include "commands/WindowView.h"
+
+#include <cstdint>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+namespace Commands {
+
+// What the commands need of the window itself: that it shows what is so, and that it measures texts.
+class Screen {
+public:
+    Screen() = default;
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+    virtual ~Screen() = default;
+
+    virtual void Show(const WindowView& view) = 0;
+
+    // The widths of the districts list: from its headings, from every district that is added, and then set.
+    virtual void StartColumnWidths() = 0;
+    virtual void AddDistrictRow(const CommonRoutines::DistrictRecord& record) = 0;
+    virtual void SetColumnWidths() = 0;
+    // Gives the comments all the room beside their types.
+    virtual void SizeCommentColumn() = 0;
+};
+
+// What the commands work on, beside the table: what the window shows, and the desktop. A command is a
+// function that takes a session; it is run from its beginning to its end by Run.
+struct Session {
+    Session(CommonRoutines::Desktop& machine, Screen& window);
+
+    // Runs a command, puts what it has changed on the disk, and shows what the window shows now. One that there
+    // is not enough memory for ends with a message, since the toolkit must not meet with an exception.
+    void Run(const std::function<void(Session&)>& command);
+
+    CommonRoutines::Desktop& desktop; // shows what is so before it asks anything
+    Screen& screen;
+    WindowView view;
+    std::vector<std::int32_t> districtsByName; // all of the file; the filter chooses from them
+
+private:
+    void Present();
+
+    CommonRoutines::Desktop& m_machine;
+    PresentingDesktop m_presenting;
+};
+
+// Does something that may need more memory than there is, which then ends with a message.
+void WithinMemory(CommonRoutines::Desktop& desktop, const std::function<void()>& work);
+
+} // namespace Commands

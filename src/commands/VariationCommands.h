@@ -1,0 +1,40 @@
+#pragma once
+
+#include "edit/VariationList.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+// The commands for the list of variations, and what the list shows of the current district.
+namespace Commands {
+
+struct Session;
+
+// The user has chosen rows of the variations, perhaps none.
+void SelectVariations(Session& session, const std::vector<int>& rows);
+
+// The choice of variations is given up, as by "Cancel", which is disabled while there are several.
+void LeaveVariations(Session& session);
+
+// Asks, and deletes the selected variations.
+void Delete(Session& session);
+
+// Adds a marker to the selected variations or takes it away, as the button says.
+void ChangeShriek(Session& session);
+void ChangeDate(Session& session);
+
+// Takes the last change back, in whichever district it was made.
+void Undo(Session& session);
+
+// Lists the variations of lCurrentDistrict anew, with the summary of their problems.
+void RefreshVariationList(Session& session);
+
+void ShowVariations(Session& session, std::int32_t district, std::vector<CommonRoutines::VariationRow> rows);
+[[nodiscard]] std::vector<CommonRoutines::VariationRow> SelectedVariations(const Session& session);
+
+// The label of problems.
+void ShowWhyError(Session& session, std::string_view text, CommonRoutines::VariationState ink);
+void ClearWhyError(Session& session);
+
+} // namespace Commands

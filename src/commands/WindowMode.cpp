@@ -1,0 +1,101 @@
+#include "commands/WindowMode.h"
+
+#include "commands/Session.h"
+#include "core/State.h"
+
+#include <algorithm>
+
+using namespace CommonRoutines;
+
+namespace Commands {
+
+namespace {
+
+constexpr std::int16_t FirstMode = 1;
+constexpr std::int16_t LastMode = 10;
+
+bool IsMode(std::int16_t mode) {
+    return mode >= FirstMode && mode <= LastMode;
+}
+
+// Without a selected row only the commands for all rows make sense.
+bool EnabledByChanges(Control control, ChangeListState changes) {
+    const bool forAllRows = control == Control::cbApplyAll || control == Control::cbApplyAllSpell;
+    return changes.hasRows && (changes.hasSelection || forAllRows);
+}
+
+ChangeListState StateOfProposals(const WindowView& view) {
+    const auto& rows = *view.proposals.rows;
+    const bool anyTicked = std::any_of(rows.begin(), rows.end(), [](const ChangeRow& row) { return row.bChecked; });
+    return {!rows.empty(), anyTicked || !view.proposals.selected.empty()};
+}
+
+// What to do next, where a list is empty.
+HintsView HintsNow(const Session& session) {
+    const bool hasDistricts = !session.districtsByName.empty() && iEditMode != NothingOpen;
+    const bool isChosen = IsDistrict(lCurrentDistrict);
+    return {
+        .districts = hasDistricts ? "No district has a comment of this type"
+                                  : "Open a file, or drop one here, to see its districts",
+        .variations = isChosen ? "This district has no variations: press Add to enter one"
+                               : "Choose a district to see its variations",
+        .proposals = "Process File shows proposals here",
+        .comments = isChosen ? "This district has no comments" : "Choose a district to see its comments",
+    };
+}
+
+} // namespace
+
+std::optional<bool> EnabledInMode(Control control, std::int16_t mode, bool changed, ChangeListState changes) {
+    if (!IsMode(mode)) {
+        return std::nullopt;
+    }
+    switch (CommandOf(control).modes[static_cast<std::size_t>(mode - FirstMode)]) {
+    case 'E':
+        return true;
+    case 'D':
+        return changed;
+    case 'C':
+        return EnabledByChanges(control, changes);
+    case ' ':
+        return std::nullopt;
+    default:
+        return false;
+    }
+}
+
+bool ModeClearsStatus(std::int16_t mode) {
+    return IsMode(mode) && mode != 7 && mode != AddingUnacceptable;
+}
+
+bool ModeClearsApplyTo(std::int16_t mode) {
+    return mode == NothingOpen;
+}
+
+void SetMode(std::int16_t mode) {
+    iEditMode = mode;
+}
+
+void ApplyWindowMode(Session& session) {
+    WindowView& view = session.view;
+    const ChangeListState changes = StateOfProposals(view);
+    for (const Command& command : AllCommands()) {
+        if (const auto enabled = EnabledInMode(command.control, iEditMode, bChanged, changes)) {
+            view.Enable(command.control, *enabled);
+        }
+    }
+    view.hints = HintsNow(session);
+    if (ModeClearsStatus(iEditMode)) {
+        view.status.clear();
+    }
+    if (ModeClearsApplyTo(iEditMode)) {
+        view.applyTo = 0;
+    }
+}
+
+void EnterMode(Session& session, std::int16_t mode) {
+    SetMode(mode);
+    ApplyWindowMode(session);
+}
+
+} // namespace Commands

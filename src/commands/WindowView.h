@@ -1,0 +1,102 @@
+#pragma once
+
+// What the main window shows, as a value: every command ends with one. The window shows it and decides
+// nothing, so that a test that reads the value sees what the user sees.
+
+#include "changes/ChangeRow.h"
+#include "commands/CommandTable.h"
+#include "core/State.h"
+#include "edit/VariationList.h"
+#include "rules/Markers.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Commands {
+
+// A list. Other rows are a list that was filled anew, and is shown from its beginning. Rows that have
+// changed in their places raise `touched`.
+template <typename Row>
+struct ListView {
+    std::shared_ptr<std::vector<Row>> rows = std::make_shared<std::vector<Row>>();
+    std::vector<int> selected; // numbers of rows, from 0, in list order
+    std::int32_t touched = 0;
+
+    void Fill(std::vector<Row> newRows) {
+        rows = std::make_shared<std::vector<Row>>(std::move(newRows));
+        selected.clear();
+    }
+    [[nodiscard]] bool IsEmpty() const { return rows->empty(); }
+    [[nodiscard]] const Row& At(int row) const { return (*rows)[static_cast<std::size_t>(row)]; }
+};
+
+// The comments of a district, 0 for none. How they are wrapped is for the window, which knows its font.
+struct CommentsView {
+    std::int32_t district = 0;
+    std::int32_t filled = 0; // how often
+};
+
+// The first `count` of the comment types.
+struct CommentTypesView {
+    std::size_t count = 1;
+    std::vector<int> selected;
+    std::int32_t filled = 0; // how often
+};
+
+// The edit box and the option boxes beside it.
+struct EditView {
+    std::string text; // of one that is too long to be edited, so much that this is seen
+    CommonRoutines::MarkerOptions options;
+    std::int32_t filled = 0; // how often by the program: what was typed before cannot be taken back
+};
+
+// The label of problems.
+struct ProblemView {
+    std::string text;
+    CommonRoutines::VariationState ink = CommonRoutines::VariationState::Plain;
+    bool warns = false; // a text was kept in spite of a warning
+};
+
+// What empty lists say.
+struct HintsView {
+    std::string_view districts;
+    std::string_view variations;
+    std::string_view proposals;
+    std::string_view comments;
+};
+
+// Where a command leads the focus.
+enum class Focus { Stays, Districts, Proposals, EditBox, WholeText, OpenButton };
+
+struct WindowView {
+    std::int16_t mode = CommonRoutines::NothingOpen;
+    std::array<bool, ControlCount> enabled{}; // by Control
+
+    ListView<std::int32_t> districts; // lines of the table
+    ListView<CommonRoutines::VariationRow> variations;
+    std::int32_t variationsOf = 0; // the district that has them
+    ListView<CommonRoutines::ChangeRow> proposals;
+    CommentsView comments;
+    CommentTypesView commentTypes;
+    HintsView hints;
+
+    EditView edit;
+    ProblemView whyError;
+    std::int32_t applyTo = 0; // the district that is named, 0 for none
+    std::string status;
+    std::string nextUndo;
+    std::string selectCount;
+    std::string_view shriekCaption = "Add !";
+    std::string_view dateCaption = "Add Date%";
+
+    Focus focus = Focus::Stays;
+
+    [[nodiscard]] bool IsEnabled(Control control) const { return enabled[static_cast<std::size_t>(control)]; }
+    void Enable(Control control, bool isEnabled) { enabled[static_cast<std::size_t>(control)] = isEnabled; }
+};
+
+} // namespace Commands

@@ -1,0 +1,135 @@
+// How the main window shows what a command has ended with.
+
+#include "core/State.h"
+#include "file/DistrictComments.h"
+#include "ui/Text.h"
+#include "ui/lists/ChangeModel.h"
+#include "ui/lists/CommentModels.h"
+#include "ui/lists/DistrictModel.h"
+#include "ui/lists/RowList.h"
+#include "ui/lists/StateColours.h"
+#include "ui/lists/VariationModel.h"
+#include "ui/widgets/EditBox.h"
+#include "ui/widgets/PlainLabel.h"
+#include "ui/windows/Form1.h"
+#include "ui/windows/WindowFit.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QScopedValueRollback>
+
+namespace Ui {
+
+using namespace CommonRoutines;
+using Commands::Control;
+
+namespace {
+
+void ShowCaption(QPushButton* button, std::string_view caption) {
+    const QString text = Text::ToQt(caption);
+    if (text != button->text()) {
+        button->setText(text);
+        button->setAccessibleName(text);
+    }
+}
+
+} // namespace
+
+void Form1::Show(const Commands::WindowView& view) {
+    ShowLists(view);
+    ShowTexts(view);
+    ShowEditPanel(view.edit);
+    ShowHints(view.hints);
+    ShowEnabled(view);
+    ShowFocus(view.focus);
+}
+
+void Form1::ShowLists(const Commands::WindowView& view) {
+    m_districts->Show(view.districts, view.variationsOf);
+    m_controls.lvAlpha->ShowSelection(view.districts.selected);
+    m_variations->Show(view.variations, view.variationsOf);
+    m_controls.lvVariations->ShowSelection(view.variations.selected);
+    m_changes->Show(view.proposals);
+    m_controls.LvChanges->ShowSelection(view.proposals.selected);
+    ShowComments(view.comments);
+    m_commentTypes->Show(view.commentTypes);
+    m_controls.lbComments->ShowSelection(view.commentTypes.selected);
+}
+
+void Form1::ShowComments(const Commands::CommentsView& comments) {
+    if (comments.filled != m_commentsFilled) {
+        m_commentsFilled = comments.filled;
+        m_commentsOf = comments.district;
+        WrapComments();
+    }
+}
+
+void Form1::WrapComments() {
+    const QFontMetricsF metrics(font());
+    const auto measure = [&](std::string_view text) { return metrics.horizontalAdvance(Text::ForList(text)); };
+    const int room =
+        m_controls.lvComments->columnWidth(1) - WindowFit::TwipsToPixels(WindowFit::CommentColumnTwips, logicalDpiX());
+    m_comments->SetRows(CommentRows(m_commentsOf, room, measure));
+}
+
+void Form1::ShowEnabled(const Commands::WindowView& view) {
+    for (const Commands::Command& command : Commands::AllCommands()) {
+        m_controls.Widget(command.control)->setEnabled(view.IsEnabled(command.control));
+    }
+}
+
+void Form1::ShowTexts(const Commands::WindowView& view) {
+    m_controls.lbStatus->ShowText(Text::ForBox(view.status));
+    m_controls.lbUndo->ShowText(Text::ForList(view.nextUndo));
+    m_controls.lbSelectCount->ShowText(Text::ToQt(view.selectCount));
+    m_controls.lbApplyTo->ShowText(view.applyTo > 0 ? Text::ForList(RecordOf(view.applyTo).Name) : QString());
+    m_controls.lbWhyError->SetTextColour(StateColours::OnLight(view.whyError.ink));
+    m_controls.lbWhyError->SetBackground(view.whyError.warns ? StateColours::BlueGreen : StateColours::LightGrey);
+    m_controls.lbWhyError->ShowText(Text::ForBox(view.whyError.text));
+    ShowCaption(m_controls.Button(Control::cbShriek), view.shriekCaption);
+    ShowCaption(m_controls.Button(Control::cbDate), view.dateCaption);
+}
+
+void Form1::ShowEditPanel(const Commands::EditView& edit) {
+    const QScopedValueRollback ignoring(bIgnoreEvents, true);
+    // A text that was typed is there already; setting it would forget the typing.
+    if (edit.filled != m_editFilled) {
+        m_editFilled = edit.filled;
+        m_controls.tbEdit->ShowText(edit.text);
+    }
+    m_controls.cbSpelling->setChecked(edit.options.spelling);
+    m_controls.cbVariation->setChecked(edit.options.variation);
+    m_controls.cbValidinyears->setChecked(edit.options.validInYears);
+    m_controls.cbVNF->setChecked(edit.options.volume);
+}
+
+void Form1::ShowHints(const Commands::HintsView& hints) {
+    m_controls.lvAlpha->SetHint(Text::ToQt(hints.districts));
+    m_controls.lvVariations->SetHint(Text::ToQt(hints.variations));
+    m_controls.LvChanges->SetHint(Text::ToQt(hints.proposals));
+    m_controls.lvComments->SetHint(Text::ToQt(hints.comments));
+}
+
+void Form1::ShowFocus(Commands::Focus focus) {
+    switch (focus) {
+    case Commands::Focus::Districts:
+        m_controls.lvAlpha->setFocus();
+        break;
+    case Commands::Focus::Proposals:
+        m_controls.LvChanges->setFocus();
+        break;
+    case Commands::Focus::EditBox:
+        m_controls.tbEdit->setFocus();
+        break;
+    case Commands::Focus::WholeText:
+        m_controls.tbEdit->setFocus(Qt::ShortcutFocusReason); // which selects it all
+        break;
+    case Commands::Focus::OpenButton:
+        m_controls.Widget(Control::cbOpen)->setFocus();
+        break;
+    case Commands::Focus::Stays:
+        break;
+    }
+}
+
+} // namespace Ui

@@ -1,0 +1,166 @@
+#pragma once
+
+#include "commands/DistrictCommands.h"
+#include "commands/EditCommands.h"
+#include "commands/FileCommands.h"
+#include "commands/Session.h"
+#include "commands/VariationCommands.h"
+#include "support/Reading.h"
+#include "support/ScriptedDesktop.h"
+#include "support/Table.h"
+
+#include <algorithm>
+#include <sstream>
+#include <string>
+#include <vector>
+
+// A window that is never seen.
+class QuietScreen : public Commands::Screen {
+public:
+    void Show(const Commands::WindowView& view) override { shown = view; }
+    void StartColumnWidths() override {}
+    void AddDistrictRow(const CommonRoutines::DistrictRecord& /*record*/) override {}
+    void SetColumnWidths() override {}
+    void SizeCommentColumn() override {}
+
+    Commands::WindowView shown; // last
+};
+
+// What a window shows, as texts; the same for one that is never seen and for the real one.
+struct ShownWindow {
+    std::vector<std::string> districts;
+    std::vector<int> chosenDistricts;
+    std::vector<std::string> variations; // each with the number of its state
+    std::vector<int> chosenVariations;
+    std::vector<std::string> labels; // by name
+    std::string box;
+    std::string options; // those that are ticked
+    std::string enabled; // the controls that are
+    std::string focus;   // where the command has led it; empty where it stays
+
+    bool operator==(const ShownWindow&) const = default;
+
+    friend std::ostream& operator<<(std::ostream& out, const ShownWindow& shown) {
+        const auto list = [&](const char* name, const auto& items) {
+            out << '\n' << name;
+            for (const auto& item : items) {
+                out << " [" << item << ']';
+            }
+        };
+        list("districts", shown.districts);
+        list("chosen", shown.chosenDistricts);
+        list("variations", shown.variations);
+        list("chosen", shown.chosenVariations);
+        list("labels", shown.labels);
+        return out << "\nbox [" << shown.box << "] options " << shown.options << "\nenabled " << shown.enabled
+                   << "\nfocus " << shown.focus;
+    }
+};
+
+// One who uses the program: what a user can do, and what he sees.
+class EditingPlayer {
+public:
+    EditingPlayer() { desktop.files["/program/qx_lower.txt"] = "of,the,upon\r\n"; }
+    EditingPlayer(const EditingPlayer&) = delete;
+    EditingPlayer& operator=(const EditingPlayer&) = delete;
+    virtual ~EditingPlayer() = default;
+
+    virtual void ChooseDistrict(std::int32_t line) = 0;
+    virtual void Select(const std::vector<int>& rows) = 0;
+    // The box holds this text from now on, which it did not before.
+    virtual void Enter(const std::string& text) = 0;
+    virtual void Press(Commands::Control button) = 0;
+    [[nodiscard]] virtual ShownWindow Shown() const = 0;
+    [[nodiscard]] virtual bool IsEnabled(Commands::Control control) const = 0;
+
+    // Opens a file, whose districts of one name are asked about.
+    void Open(const std::string& content, const std::vector<std::string>& repeatedNames) {
+        desktop.recordReports = true;
+        desktop.files[DataFilePath] = content;
+        desktop.ExpectOpen(DataFilePath);
+        ExpectRepeatedNames(repeatedNames);
+        Press(Commands::Control::cbOpen);
+    }
+    void ExpectRepeatedNames(const std::vector<std::string>& names) {
+        for (const std::string& name : names) {
+            desktop.ExpectBox("District " + name + " is duplicated in that file", CommonRoutines::BoxIcon::Critical,
+                              CommonRoutines::BoxButtons::OkCancel);
+        }
+    }
+
+    ScriptedDesktop desktop;
+};
+
+// Gives the commands, without a window.
+class CommandPlayer : public EditingPlayer {
+public:
+    CommandPlayer() { m_session.Run(Commands::Start); }
+
+    void ChooseDistrict(std::int32_t line) override {
+        const auto& rows = *m_session.view.districts.rows;
+        const auto row = static_cast<int>(std::find(rows.begin(), rows.end(), line) - rows.begin());
+        m_session.Run([=](Commands::Session& session) { Commands::ChooseDistrict(session, {row}); });
+    }
+    void Select(const std::vector<int>& rows) override {
+        m_session.Run([&](Commands::Session& session) { Commands::SelectVariations(session, rows); });
+    }
+    void Enter(const std::string& text) override {
+        m_session.Run([&](Commands::Session& session) { Commands::TypeText(session, text); });
+    }
+    void Press(Commands::Control button) override { m_session.Run(Commands::CommandOf(button).run); }
+
+    [[nodiscard]] const Commands::WindowView& View() const { return m_screen.shown; }
+    [[nodiscard]] bool IsEnabled(Commands::Control control) const override { return View().IsEnabled(control); }
+
+    [[nodiscard]] ShownWindow Shown() const override {
+        const Commands::WindowView& view = View();
+        ShownWindow shown;
+        for (const std::int32_t district : *view.districts.rows) {
+            shown.districts.push_back(DistrictAt(district).Name);
+        }
+        shown.chosenDistricts = view.districts.selected;
+        for (const CommonRoutines::VariationRow& row : *view.variations.rows) {
+            shown.variations.push_back(std::string(VariationAt(view.variationsOf, row.lIndex).Text) + " " +
+                                       std::to_string(static_cast<int>(row.state)));
+        }
+        shown.chosenVariations = view.variations.selected;
+        shown.labels = {view.status,
+                        view.nextUndo,
+                        view.whyError.text,
+                        view.whyError.warns ? "warns" : "",
+                        std::to_string(static_cast<int>(view.whyError.ink)),
+                        view.applyTo > 0 ? std::string(DistrictAt(view.applyTo).Name) : "",
+                        std::string(view.shriekCaption),
+                        std::string(view.dateCaption)};
+        shown.box = view.edit.text;
+        shown.options = std::string(view.edit.options.spelling ? "spelling " : "") +
+                        (view.edit.options.variation ? "variation " : "") +
+                        (view.edit.options.validInYears ? "years " : "") + (view.edit.options.volume ? "volume " : "");
+        for (const Commands::Command& command : Commands::AllCommands()) {
+            shown.enabled += view.IsEnabled(command.control) ? std::string(command.name) + ' ' : "";
+        }
+        shown.focus = NameOf(view.focus);
+        return shown;
+    }
+
+private:
+    static std::string NameOf(Commands::Focus focus) {
+        switch (focus) {
+        case Commands::Focus::Districts:
+            return "lvAlpha";
+        case Commands::Focus::Proposals:
+            return "LvChanges";
+        case Commands::Focus::EditBox:
+        case Commands::Focus::WholeText:
+            return "tbEdit";
+        case Commands::Focus::OpenButton:
+            return "cbOpen";
+        case Commands::Focus::Stays:
+            break;
+        }
+        return "";
+    }
+
+    QuietScreen m_screen;
+    Commands::Session m_session{desktop, m_screen};
+};

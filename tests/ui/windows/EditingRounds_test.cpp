@@ -1,0 +1,162 @@
+// The random rounds of editing, played once through the commands and once, by mouse and keys, through the
+// window, which must show after every step what the commands end with.
+
+#include "commands/EditingRound.h"
+#include "driver/WindowDriver.h"
+#include "ui/Text.h"
+#include "ui/lists/DistrictModel.h"
+#include "ui/lists/StateColours.h"
+#include "ui/windows/Form1.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QTest>
+
+using namespace CommonRoutines;
+using namespace Ui;
+
+namespace {
+
+std::string Back(QString shown) {
+    shown.replace(QChar(0x21E5), QLatin1Char('\t')); // a list shows it so
+    return Text::FromQt(shown.replace(QLatin1Char('\n'), QStringLiteral("\r\n")));
+}
+
+// The number of the state that has a colour.
+std::string StateOf(const QColor& colour, QColor (*colourOf)(VariationState)) {
+    for (int state = 0; state < static_cast<int>(VariationStateCount); ++state) {
+        if (colourOf(static_cast<VariationState>(state)) == colour) {
+            return std::to_string(state);
+        }
+    }
+    return colour.name().toStdString();
+}
+
+QColor InList(VariationState state) {
+    return StateColours::InList(state, QGuiApplication::palette());
+}
+
+class WindowPlayer : public EditingPlayer, private WindowDriver {
+public:
+    WindowPlayer() : m_form(desktop) {
+        m_form.LoadForm();
+        m_form.show();
+        Activate(m_form);
+    }
+    ~WindowPlayer() override { bChanged = false; }
+
+    void ChooseDistrict(std::int32_t line) override {
+        ClickRow("lvAlpha", dynamic_cast<DistrictModel*>(List("lvAlpha").model())->RowOf(line));
+    }
+    void Select(const std::vector<int>& rows) override {
+        if (rows.empty()) {
+            ClickBelowRows("lvVariations");
+        }
+        for (const int row : rows) {
+            ClickRow("lvVariations", row, row == rows.front() ? Qt::NoModifier : Qt::ControlModifier);
+        }
+    }
+    void Enter(const std::string& text) override {
+        auto& box = Find<QLineEdit>("tbEdit");
+        box.selectAll();
+        if (text.empty()) {
+            QTest::keyClick(&box, Qt::Key_Delete);
+        } else {
+            box.insert(Text::ToQt(text));
+        }
+    }
+    void Press(Commands::Control button) override { Click(std::string(Commands::CommandOf(button).name).c_str()); }
+    [[nodiscard]] bool IsEnabled(Commands::Control control) const override {
+        return Self().Enabled(std::string(Commands::CommandOf(control).name).c_str());
+    }
+
+    [[nodiscard]] ShownWindow Shown() const override {
+        WindowPlayer& self = Self();
+        ShownWindow shown;
+        for (const QString& district : self.Column("lvAlpha")) {
+            shown.districts.push_back(Back(district));
+        }
+        shown.chosenDistricts = self.List("lvAlpha").SelectedRows();
+        const QAbstractItemModel& variations = *self.List("lvVariations").model();
+        for (int row = 0; row < variations.rowCount(); ++row) {
+            const QModelIndex index = variations.index(row, 0);
+            shown.variations.push_back(Back(index.data().toString()) + " " +
+                                       StateOf(index.data(Qt::ForegroundRole).value<QColor>(), InList));
+        }
+        shown.chosenVariations = self.List("lvVariations").SelectedRows();
+        shown.labels = self.Labels();
+        shown.box = Text::FromQt(self.Find<QLineEdit>("tbEdit").text());
+        shown.options = self.Options();
+        for (const Commands::Command& command : Commands::AllCommands()) {
+            shown.enabled += IsEnabled(command.control) ? std::string(command.name) + ' ' : "";
+        }
+        const QWidget* focus = m_form.focusWidget();
+        shown.focus = focus == nullptr ? "nowhere" : focus->objectName().toStdString();
+        return shown;
+    }
+
+protected:
+    QWidget& Window() override { return m_form; }
+
+private:
+    // The driver may change what it drives, and so does not know constants.
+    [[nodiscard]] WindowPlayer& Self() const { return const_cast<WindowPlayer&>(*this); }
+
+    std::vector<std::string> Labels() {
+        return {Back(TextOf("lbStatus")),
+                Back(TextOf("lbUndo")),
+                Back(TextOf("lbWhyError")),
+                PaperOf("lbWhyError") == StateColours::BlueGreen ? "warns" : "",
+                StateOf(InkOf("lbWhyError"), StateColours::OnLight),
+                Back(TextOf("lbApplyTo")),
+                CaptionOf("cbShriek").toStdString(),
+                CaptionOf("cbDate").toStdString()};
+    }
+    std::string Options() {
+        std::string ticked;
+        for (const auto& [name, word] : {std::pair{"cbSpelling", "spelling "}, std::pair{"cbVariation", "variation "},
+                                         std::pair{"cbValidinyears", "years "}, std::pair{"cbVNF", "volume "}}) {
+            ticked += Find<QCheckBox>(name).isChecked() ? word : "";
+        }
+        return ticked;
+    }
+
+    Form1 m_form;
+};
+
+// What a round shows after each of its steps.
+template <typename Player>
+std::vector<ShownWindow> Play(std::uint32_t seed) {
+    constexpr std::uint32_t longestRound = 40;
+    ResetEverything();
+    Player player;
+    EditingRound round(player, seed, seed % 2 == 0);
+    std::vector<ShownWindow> shown{player.Shown()};
+    for (std::uint32_t i = 0; i < 1 + seed * 7919 % longestRound && !testing::Test::HasFailure(); ++i) {
+        round.DoSomething();
+        EXPECT_EQ(round.Shown(), round.Expected()) << "seed " << seed << ", command " << i;
+        shown.push_back(player.Shown());
+    }
+    return shown;
+}
+
+class EditingRounds : public testing::TestWithParam<std::uint32_t> {};
+
+} // namespace
+
+TEST_P(EditingRounds, TheWindowShowsAfterEveryStepWhatTheCommandsEndWith) {
+    constexpr std::uint32_t rounds = 60;
+    for (std::uint32_t seed = GetParam(); seed < GetParam() + rounds; ++seed) {
+        const std::vector<ShownWindow> expected = Play<CommandPlayer>(seed);
+        std::vector<ShownWindow> shown = Play<WindowPlayer>(seed);
+        ASSERT_EQ(shown.size(), expected.size());
+        for (std::size_t i = 0; i < shown.size(); ++i) {
+            if (expected[i].focus.empty()) {
+                shown[i].focus.clear();
+            }
+            ASSERT_EQ(shown[i], expected[i]) << "seed " << seed << ", after step " << i;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, EditingRounds, testing::Values(1'000U, 2'000U, 3'000U, 4'000U, 5'000U));
