@@ -59,6 +59,8 @@ struct ProblemView {
     std::string text;
     CommonRoutines::VariationState ink = CommonRoutines::VariationState::Plain;
     bool warns = false; // a text was kept in spite of a warning
+
+    bool operator==(const ProblemView&) const = default;
 };
 
 // What empty lists say.
@@ -67,6 +69,8 @@ struct HintsView {
     std::string_view variations;
     std::string_view proposals;
     std::string_view comments;
+
+    bool operator==(const HintsView&) const = default;
 };
 
 // Where a command leads the focus.

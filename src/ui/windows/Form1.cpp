@@ -142,7 +142,7 @@ void Form1::ConnectLists() {
     connect(m_controls.LvChanges, &RowList::Resized, this, &Form1::SizeWideColumns);
     connect(m_controls.lvComments, &RowList::Resized, this, [this] {
         SizeCommentColumn();
-        Commands::WithinMemory(m_session.desktop, [this] { WrapComments(); });
+        Commands::WithinMemory(m_session.desktop, [this] { WrapComments(m_shown.comments.district); });
     });
 }
 

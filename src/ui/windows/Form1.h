@@ -48,8 +48,7 @@ private:
     // What a command has ended with.
     void Show(const Commands::WindowView& view) override;
     void ShowLists(const Commands::WindowView& view);
-    void ShowComments(const Commands::CommentsView& comments);
-    void WrapComments();
+    void WrapComments(std::int32_t district);
     void ShowEnabled(const Commands::WindowView& view);
     void ShowTexts(const Commands::WindowView& view);
     void ShowEditPanel(const Commands::EditView& edit);
@@ -71,9 +70,7 @@ private:
     CommentModel* m_comments = nullptr;
     CommentTypeModel* m_commentTypes = nullptr;
     std::unique_ptr<DistrictColumns> m_columns; // while the districts are being measured
-    std::int32_t m_editFilled = 0;              // how often the edit box has been filled, and the comments
-    std::int32_t m_commentsFilled = 0;
-    std::int32_t m_commentsOf = 0; // the district whose comments are shown
+    Commands::WindowView m_shown; // last
     bool m_fittedToScreen = false;
     bool m_tickedByClick = false; // the click being handled was on a check box
     Commands::Session m_session;

@@ -33,43 +33,49 @@ void ShowCaption(QPushButton* button, std::string_view caption) {
     }
 }
 
+// Where rows and selection are those that were shown, the list is left to the user.
+template <typename Row>
+void ShowSelection(RowList* in, const Commands::ListView<Row>& list, const Commands::ListView<Row>& shown) {
+    if (list.rows != shown.rows || list.selected != shown.selected) {
+        in->ShowSelection(list.selected);
+    }
+}
+
 } // namespace
 
+// A key that is typed must not cost what is not changed by it.
 void Form1::Show(const Commands::WindowView& view) {
     ShowLists(view);
     ShowTexts(view);
     ShowEditPanel(view.edit);
-    ShowHints(view.hints);
+    if (view.hints != m_shown.hints) {
+        ShowHints(view.hints);
+    }
     ShowEnabled(view);
     ShowFocus(view.focus);
+    m_shown = view;
 }
 
 void Form1::ShowLists(const Commands::WindowView& view) {
     m_districts->Show(view.districts, view.variationsOf);
-    m_controls.lvAlpha->ShowSelection(view.districts.selected);
+    ShowSelection(m_controls.lvAlpha, view.districts, m_shown.districts);
     m_variations->Show(view.variations, view.variationsOf);
-    m_controls.lvVariations->ShowSelection(view.variations.selected);
+    ShowSelection(m_controls.lvVariations, view.variations, m_shown.variations);
     m_changes->Show(view.proposals);
-    m_controls.LvChanges->ShowSelection(view.proposals.selected);
-    ShowComments(view.comments);
+    ShowSelection(m_controls.LvChanges, view.proposals, m_shown.proposals);
+    if (view.comments.filled != m_shown.comments.filled) {
+        WrapComments(view.comments.district);
+    }
     m_commentTypes->Show(view.commentTypes);
     m_controls.lbComments->ShowSelection(view.commentTypes.selected);
 }
 
-void Form1::ShowComments(const Commands::CommentsView& comments) {
-    if (comments.filled != m_commentsFilled) {
-        m_commentsFilled = comments.filled;
-        m_commentsOf = comments.district;
-        WrapComments();
-    }
-}
-
-void Form1::WrapComments() {
+void Form1::WrapComments(std::int32_t district) {
     const QFontMetricsF metrics(font());
     const auto measure = [&](std::string_view text) { return metrics.horizontalAdvance(Text::ForList(text)); };
     const int room =
         m_controls.lvComments->columnWidth(1) - WindowFit::TwipsToPixels(WindowFit::CommentColumnTwips, logicalDpiX());
-    m_comments->SetRows(CommentRows(m_commentsOf, room, measure));
+    m_comments->SetRows(CommentRows(district, room, measure));
 }
 
 void Form1::ShowEnabled(const Commands::WindowView& view) {
@@ -79,13 +85,19 @@ void Form1::ShowEnabled(const Commands::WindowView& view) {
 }
 
 void Form1::ShowTexts(const Commands::WindowView& view) {
-    m_controls.lbStatus->ShowText(Text::ForBox(view.status));
-    m_controls.lbUndo->ShowText(Text::ForList(view.nextUndo));
+    if (view.status != m_shown.status) {
+        m_controls.lbStatus->ShowText(Text::ForBox(view.status));
+    }
+    if (view.nextUndo != m_shown.nextUndo) {
+        m_controls.lbUndo->ShowText(Text::ForList(view.nextUndo));
+    }
     m_controls.lbSelectCount->ShowText(Text::ToQt(view.selectCount));
     m_controls.lbApplyTo->ShowText(view.applyTo > 0 ? Text::ForList(RecordOf(view.applyTo).Name) : QString());
-    m_controls.lbWhyError->SetTextColour(StateColours::OnLight(view.whyError.ink));
-    m_controls.lbWhyError->SetBackground(view.whyError.warns ? StateColours::BlueGreen : StateColours::LightGrey);
-    m_controls.lbWhyError->ShowText(Text::ForBox(view.whyError.text));
+    if (view.whyError != m_shown.whyError) {
+        m_controls.lbWhyError->SetTextColour(StateColours::OnLight(view.whyError.ink));
+        m_controls.lbWhyError->SetBackground(view.whyError.warns ? StateColours::BlueGreen : StateColours::LightGrey);
+        m_controls.lbWhyError->ShowText(Text::ForBox(view.whyError.text));
+    }
     ShowCaption(m_controls.Button(Control::cbShriek), view.shriekCaption);
     ShowCaption(m_controls.Button(Control::cbDate), view.dateCaption);
 }
@@ -93,8 +105,7 @@ void Form1::ShowTexts(const Commands::WindowView& view) {
 void Form1::ShowEditPanel(const Commands::EditView& edit) {
     const QScopedValueRollback ignoring(bIgnoreEvents, true);
     // A text that was typed is there already; setting it would forget the typing.
-    if (edit.filled != m_editFilled) {
-        m_editFilled = edit.filled;
+    if (edit.filled != m_shown.edit.filled) {
         m_controls.tbEdit->ShowText(edit.text);
     }
     m_controls.cbSpelling->setChecked(edit.options.spelling);
