@@ -51,6 +51,7 @@ private:
     void WrapComments(std::int32_t district);
     void ShowEnabled(const Commands::WindowView& view);
     void ShowTexts(const Commands::WindowView& view);
+    void ShowCaptions(const Commands::WindowView& view);
     void ShowEditPanel(const Commands::EditView& edit);
     void ShowHints(const Commands::HintsView& hints);
     void ShowFocus(Commands::Focus focus);

@@ -25,14 +25,6 @@ using Commands::Control;
 
 namespace {
 
-void ShowCaption(QPushButton* button, std::string_view caption) {
-    const QString text = Text::ToQt(caption);
-    if (text != button->text()) {
-        button->setText(text);
-        button->setAccessibleName(text);
-    }
-}
-
 // Where rows and selection are those that were shown, the list is left to the user.
 template <typename Row>
 void ShowSelection(RowList* in, const Commands::ListView<Row>& list, const Commands::ListView<Row>& shown) {
@@ -47,6 +39,7 @@ void ShowSelection(RowList* in, const Commands::ListView<Row>& list, const Comma
 void Form1::Show(const Commands::WindowView& view) {
     ShowLists(view);
     ShowTexts(view);
+    ShowCaptions(view);
     ShowEditPanel(view.edit);
     if (view.hints != m_shown.hints) {
         ShowHints(view.hints);
@@ -91,15 +84,26 @@ void Form1::ShowTexts(const Commands::WindowView& view) {
     if (view.nextUndo != m_shown.nextUndo) {
         m_controls.lbUndo->ShowText(Text::ForList(view.nextUndo));
     }
+    if (view.applyTo != m_shown.applyTo) {
+        m_controls.lbApplyTo->ShowText(view.applyTo > 0 ? Text::ForList(RecordOf(view.applyTo).Name) : QString());
+    }
     m_controls.lbSelectCount->ShowText(Text::ToQt(view.selectCount));
-    m_controls.lbApplyTo->ShowText(view.applyTo > 0 ? Text::ForList(RecordOf(view.applyTo).Name) : QString());
     if (view.whyError != m_shown.whyError) {
         m_controls.lbWhyError->SetTextColour(StateColours::OnLight(view.whyError.ink));
         m_controls.lbWhyError->SetBackground(view.whyError.warns ? StateColours::BlueGreen : StateColours::LightGrey);
         m_controls.lbWhyError->ShowText(Text::ForBox(view.whyError.text));
     }
-    ShowCaption(m_controls.Button(Control::cbShriek), view.shriekCaption);
-    ShowCaption(m_controls.Button(Control::cbDate), view.dateCaption);
+}
+
+void Form1::ShowCaptions(const Commands::WindowView& view) {
+    const auto show = [](QPushButton* button, const QString& caption) {
+        button->setText(caption);
+        button->setAccessibleName(caption);
+    };
+    if (view.shriekCaption != m_shown.shriekCaption || view.dateCaption != m_shown.dateCaption) {
+        show(m_controls.Button(Control::cbShriek), Text::ToQt(view.shriekCaption));
+        show(m_controls.Button(Control::cbDate), Text::ToQt(view.dateCaption));
+    }
 }
 
 void Form1::ShowEditPanel(const Commands::EditView& edit) {

@@ -3,6 +3,7 @@
 #include "ui/windows/FormTest.h"
 
 #include <QLabel>
+#include <QLineEdit>
 
 using namespace CommonRoutines;
 using namespace Ui;
@@ -114,7 +115,10 @@ TEST_F(FormTest, ACancelledDialogueLeavesTheWindowResetAndTheTableInMemory) {
     ClickRow("lvAlpha", QStringLiteral("Alpha"));
     ASSERT_NE(TextOf("lbWhyError"), QString());
     ASSERT_EQ(Column("lvComments").size(), 1);
-    Find<QLabel>("lbUndo").setText(QStringLiteral("the last change"));
+    Find<QLineEdit>("tbEdit").insert(QStringLiteral("Other"));
+    Click("cbOk");
+    ASSERT_NE(TextOf("lbUndo"), QString());
+    ExpectLooseChanges(BoxAnswer::Yes);
     desktop.ExpectOpen(std::nullopt);
     Click("cbOpen");
     for (const char* list : {"lvAlpha", "lvVariations", "lvComments"}) {

@@ -2,7 +2,7 @@
 
 #include "ui/windows/ChangesTest.h"
 
-#include <QLabel>
+#include <QLineEdit>
 
 using namespace CommonRoutines;
 using namespace Ui;
@@ -77,7 +77,8 @@ TEST_F(WindowModesTest, SelectedProposalsCanBeAppliedAlone) {
 
 TEST_F(WindowModesTest, TheStatusOfTheEditRowIsClearedWhenTheModeChanges) {
     OpenDistrict();
-    Find<QLabel>("lbStatus").setText(QStringLiteral("Duplicates Alfa"));
+    Find<QLineEdit>("tbEdit").insert(QStringLiteral("alfa"));
+    ASSERT_EQ(TextOf("lbStatus"), QStringLiteral("Duplicates Alfa"));
     ClickRow("lvVariations", QStringLiteral("Alfa"));
     EXPECT_EQ(TextOf("lbStatus"), QString());
     EXPECT_EQ(TextOf("lbApplyTo"), QStringLiteral("Alpha"));
