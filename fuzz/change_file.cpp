@@ -19,10 +19,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     ReadDistrictFile(desktop);
     lCurrentDistrict = 1;
     iEditMode = DistrictIdle;
-    const ChangeList list = ReadChanges({reinterpret_cast<const char*>(data), size});
+    const ProposalList list = ReadProposals({reinterpret_cast<const char*>(data), size});
     static_cast<void>(list.Summary());
-    if (const auto applied = ApplyChanges(list.rows, false, size % 2 == 0, desktop)) {
-        ReportAppliedChanges(*applied, desktop);
+    if (const auto applied = ApplyChanges(list.proposals, false, size % 2 == 0, desktop)) {
+        ReportAppliedProposals(*applied, desktop);
     }
     return 0;
 }

@@ -18,9 +18,9 @@ constexpr std::int32_t MostWithoutQuestion = 20;
 constexpr std::int32_t SpareSlots = 50;
 constexpr bool KeepPairs = true;
 
-bool UserAgrees(std::span<const ChangeRow> rows, bool selectedOnly, Desktop& desktop) {
-    const auto candidates = std::count_if(rows.begin(), rows.end(), [&](const ChangeRow& row) {
-        return row.iTag == ChangeRow::Valid && (!selectedOnly || row.bChecked);
+bool UserAgrees(std::span<const Proposal> proposals, bool selectedOnly, Desktop& desktop) {
+    const auto candidates = std::count_if(proposals.begin(), proposals.end(), [&](const Proposal& proposal) {
+        return proposal.iTag == Proposal::Valid && (!selectedOnly || proposal.bChecked);
     });
     if (candidates <= MostWithoutQuestion) {
         return true;
@@ -47,30 +47,30 @@ bool AddProposal(std::int32_t lDistrict, std::string_view proposal, bool asSpell
 
 } // namespace
 
-std::optional<AppliedChanges> ApplyChanges(std::span<const ChangeRow> rows, bool bSelectedOnly, bool bAsSpelling,
-                                           Desktop& desktop) {
-    if (!UserAgrees(rows, bSelectedOnly, desktop)) {
+std::optional<AppliedProposals> ApplyChanges(std::span<const Proposal> proposals, bool bSelectedOnly, bool bAsSpelling,
+                                             Desktop& desktop) {
+    if (!UserAgrees(proposals, bSelectedOnly, desktop)) {
         return std::nullopt;
     }
     StartUndoStep(lCurrentDistrict);
     EmptyDupePairs();
-    AppliedChanges applied;
-    for (const ChangeRow& row : rows) {
-        if (row.iTag != ChangeRow::Valid) {
+    AppliedProposals applied;
+    for (const Proposal& proposal : proposals) {
+        if (proposal.iTag != Proposal::Valid) {
             ++applied.invalid;
             continue;
         }
-        const std::string_view proposal = Ansi::Trim(row.sText);
-        if (proposal.empty() || (bSelectedOnly && !row.bChecked)) {
+        const std::string_view text = Ansi::Trim(proposal.sText);
+        if (text.empty() || (bSelectedOnly && !proposal.bChecked)) {
             continue;
         }
-        ++(AddProposal(lCurrentDistrict, proposal, bAsSpelling, desktop) ? applied.added : applied.ignored);
+        ++(AddProposal(lCurrentDistrict, text, bAsSpelling, desktop) ? applied.added : applied.ignored);
     }
     FindDuplicateVariations(lCurrentDistrict, KeepPairs);
     return applied;
 }
 
-void ReportAppliedChanges(const AppliedChanges& applied, Desktop& desktop) {
+void ReportAppliedProposals(const AppliedProposals& applied, Desktop& desktop) {
     std::string text = std::to_string(applied.added) + " New variations added.";
     if (lDupePairCount > 0) {
         text += "\r\n" + std::to_string(lDupePairCount) + " lines ignored which duplicate existing variations.";

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "changes/ChangeRow.h"
+#include "changes/Proposal.h"
 
 #include <cstdint>
 #include <optional>
@@ -11,9 +11,9 @@ namespace CommonRoutines {
 class Desktop;
 
 // What became of the proposals.
-struct AppliedChanges {
+struct AppliedProposals {
     std::int32_t added = 0;
-    std::int32_t invalid = 0; // rows that are no valid proposal, ticked or not
+    std::int32_t invalid = 0; // no valid proposals, ticked or not
     std::int32_t ignored = 0; // proposals that the district had already
 };
 
@@ -23,10 +23,10 @@ struct AppliedChanges {
 //
 // Leaves in DupePairs the ignored proposals with the texts that they repeat and, behind them, the
 // duplicates of the district. Sets bChanged when something was added.
-std::optional<AppliedChanges> ApplyChanges(std::span<const ChangeRow> rows, bool bSelectedOnly, bool bAsSpelling,
-                                           Desktop& desktop);
+std::optional<AppliedProposals> ApplyChanges(std::span<const Proposal> proposals, bool bSelectedOnly, bool bAsSpelling,
+                                             Desktop& desktop);
 
 // Says what was done and, where there are duplicates, lists them.
-void ReportAppliedChanges(const AppliedChanges& applied, Desktop& desktop);
+void ReportAppliedProposals(const AppliedProposals& applied, Desktop& desktop);
 
 } // namespace CommonRoutines

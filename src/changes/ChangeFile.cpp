@@ -29,13 +29,13 @@ bool Contains(std::string_view text, std::string_view part) {
     return text.find(part) != None;
 }
 
-ChangeRow CheckedRow(std::string text) {
-    ChangeRow row;
+Proposal CheckedProposal(std::string text) {
+    Proposal proposal;
     const Verdict verdict = CheckVariation(Ansi::Trim(text));
-    row.iTag = verdict.IsValid() ? ChangeRow::Valid : ChangeRow::Invalid;
-    row.bWarning = verdict.Warns();
-    row.sText = std::move(text);
-    return row;
+    proposal.iTag = verdict.IsValid() ? Proposal::Valid : Proposal::Invalid;
+    proposal.bWarning = verdict.Warns();
+    proposal.sText = std::move(text);
+    return proposal;
 }
 
 } // namespace
@@ -59,7 +59,7 @@ std::string ChangeLineParser::ParseChangeLine(std::string_view line) {
     return bInHead || aboveHead ? std::string() : std::string(line);
 }
 
-std::string ChangeList::Summary() const {
+std::string ProposalList::Summary() const {
     std::string summary;
     if (invalidCount > 0) {
         summary += std::to_string(invalidCount) + " invalid variations (red). ";
@@ -70,8 +70,8 @@ std::string ChangeList::Summary() const {
     return summary;
 }
 
-ChangeList ReadChanges(std::string_view content) {
-    ChangeList list;
+ProposalList ReadProposals(std::string_view content) {
+    ProposalList list;
     ChangeLineParser parser;
     Lines lines(content);
     while (const auto line = lines.Next()) {
@@ -80,12 +80,12 @@ ChangeList ReadChanges(std::string_view content) {
             continue;
         }
         if (parser.IsHeading()) {
-            list.rows.push_back({Ansi::Upper(text), ChangeRow::Heading, false, false});
+            list.proposals.push_back({Ansi::Upper(text), Proposal::Heading, false, false});
             continue;
         }
-        list.rows.push_back(CheckedRow(std::move(text)));
-        list.invalidCount += list.rows.back().iTag == ChangeRow::Invalid ? 1 : 0;
-        list.warningCount += list.rows.back().bWarning ? 1 : 0;
+        list.proposals.push_back(CheckedProposal(std::move(text)));
+        list.invalidCount += list.proposals.back().iTag == Proposal::Invalid ? 1 : 0;
+        list.warningCount += list.proposals.back().bWarning ? 1 : 0;
     }
     return list;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "changes/ChangeRow.h"
+#include "changes/Proposal.h"
 
 #include <cstdint>
 #include <string>
@@ -27,8 +27,8 @@ private:
 };
 
 // The proposals of a change file, and how many of them are bad.
-struct ChangeList {
-    std::vector<ChangeRow> rows;
+struct ProposalList {
+    std::vector<Proposal> proposals;
     std::int32_t invalidCount = 0;
     std::int32_t warningCount = 0;
 
@@ -37,6 +37,6 @@ struct ChangeList {
 };
 
 // Reads a change file and checks every proposal.
-[[nodiscard]] ChangeList ReadChanges(std::string_view content);
+[[nodiscard]] ProposalList ReadProposals(std::string_view content);
 
 } // namespace CommonRoutines

@@ -63,7 +63,7 @@ struct Command {
     std::string_view key = ""; // as the toolkit and the page of keys name it
     KeyScope scope = KeyScope::Window;
     // A character for each of the modes 1 to 10: "E" enabled, "-" disabled, "D" enabled while there are unsaved
-    // changes, "C" decided from the change list, a blank: left as it is.
+    // changes, "C" decided from the proposals, a blank: left as it is.
     std::string_view modes = "";
     void (*run)(Session&) = nullptr; // nothing where the control has events of its own
 };

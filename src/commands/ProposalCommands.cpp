@@ -2,7 +2,7 @@
 
 #include "changes/ApplyChanges.h"
 #include "changes/ChangeFile.h"
-#include "changes/ChangeSelection.h"
+#include "changes/ProposalSelection.h"
 #include "commands/EditCommands.h"
 #include "commands/FileCommands.h"
 #include "commands/Session.h"
@@ -22,7 +22,7 @@ namespace Commands {
 namespace {
 
 void SetTick(Session& session, int row, bool ticked) {
-    ListView<ChangeRow>& list = session.view.proposals;
+    ListView<Proposal>& list = session.view.proposals;
     (*list.rows)[static_cast<std::size_t>(row)].bChecked = ticked;
     ++list.touched;
 }
@@ -30,7 +30,7 @@ void SetTick(Session& session, int row, bool ticked) {
 void UpdateChangeSelection(Session& session) {
     WindowView& view = session.view;
     ClearWhyError(session);
-    ChangeSelection selection = DescribeChangeSelection(*view.proposals.rows);
+    ProposalSelection selection = DescribeProposalSelection(*view.proposals.rows);
     view.selectCount = std::move(selection.count);
     if (view.proposals.IsEmpty() || !IsDistrict(lCurrentDistrict)) {
         return;
@@ -44,15 +44,15 @@ void UpdateChangeSelection(Session& session) {
 }
 
 // The proposals of a file; nothing when it cannot be read.
-std::optional<ChangeList> ReadChangeFile(Desktop& desktop, const std::string& path) {
+std::optional<ProposalList> ReadChangeFile(Desktop& desktop, const std::string& path) {
     desktop.ShowBusy(true);
     const auto content = desktop.ReadFile(path);
-    auto changes = content ? std::optional(ReadChanges(*content)) : std::nullopt;
+    auto list = content ? std::optional(ReadProposals(*content)) : std::nullopt;
     desktop.ShowBusy(false);
-    if (!changes) {
+    if (!list) {
         desktop.MsgBox("The file cannot be read:\r\n" + Ansi::FromUtf8(path), BoxIcon::Exclamation, BoxButtons::Ok);
     }
-    return changes;
+    return list;
 }
 
 void Apply(Session& session, bool selectedOnly, bool asSpelling) {
@@ -66,7 +66,7 @@ void Apply(Session& session, bool selectedOnly, bool asSpelling) {
         return;
     }
     RefreshVariationList(session);
-    ReportAppliedChanges(*applied, session.desktop);
+    ReportAppliedProposals(*applied, session.desktop);
     EnterMode(session, ChangesApplied);
     view.applyTo = 0;
     view.nextUndo = CurrentUndoStep().WhatAmI();
@@ -83,12 +83,12 @@ void ProcessFile(Session& session) {
         return;
     }
     RememberFolder(session, *path, Settings::ChangeFolder);
-    auto changes = ReadChangeFile(session.desktop, *path);
-    if (!changes) {
+    auto list = ReadChangeFile(session.desktop, *path);
+    if (!list) {
         return;
     }
-    const std::string summary = changes->Summary();
-    ShowProposals(session, std::move(changes->rows));
+    const std::string summary = list->Summary();
+    ShowProposals(session, std::move(list->proposals));
     EnterMode(session, DistrictIdle);
     if (!summary.empty()) {
         ShowWhyError(session, summary, VariationState::Plain);
@@ -113,9 +113,10 @@ void ApplySelectedAsSpelling(Session& session) {
 }
 
 void EditTicked(Session& session) {
-    const auto& rows = *session.view.proposals.rows;
-    const auto ticked = std::find_if(rows.begin(), rows.end(), [](const ChangeRow& row) { return row.bChecked; });
-    if (ticked != rows.end()) {
+    const auto& proposals = *session.view.proposals.rows;
+    const auto ticked =
+        std::find_if(proposals.begin(), proposals.end(), [](const Proposal& proposal) { return proposal.bChecked; });
+    if (ticked != proposals.end()) {
         PutIntoEditBox(session, ticked->sText);
         FollowEditText(session);
         session.view.focus = Focus::EditBox;
@@ -124,8 +125,8 @@ void EditTicked(Session& session) {
 
 void UntickAll(Session& session) {
     WindowView& view = session.view;
-    for (ChangeRow& row : *view.proposals.rows) {
-        row.bChecked = false;
+    for (Proposal& proposal : *view.proposals.rows) {
+        proposal.bChecked = false;
     }
     ++view.proposals.touched;
     for (const Control control :
@@ -139,7 +140,7 @@ void UntickAll(Session& session) {
 }
 
 void TickProposal(Session& session, int row, bool ticked) {
-    if (ticked && session.view.proposals.At(row).iTag != ChangeRow::Valid) {
+    if (ticked && session.view.proposals.At(row).iTag != Proposal::Valid) {
         session.desktop.Beep();
         return;
     }
@@ -148,8 +149,8 @@ void TickProposal(Session& session, int row, bool ticked) {
 }
 
 void ClickProposal(Session& session, int row) {
-    const ChangeRow& proposal = session.view.proposals.At(row);
-    SetTick(session, row, proposal.iTag == ChangeRow::Valid);
+    const Proposal& proposal = session.view.proposals.At(row);
+    SetTick(session, row, proposal.iTag == Proposal::Valid);
     session.view.proposals.selected.clear();
     if (IsDistrict(lCurrentDistrict)) {
         SetMode(AddingUnacceptable);
@@ -163,8 +164,8 @@ void HighlightProposals(Session& session, const std::vector<int>& rows) {
     session.view.proposals.selected = rows;
 }
 
-void ShowProposals(Session& session, std::vector<ChangeRow> rows) {
-    session.view.proposals.Fill(std::move(rows));
+void ShowProposals(Session& session, std::vector<Proposal> proposals) {
+    session.view.proposals.Fill(std::move(proposals));
     session.view.selectCount.clear();
     session.view.Enable(Control::cbEditSel, false);
 }

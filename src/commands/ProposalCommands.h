@@ -1,6 +1,6 @@
 #pragma once
 
-#include "changes/ChangeRow.h"
+#include "changes/Proposal.h"
 
 #include <vector>
 
@@ -32,6 +32,6 @@ void ClickProposal(Session& session, int row);
 // The user has moved the highlight, which counts when the mode is next applied.
 void HighlightProposals(Session& session, const std::vector<int>& rows);
 
-void ShowProposals(Session& session, std::vector<CommonRoutines::ChangeRow> rows);
+void ShowProposals(Session& session, std::vector<CommonRoutines::Proposal> proposals);
 
 } // namespace Commands

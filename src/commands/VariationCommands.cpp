@@ -75,7 +75,7 @@ void SelectVariations(Session& session, const std::vector<int>& rows) {
     EnterMode(session, selection.editMode);
 }
 
-void LeaveVariations(Session& session) {
+void GiveUpSelection(Session& session) {
     if (iEditMode == OneSelected || iEditMode == SeveralSelected) {
         Cancel(session);
     }

@@ -15,7 +15,7 @@ struct Session;
 void SelectVariations(Session& session, const std::vector<int>& rows);
 
 // The choice of variations is given up, as by "Cancel", which is disabled while there are several.
-void LeaveVariations(Session& session);
+void GiveUpSelection(Session& session);
 
 // Asks, and deletes the selected variations.
 void Delete(Session& session);

@@ -18,16 +18,17 @@ bool IsMode(std::int16_t mode) {
     return mode >= FirstMode && mode <= LastMode;
 }
 
-// Without a selected row only the commands for all rows make sense.
-bool EnabledByChanges(Control control, ChangeListState changes) {
-    const bool forAllRows = control == Control::cbApplyAll || control == Control::cbApplyAllSpell;
-    return changes.hasRows && (changes.hasSelection || forAllRows);
+// Without a selected proposal only the commands for all make sense.
+bool EnabledByProposals(Control control, ProposalListState proposals) {
+    const bool forAll = control == Control::cbApplyAll || control == Control::cbApplyAllSpell;
+    return proposals.hasAny && (proposals.hasSelection || forAll);
 }
 
-ChangeListState StateOfProposals(const WindowView& view) {
-    const auto& rows = *view.proposals.rows;
-    const bool anyTicked = std::any_of(rows.begin(), rows.end(), [](const ChangeRow& row) { return row.bChecked; });
-    return {!rows.empty(), anyTicked || !view.proposals.selected.empty()};
+ProposalListState StateOfProposals(const WindowView& view) {
+    const auto& proposals = *view.proposals.rows;
+    const bool anyTicked =
+        std::any_of(proposals.begin(), proposals.end(), [](const Proposal& proposal) { return proposal.bChecked; });
+    return {!proposals.empty(), anyTicked || !view.proposals.selected.empty()};
 }
 
 // What to do next, where a list is empty.
@@ -46,7 +47,7 @@ HintsView HintsNow(const Session& session) {
 
 } // namespace
 
-std::optional<bool> EnabledInMode(Control control, std::int16_t mode, bool changed, ChangeListState changes) {
+std::optional<bool> EnabledInMode(Control control, std::int16_t mode, bool changed, ProposalListState proposals) {
     if (!IsMode(mode)) {
         return std::nullopt;
     }
@@ -56,7 +57,7 @@ std::optional<bool> EnabledInMode(Control control, std::int16_t mode, bool chang
     case 'D':
         return changed;
     case 'C':
-        return EnabledByChanges(control, changes);
+        return EnabledByProposals(control, proposals);
     case ' ':
         return std::nullopt;
     default:
@@ -78,9 +79,9 @@ void SetMode(std::int16_t mode) {
 
 void ApplyWindowMode(Session& session) {
     WindowView& view = session.view;
-    const ChangeListState changes = StateOfProposals(view);
+    const ProposalListState proposals = StateOfProposals(view);
     for (const Command& command : AllCommands()) {
-        if (const auto enabled = EnabledInMode(command.control, iEditMode, bChanged, changes)) {
+        if (const auto enabled = EnabledInMode(command.control, iEditMode, bChanged, proposals)) {
             view.Enable(command.control, *enabled);
         }
     }

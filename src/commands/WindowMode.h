@@ -7,16 +7,16 @@
 
 namespace Commands {
 
-// What the modes ask of the change list.
-struct ChangeListState {
-    bool hasRows = false;
-    bool hasSelection = false; // a row is highlighted or ticked
+// What the modes ask of the proposals.
+struct ProposalListState {
+    bool hasAny = false;
+    bool hasSelection = false; // one is highlighted or ticked
 };
 
 // Whether the control is enabled in a mode; nothing where the mode leaves it as it is, and for a mode
 // outside 1 to 10.
 [[nodiscard]] std::optional<bool> EnabledInMode(Control control, std::int16_t mode, bool changed,
-                                                ChangeListState changes);
+                                                ProposalListState proposals);
 
 // Which labels a mode clears.
 [[nodiscard]] bool ModeClearsStatus(std::int16_t mode);

@@ -3,7 +3,7 @@
 // What the main window shows, as a value: every command ends with one. The window shows it and decides
 // nothing, so that a test that reads the value sees what the user sees.
 
-#include "changes/ChangeRow.h"
+#include "changes/Proposal.h"
 #include "commands/CommandTable.h"
 #include "core/State.h"
 #include "edit/VariationList.h"
@@ -83,7 +83,7 @@ struct WindowView {
     ListView<std::int32_t> districts; // lines of the table
     ListView<CommonRoutines::VariationRow> variations;
     std::int32_t variationsOf = 0; // the district that has them
-    ListView<CommonRoutines::ChangeRow> proposals;
+    ListView<CommonRoutines::Proposal> proposals;
     CommentsView comments;
     CommentTypesView commentTypes;
     HintsView hints;

@@ -90,10 +90,10 @@ Committed CommitText(std::string_view text, Desktop& desktop) {
     const bool isEdit = iEditMode == EditingVariation && lEditIndex > 0;
     bChanged = true;
     if (isNew) {
-        RecordChange(lCurrentDistrict, UndoAdd, trimmed, "", desktop);
+        RecordUndoItem(lCurrentDistrict, UndoAdd, trimmed, "", desktop);
         AddSlot(lCurrentDistrict, trimmed);
     } else if (isEdit) {
-        RecordChange(lCurrentDistrict, UndoChange, trimmed, VariationOf(lCurrentDistrict, lEditIndex).Text, desktop);
+        RecordUndoItem(lCurrentDistrict, UndoChange, trimmed, VariationOf(lCurrentDistrict, lEditIndex).Text, desktop);
         StoreText(lCurrentDistrict, lEditIndex, trimmed);
     }
     FindDuplicateVariations(lCurrentDistrict, !KeepPairs);
@@ -111,7 +111,7 @@ std::string DeleteQuestion(std::span<const VariationRow> rows) {
 void DeleteVariations(std::span<const VariationRow> rows, Desktop& desktop) {
     bChanged = true;
     for (const VariationRow& row : rows) {
-        RecordChange(lCurrentDistrict, UndoDelete, VariationOf(lCurrentDistrict, row.lIndex).Text, "", desktop);
+        RecordUndoItem(lCurrentDistrict, UndoDelete, VariationOf(lCurrentDistrict, row.lIndex).Text, "", desktop);
         StoreText(lCurrentDistrict, row.lIndex, DeletedText);
     }
     lEditIndex = 0;

@@ -50,7 +50,7 @@ void ChangeMarkers(MarkerCommand command, std::span<const VariationRow> rows, De
         const std::string_view text = VariationOf(lCurrentDistrict, row.lIndex).Text;
         const std::string changed = WithMarker(command, text);
         // The journal has the text without blanks at its ends although the table keeps them.
-        RecordChange(lCurrentDistrict, UndoChange, Ansi::Trim(changed), text, desktop);
+        RecordUndoItem(lCurrentDistrict, UndoChange, Ansi::Trim(changed), text, desktop);
         StoreText(lCurrentDistrict, row.lIndex, changed);
         bChanged = true;
     }

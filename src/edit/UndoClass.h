@@ -10,20 +10,20 @@ class Desktop;
 
 enum UndoType : std::int16_t { UndoNothing = 0, UndoAdd = 1, UndoChange = 2, UndoDelete = 3 };
 
-// One recorded change of a variation.
+// What is taken back at once: a variation that was added, changed or deleted.
 struct UndoItem {
     std::string sNewName; // the text after the change, or the deleted text
     std::int16_t iUndoType = UndoNothing;
     std::string sOldName; // the text before a change; empty for the others
 };
 
-// A change taken off the journal, with the district that it was made to.
+// An item taken off the journal, with its district.
 struct UndoneItem {
     UndoItem item;
     std::int32_t lDistrict = -1;
 };
 
-// One step of the undo journal: consecutive changes to one district, the last of which is taken back
+// One step of the undo journal: consecutive items of one district, the last of which is taken back
 // first. An empty step belongs to no district.
 class UndoClass {
 public:
@@ -31,16 +31,16 @@ public:
 
     [[nodiscard]] std::int32_t Count() const { return m_count; }
 
-    // Describes the last change; empty for an empty step.
+    // Describes the last item; empty for an empty step.
     [[nodiscard]] std::string WhatAmI() const;
 
-    // The district of all changes of the step, 0 for an empty one.
+    // The district of all items of the step, 0 for an empty one.
     [[nodiscard]] std::int32_t DistrictNo() const { return m_district; }
 
-    // Takes the last change off the step. An empty step gives an item of type UndoNothing.
+    // Takes the last item off the step. An empty step gives one of type UndoNothing.
     UndoneItem LastItem();
 
-    // Records a change. One that belongs to another district than the step is not recorded: that is
+    // Records an item. One that belongs to another district than the step is not recorded: that is
     // an error of the program, which two critical boxes report.
     void NewItem(UndoItem item, std::int32_t lDistrict, Desktop& desktop);
 

@@ -24,6 +24,7 @@ bool FreeSlotsWith(std::int32_t lDistrict, std::string_view text) {
     return changed;
 }
 
+// Takes back a change.
 bool ChangeBack(std::int32_t lDistrict, const UndoItem& item, std::span<const VariationRow> rows) {
     const bool listed = std::any_of(rows.begin(), rows.end(), [&](const VariationRow& row) {
         return VariationOf(lDistrict, row.lIndex).Text == item.sNewName;
@@ -36,7 +37,8 @@ bool ChangeBack(std::int32_t lDistrict, const UndoItem& item, std::span<const Va
     return item.sOldName != item.sNewName;
 }
 
-bool Restore(std::int32_t lDistrict, std::string_view text) {
+// Takes back a deletion.
+bool BringBack(std::int32_t lDistrict, std::string_view text) {
     if (const std::int32_t freeSlot = FirstSlotWith(lDistrict, DeletedText); freeSlot > 0) {
         StoreText(lDistrict, freeSlot, text);
     } else {
@@ -52,7 +54,7 @@ bool ChangeTable(std::int32_t lDistrict, const UndoItem& item, std::span<const V
     case UndoChange:
         return ChangeBack(lDistrict, item, rows);
     case UndoDelete:
-        return Restore(lDistrict, item.sNewName);
+        return BringBack(lDistrict, item.sNewName);
     default:
         return false;
     }
@@ -78,8 +80,8 @@ void StartUndoStep(std::int32_t lDistrict) {
     CurrentUndoStep().Clear();
 }
 
-void RecordChange(std::int32_t lDistrict, std::int16_t iUndoType, std::string_view newName, std::string_view oldName,
-                  Desktop& desktop) {
+void RecordUndoItem(std::int32_t lDistrict, std::int16_t iUndoType, std::string_view newName, std::string_view oldName,
+                    Desktop& desktop) {
     StartUndoStep(lDistrict);
     CurrentUndoStep().NewItem({std::string(newName), iUndoType, std::string(oldName)}, lDistrict, desktop);
 }

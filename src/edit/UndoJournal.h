@@ -22,15 +22,15 @@ extern std::int16_t iUndoStep;
 // Clears all twenty steps; the current one stays the current one.
 void ClearUndoRing();
 
-// To be called before a change is recorded: changes to the district of the current step join it, for
+// To be called before an item is recorded: items of the district of the current step join it, for
 // another district the next step of the ring is cleared and becomes the current one.
 void StartUndoStep(std::int32_t lDistrict);
 
 // StartUndoStep, then NewItem.
-void RecordChange(std::int32_t lDistrict, std::int16_t iUndoType, std::string_view newName, std::string_view oldName,
-                  Desktop& desktop);
+void RecordUndoItem(std::int32_t lDistrict, std::int16_t iUndoType, std::string_view newName, std::string_view oldName,
+                    Desktop& desktop);
 
-// Takes a change back in lCurrentDistrict, of which `rows` are listed. Returns whether the table
+// Takes an item back in lCurrentDistrict, of which `rows` are listed. Returns whether the table
 // changed: a text that can no longer be found is dropped without a word. An undone add frees every
 // slot with its text; an undone change needs its text among the rows; an undone delete takes the
 // first free slot, or a new one. Sets bChanged when the table changed.

@@ -24,14 +24,14 @@ protected:
 
 TEST_F(AppliedReportTest, OnlyTheAddedVariationsAreSaid) {
     ExpectReport("0 New variations added.");
-    ReportAppliedChanges({}, desktop);
+    ReportAppliedProposals({}, desktop);
     ExpectReport("12 New variations added.");
-    ReportAppliedChanges({12, 0, 0}, desktop);
+    ReportAppliedProposals({12, 0, 0}, desktop);
 }
 
 TEST_F(AppliedReportTest, InvalidRowsAreSaidInALineOfTheirOwn) {
     ExpectReport("3 New variations added.\r\n2 invalid variations were ignored");
-    ReportAppliedChanges({3, 2, 0}, desktop);
+    ReportAppliedProposals({3, 2, 0}, desktop);
 }
 
 TEST_F(AppliedReportTest, IgnoredProposalsAreSaidAndListed) {
@@ -40,7 +40,7 @@ TEST_F(AppliedReportTest, IgnoredProposalsAreSaidAndListed) {
     AddDupePair("OAK", "!Oak");
     ExpectReport("1 New variations added.\r\n2 lines ignored which duplicate existing variations.",
                  {"Variation elm duplicates Elm", "Variation OAK duplicates !Oak"});
-    ReportAppliedChanges({1, 0, 2}, desktop);
+    ReportAppliedProposals({1, 0, 2}, desktop);
 }
 
 TEST_F(AppliedReportTest, DuplicatesAndInvalidRowsAreSaidInThisOrder) {
@@ -49,7 +49,7 @@ TEST_F(AppliedReportTest, DuplicatesAndInvalidRowsAreSaidInThisOrder) {
     ExpectReport("0 New variations added.\r\n1 lines ignored which duplicate existing variations."
                  "\r\n4 invalid variations were ignored",
                  {"Variation elm duplicates Elm"});
-    ReportAppliedChanges({0, 4, 1}, desktop);
+    ReportAppliedProposals({0, 4, 1}, desktop);
 }
 
 TEST_F(AppliedReportTest, TheHeadingStandsBeforeEveryPairThatWasThereBefore) {
@@ -60,7 +60,7 @@ TEST_F(AppliedReportTest, TheHeadingStandsBeforeEveryPairThatWasThereBefore) {
     ExpectReport("2 New variations added.\r\n3 lines ignored which duplicate existing variations.",
                  {"Variation elm duplicates Elm", OwnHeading, "Variation ASH duplicates Ash", OwnHeading,
                   "Variation Oak duplicates OAK"});
-    ReportAppliedChanges({2, 0, 1}, desktop);
+    ReportAppliedProposals({2, 0, 1}, desktop);
 }
 
 TEST_F(AppliedReportTest, WithoutIgnoredProposalsTheHeadingComesFirst) {
@@ -68,22 +68,22 @@ TEST_F(AppliedReportTest, WithoutIgnoredProposalsTheHeadingComesFirst) {
     AddDupePair("Oak", "OAK");
     ExpectReport("2 New variations added.\r\n1 lines ignored which duplicate existing variations.",
                  {OwnHeading, "Variation Oak duplicates OAK"});
-    ReportAppliedChanges({2, 0, 0}, desktop);
+    ReportAppliedProposals({2, 0, 0}, desktop);
 }
 
 TEST_F(AppliedReportTest, OneIgnoredProposalAndOneOwnPairAreTwoLines) {
     Choose("Alpha", {"Elm", "ELM", "Oak"});
-    const AppliedChanges applied = Apply({Valid("oak")});
+    const AppliedProposals applied = Apply({Valid("oak")});
     ExpectReport("0 New variations added.\r\n2 lines ignored which duplicate existing variations.",
                  {"Variation oak duplicates Oak", OwnHeading, "Variation ELM duplicates Elm"});
-    ReportAppliedChanges(applied, desktop);
+    ReportAppliedProposals(applied, desktop);
 }
 
 TEST_F(AppliedReportTest, AnIgnoredNameIsListedWithTheName) {
     Choose("Alpha", {});
-    const AppliedChanges applied = Apply({Valid("!alpha"), Invalid("!")});
+    const AppliedProposals applied = Apply({Valid("!alpha"), Invalid("!")});
     ExpectReport("0 New variations added.\r\n1 lines ignored which duplicate existing variations."
                  "\r\n1 invalid variations were ignored",
                  {"Variation !alpha duplicates Alpha"});
-    ReportAppliedChanges(applied, desktop);
+    ReportAppliedProposals(applied, desktop);
 }

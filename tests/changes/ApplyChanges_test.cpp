@@ -8,7 +8,7 @@ using ApplyChangesTest = ApplyTest;
 
 TEST_F(ApplyChangesTest, EveryValidRowBecomesAVariationInTheOrderOfTheList) {
     Choose("Alpha", {"Beech"});
-    const AppliedChanges applied = Apply({Valid("Oak"), Ticked("Elm"), Valid("%Ash%12")});
+    const AppliedProposals applied = Apply({Valid("Oak"), Ticked("Elm"), Valid("%Ash%12")});
     EXPECT_EQ(applied.added, 3);
     EXPECT_EQ(applied.invalid, 0);
     EXPECT_EQ(applied.ignored, 0);
@@ -17,10 +17,10 @@ TEST_F(ApplyChangesTest, EveryValidRowBecomesAVariationInTheOrderOfTheList) {
 }
 
 TEST_F(ApplyChangesTest, TheFourCommandsDifferInTheRowsThatTheyTakeAndInTheMarker) {
-    const Rows rows{Ticked("Elm"), Valid("Oak"), Ticked("!Ash"), Valid("!Yew"), Ticked("%Fir")};
+    const Proposals proposals{Ticked("Elm"), Valid("Oak"), Ticked("!Ash"), Valid("!Yew"), Ticked("%Fir")};
     const auto applied = [&](bool selectedOnly, bool asSpelling) {
         Choose("Alpha", {});
-        Apply(rows, selectedOnly, asSpelling);
+        Apply(proposals, selectedOnly, asSpelling);
         return Variations();
     };
     EXPECT_EQ(applied(false, false), (Texts{"Elm", "Oak", "!Ash", "!Yew", "%Fir"}));
@@ -30,20 +30,21 @@ TEST_F(ApplyChangesTest, TheFourCommandsDifferInTheRowsThatTheyTakeAndInTheMarke
 }
 
 TEST_F(ApplyChangesTest, RowsThatAreNoValidProposalAreCountedWhetherTickedOrNot) {
-    ChangeRow tickedInvalid = Invalid("a|b");
+    Proposal tickedInvalid = Invalid("a|b");
     tickedInvalid.bChecked = true;
-    const Rows rows{Invalid("!"), tickedInvalid, Heading("NAME"), Valid("Oak"), Ticked("Elm")};
+    const Proposals proposals{Invalid("!"), tickedInvalid, Heading("NAME"), Valid("Oak"), Ticked("Elm")};
     Choose("Alpha", {});
-    EXPECT_EQ(Apply(rows).invalid, 3);
+    EXPECT_EQ(Apply(proposals).invalid, 3);
     EXPECT_EQ(Variations(), (Texts{"Oak", "Elm"}));
     Choose("Beta", {});
-    EXPECT_EQ(Apply(rows, true, false).invalid, 3);
+    EXPECT_EQ(Apply(proposals, true, false).invalid, 3);
     EXPECT_EQ(Variations(), Texts{"Elm"});
 }
 
 TEST_F(ApplyChangesTest, ProposalsAreTrimmedAndEmptyOnesLeftOutWithoutCounting) {
     Choose("Alpha", {});
-    const AppliedChanges applied = Apply({Valid("  Elm "), Valid("   "), Valid(""), Valid(" Lime Tree")}, false, true);
+    const AppliedProposals applied =
+        Apply({Valid("  Elm "), Valid("   "), Valid(""), Valid(" Lime Tree")}, false, true);
     EXPECT_EQ(applied.added, 2);
     EXPECT_EQ(applied.invalid, 0);
     EXPECT_EQ(applied.ignored, 0);
@@ -59,7 +60,7 @@ TEST_F(ApplyChangesTest, AShriekBehindBlanksIsNotDoubled) {
 
 TEST_F(ApplyChangesTest, AProposalThatTheDistrictHasIsPairedWithTheVariationThatItRepeats) {
     Choose("Alpha", {"Oak", "!Elm", "Fir"});
-    const AppliedChanges applied = Apply({Valid(" ELM "), Valid("Ash")});
+    const AppliedProposals applied = Apply({Valid(" ELM "), Valid("Ash")});
     EXPECT_EQ(applied.added, 1);
     EXPECT_EQ(applied.ignored, 1);
     EXPECT_EQ(Pairs(), Texts{"ELM = !Elm"});
@@ -69,7 +70,7 @@ TEST_F(ApplyChangesTest, AProposalThatTheDistrictHasIsPairedWithTheVariationThat
 TEST_F(ApplyChangesTest, AProposalThatIsTheDistrictsNameIsPairedWithTheName) {
     Choose("Alpha", {"Oak"});
     // A slot found for a proposal before must not stand for the name.
-    const AppliedChanges applied = Apply({Valid("oak"), Valid("!ALPHA")});
+    const AppliedProposals applied = Apply({Valid("oak"), Valid("!ALPHA")});
     EXPECT_EQ(applied.ignored, 2);
     EXPECT_EQ(Pairs(), (Texts{"oak = Oak", "!ALPHA = Alpha"}));
     EXPECT_EQ(Variations(), Texts{"Oak"});
@@ -77,7 +78,7 @@ TEST_F(ApplyChangesTest, AProposalThatIsTheDistrictsNameIsPairedWithTheName) {
 
 TEST_F(ApplyChangesTest, AProposalThatRepeatsAnEarlierOneIsIgnored) {
     Choose("Alpha", {});
-    const AppliedChanges applied = Apply({Valid("Elm"), Valid("elm"), Valid("!Elm")}, false, true);
+    const AppliedProposals applied = Apply({Valid("Elm"), Valid("elm"), Valid("!Elm")}, false, true);
     EXPECT_EQ(applied.added, 1);
     EXPECT_EQ(applied.ignored, 2);
     EXPECT_EQ(Variations(), Texts{"!Elm"});
@@ -134,27 +135,27 @@ TEST_F(ApplyChangesTest, NoLeavesEverythingAsItWas) {
 }
 
 TEST_F(ApplyChangesTest, TheQuestionCountsTheTickedRowsWhenOnlyThoseAreTaken) {
-    Rows rows = Numbered(30);
+    Proposals proposals = Numbered(30);
     for (std::size_t i = 0; i < 20; ++i) {
-        rows[i].bChecked = true;
+        proposals[i].bChecked = true;
     }
     Choose("Alpha", {});
-    EXPECT_EQ(Apply(rows, true, false).added, 20);
-    rows[20].bChecked = true;
+    EXPECT_EQ(Apply(proposals, true, false).added, 20);
+    proposals[20].bChecked = true;
     Choose("Beta", {});
     ExpectQuestion(21, BoxAnswer::Yes);
-    EXPECT_EQ(Apply(rows, true, true).added, 21);
+    EXPECT_EQ(Apply(proposals, true, true).added, 21);
 }
 
 TEST_F(ApplyChangesTest, TheQuestionCountsEmptyAndRepeatedProposalsButNoInvalidRows) {
-    Rows rows = Numbered(18);
-    rows.insert(rows.end(), {Valid(" "), Valid("Oak"), Invalid("!"), Heading("NAME")});
+    Proposals proposals = Numbered(18);
+    proposals.insert(proposals.end(), {Valid(" "), Valid("Oak"), Invalid("!"), Heading("NAME")});
     Choose("Alpha", {"Oak"});
-    EXPECT_EQ(Apply(rows).added, 18);
-    rows.push_back(Valid("oak"));
+    EXPECT_EQ(Apply(proposals).added, 18);
+    proposals.push_back(Valid("oak"));
     Choose("Beta", {"Oak"});
     ExpectQuestion(21, BoxAnswer::Yes);
-    EXPECT_EQ(Apply(rows).added, 18);
+    EXPECT_EQ(Apply(proposals).added, 18);
 }
 
 // The journal.
@@ -243,7 +244,7 @@ TEST_F(ApplyChangesTest, ADistrictWithoutVariationsUsesItsFirstSlot) {
 
 TEST_F(ApplyChangesTest, ThePairsBehindTheIgnoredProposalsAreTheDistrictsOwn) {
     Choose("Alpha", {"Elm", "ELM", "Oak"});
-    const AppliedChanges applied = Apply({Valid("oak"), Valid("Ash")});
+    const AppliedProposals applied = Apply({Valid("oak"), Valid("Ash")});
     EXPECT_EQ(applied.ignored, 1);
     EXPECT_EQ(Pairs(), (Texts{"oak = Oak", "ELM = Elm"}));
     EXPECT_EQ(DistrictAt(lCurrentDistrict).iDuplicateCount, 1);
@@ -261,12 +262,12 @@ TEST_F(ApplyChangesTest, EveryRunCollectsItsPairsAfresh) {
 
 TEST_F(ApplyChangesTest, TheListOfPairsGrowsByFive) {
     Choose("Alpha", {"Oak"});
-    Apply(Rows(5, Valid("oak")));
+    Apply(Proposals(5, Valid("oak")));
     EXPECT_EQ(DupePairs.size(), 6U);
-    Apply(Rows(6, Valid("oak")));
+    Apply(Proposals(6, Valid("oak")));
     EXPECT_EQ(DupePairs.size(), 12U);
     EXPECT_EQ(Pairs(), Texts(6, "oak = Oak"));
-    Apply(Rows(12, Valid("oak")));
+    Apply(Proposals(12, Valid("oak")));
     EXPECT_EQ(DupePairs.size(), 18U);
     EXPECT_EQ(Pairs(), Texts(12, "oak = Oak"));
     Apply({});

@@ -9,7 +9,7 @@
 // the other.
 class ApplyTest : public StateTest {
 protected:
-    using Rows = std::vector<CommonRoutines::ChangeRow>;
+    using Proposals = std::vector<CommonRoutines::Proposal>;
     using Texts = std::vector<std::string>;
 
     ApplyTest() {
@@ -23,33 +23,33 @@ protected:
         CommonRoutines::lCurrentDistrict = AddDistrict(name, variations);
     }
 
-    static CommonRoutines::ChangeRow Valid(std::string text) {
-        return {std::move(text), CommonRoutines::ChangeRow::Valid, false, false};
+    static CommonRoutines::Proposal Valid(std::string text) {
+        return {std::move(text), CommonRoutines::Proposal::Valid, false, false};
     }
-    static CommonRoutines::ChangeRow Ticked(std::string text) {
-        return {std::move(text), CommonRoutines::ChangeRow::Valid, false, true};
+    static CommonRoutines::Proposal Ticked(std::string text) {
+        return {std::move(text), CommonRoutines::Proposal::Valid, false, true};
     }
-    static CommonRoutines::ChangeRow Invalid(std::string text) {
-        return {std::move(text), CommonRoutines::ChangeRow::Invalid, false, false};
+    static CommonRoutines::Proposal Invalid(std::string text) {
+        return {std::move(text), CommonRoutines::Proposal::Invalid, false, false};
     }
-    static CommonRoutines::ChangeRow Heading(std::string text) {
-        return {std::move(text), CommonRoutines::ChangeRow::Heading, false, false};
+    static CommonRoutines::Proposal Heading(std::string text) {
+        return {std::move(text), CommonRoutines::Proposal::Heading, false, false};
     }
     // "Name 1", "Name 2" and so on, all of them valid.
-    static Rows Numbered(int count) {
-        Rows rows;
+    static Proposals Numbered(int count) {
+        Proposals proposals;
         for (int i = 1; i <= count; ++i) {
-            rows.push_back(Valid("Name " + std::to_string(i)));
+            proposals.push_back(Valid("Name " + std::to_string(i)));
         }
-        return rows;
+        return proposals;
     }
 
-    // Applies all rows as they are.
-    CommonRoutines::AppliedChanges Apply(const Rows& rows) { return Apply(rows, false, false); }
-    CommonRoutines::AppliedChanges Apply(const Rows& rows, bool selectedOnly, bool asSpelling) {
-        const auto applied = CommonRoutines::ApplyChanges(rows, selectedOnly, asSpelling, desktop);
+    // Applies all proposals as they are.
+    CommonRoutines::AppliedProposals Apply(const Proposals& proposals) { return Apply(proposals, false, false); }
+    CommonRoutines::AppliedProposals Apply(const Proposals& proposals, bool selectedOnly, bool asSpelling) {
+        const auto applied = CommonRoutines::ApplyChanges(proposals, selectedOnly, asSpelling, desktop);
         EXPECT_TRUE(applied.has_value());
-        return applied.value_or(CommonRoutines::AppliedChanges{});
+        return applied.value_or(CommonRoutines::AppliedProposals{});
     }
     void ExpectQuestion(int count, CommonRoutines::BoxAnswer answer) {
         desktop.ExpectBox("Warning - That will add approximately " + std::to_string(count) +

@@ -15,9 +15,9 @@ protected:
     // The rows as texts: the tag, "w" for a warning and the proposal.
     static std::vector<std::string> RowsOf(std::string_view content) {
         std::vector<std::string> rows;
-        for (const ChangeRow& row : ReadChanges(content).rows) {
-            EXPECT_FALSE(row.bChecked) << row.sText;
-            rows.push_back(std::to_string(row.iTag) + (row.bWarning ? "w " : " ") + row.sText);
+        for (const Proposal& proposal : ReadProposals(content).proposals) {
+            EXPECT_FALSE(proposal.bChecked) << proposal.sText;
+            rows.push_back(std::to_string(proposal.iTag) + (proposal.bWarning ? "w " : " ") + proposal.sText);
         }
         return rows;
     }
@@ -38,8 +38,8 @@ TEST_F(ChangeFileTest, LinesMayEndInAnyWay) {
 }
 
 TEST_F(ChangeFileTest, AnEmptyFileHasNoRowsAndNothingToSay) {
-    const ChangeList list = ReadChanges("");
-    EXPECT_TRUE(list.rows.empty());
+    const ProposalList list = ReadProposals("");
+    EXPECT_TRUE(list.proposals.empty());
     EXPECT_EQ(list.Summary(), "");
 }
 
@@ -49,14 +49,14 @@ TEST_F(ChangeFileTest, TheCheckIsOfTheTrimmedTextAndTheRowKeepsItsBlanks) {
 }
 
 TEST_F(ChangeFileTest, AnInvalidProposalIsMarkedAndCounted) {
-    const ChangeList list = ReadChanges("Smi?th\nSmyth\nSm|th\n!\n");
+    const ProposalList list = ReadProposals("Smi?th\nSmyth\nSm|th\n!\n");
     EXPECT_EQ(list.invalidCount, 3);
     EXPECT_EQ(list.warningCount, 0);
     EXPECT_EQ(RowsOf("Smi?th\nSmyth\nSm|th\n!\n"), (Rows{"-1 Smi?th", "0 Smyth", "-1 Sm|th", "-1 !"}));
 }
 
 TEST_F(ChangeFileTest, AWarningIsMarkedAndCountedOnValidAndInvalidRows) {
-    const ChangeList list = ReadChanges("Sm_th\nCaf\xE9\n Smi?_th\nSmyth\n");
+    const ProposalList list = ReadProposals("Sm_th\nCaf\xE9\n Smi?_th\nSmyth\n");
     EXPECT_EQ(list.invalidCount, 1);
     EXPECT_EQ(list.warningCount, 3);
     EXPECT_EQ(RowsOf("Sm_th\nCaf\xE9\n Smi?_th\nSmyth\n"), (Rows{"0w Sm_th", "0w Caf\xE9", "-1w  Smi?_th", "0 Smyth"}));
@@ -75,7 +75,7 @@ TEST_F(ChangeFileTest, AHeadingIsUpperCasedAndNotChecked) {
     sInvalidReason = "untouched";
     EXPECT_EQ(RowsOf("<TR><TD>Name | r\xE9gion_?</TD></TR>\n"), Rows{"1 NAME | R\xC9GION_?"});
     EXPECT_EQ(sInvalidReason, "untouched");
-    const ChangeList list = ReadChanges("<TR><TD>N_me|</TD></TR>\n");
+    const ProposalList list = ReadProposals("<TR><TD>N_me|</TD></TR>\n");
     EXPECT_EQ(list.invalidCount, 0);
     EXPECT_EQ(list.warningCount, 0);
 }
@@ -110,15 +110,15 @@ TEST_F(ChangeFileTest, CharacterReferencesStayAsTheyAreWritten) {
 }
 
 TEST_F(ChangeFileTest, TheSummaryHasAPhraseForEachKindOfProblemThatThereIs) {
-    EXPECT_EQ(ReadChanges("Smyth\n").Summary(), "");
-    EXPECT_EQ(ReadChanges("Smi?th\n").Summary(), "1 invalid variations (red). ");
-    EXPECT_EQ(ReadChanges("Sm_th\n").Summary(), "1 warnings (Brown).");
-    EXPECT_EQ(ReadChanges("a?b\na|b\n!\nSm_th\nx*\n").Summary(), "3 invalid variations (red). 2 warnings (Brown).");
+    EXPECT_EQ(ReadProposals("Smyth\n").Summary(), "");
+    EXPECT_EQ(ReadProposals("Smi?th\n").Summary(), "1 invalid variations (red). ");
+    EXPECT_EQ(ReadProposals("Sm_th\n").Summary(), "1 warnings (Brown).");
+    EXPECT_EQ(ReadProposals("a?b\na|b\n!\nSm_th\nx*\n").Summary(), "3 invalid variations (red). 2 warnings (Brown).");
 }
 
 TEST_F(ChangeFileTest, ReadingChangesNothingInTheTable) {
     const std::size_t slots = DistrictAt(1).Variations.size();
-    EXPECT_EQ(ReadChanges("Smyth\nSm?th\n").rows.size(), 2U);
+    EXPECT_EQ(ReadProposals("Smyth\nSm?th\n").proposals.size(), 2U);
     EXPECT_EQ(DistrictAt(1).lVariationCount, 0);
     EXPECT_EQ(DistrictAt(1).Variations.size(), slots);
     EXPECT_FALSE(bChanged);

@@ -44,7 +44,7 @@ protected:
             lCurrentDistrict = std::stoi(std::string(rest));
         } else if (word == "tick") {
             for (const std::string_view row : Ansi::Split(rest, ',')) {
-                m_rows.at(std::stoul(std::string(row)) - 1).bChecked = true;
+                m_proposals.at(std::stoul(std::string(row)) - 1).bChecked = true;
             }
         } else if (line == "selected only") {
             m_selectedOnly = true;
@@ -65,7 +65,7 @@ protected:
         return journal.empty() ? "nothing\n" : journal;
     }
 
-    std::vector<ChangeRow> m_rows;
+    std::vector<Proposal> m_proposals;
     bool m_selectedOnly = false;
     bool m_asSpelling = false;
     ScriptedDesktop m_desktop;
@@ -76,13 +76,13 @@ protected:
 TEST_P(GoldenApplyTest, IsAskedReportedSavedAndJournalledAsRecorded) {
     ReadDistricts();
     lCurrentDistrict = 1;
-    m_rows = ReadChanges(Needed("change.txt")).rows;
+    m_proposals = ReadProposals(Needed("change.txt")).proposals;
     ReadOptions();
     ASSERT_TRUE(IsDistrict(lCurrentDistrict));
     ASSERT_EQ(ExpectDialogue(Needed("dialogue.txt"), m_desktop), "");
 
-    if (const auto applied = ApplyChanges(m_rows, m_selectedOnly, m_asSpelling, m_desktop)) {
-        ReportAppliedChanges(*applied, m_desktop);
+    if (const auto applied = ApplyChanges(m_proposals, m_selectedOnly, m_asSpelling, m_desktop)) {
+        ReportAppliedProposals(*applied, m_desktop);
     }
     m_desktop.CheckDone();
     EXPECT_EQ(DistrictFileContent(), Needed("saved.txt"));

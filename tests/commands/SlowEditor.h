@@ -1,7 +1,7 @@
 #pragma once
 
 // The editing commands once more, written to be understood: a district is a list of texts, a step of
-// the journal a list of changes, and every command does what its description says, one thing after
+// the journal a list of items, and every command does what its description says, one thing after
 // another. Random rounds are given to this and to the program.
 
 #include "rules/SlowRules.h"
@@ -21,10 +21,10 @@ struct Line {
     std::string name;
     bool dateMarksOverlap = true;   // whether the district existed at all, by its own years
     std::vector<std::string> slots; // slot n is slots[n - 1]
-    bool touched = false;           // a command has recorded a change
+    bool touched = false;           // a command has recorded an item
 };
 
-struct Change {
+struct Item {
     int type = 0;
     std::string newText;
     std::string oldText;
@@ -32,7 +32,7 @@ struct Change {
 
 struct Step {
     int line = 0;
-    std::vector<Change> changes;
+    std::vector<Item> items;
 };
 
 class Editor {
@@ -206,22 +206,22 @@ public:
 
     // False when there was nothing to take back.
     bool Undo() {
-        if (Now().changes.empty()) {
+        if (Now().items.empty()) {
             return false;
         }
-        const Change change = Now().changes.back();
+        const Item item = Now().items.back();
         if (Now().line != line) {
             Choose(Now().line);
             met["undo in another district"] += 1;
         }
         // What was selected is shown in the box, also when a marker has just been changed.
         const bool boxShowsSelection = mode == 2 || (mode == 4 && editSlot > 0);
-        Now().changes.pop_back();
+        Now().items.pop_back();
         const std::vector<std::string> before = Here().slots;
-        TakeBack(change);
+        TakeBack(item);
         changed = changed || before != Here().slots;
         met["undo that changes nothing"] += before == Here().slots ? 1 : 0;
-        if (Now().changes.empty()) {
+        if (Now().items.empty()) {
             Now().line = 0;
             step = step == 1 ? 20 : step - 1;
         }
@@ -233,10 +233,10 @@ public:
 
     [[nodiscard]] std::string NextUndo() const {
         const Step& now = ring[static_cast<std::size_t>(step)];
-        if (now.changes.empty()) {
+        if (now.items.empty()) {
             return "";
         }
-        const Change& last = now.changes.back();
+        const Item& last = now.items.back();
         const std::string name = lines[static_cast<std::size_t>(now.line) - 1].name;
         return last.type == 1   ? "Add " + last.newText + " to " + name
                : last.type == 2 ? "Change " + last.oldText + " to " + last.newText
@@ -315,28 +315,28 @@ private:
         SetMode(4);
     }
 
-    void Record(const Change& change) {
+    void Record(const Item& item) {
         Here().touched = true;
         if (Now().line != line) {
             step = step == 20 ? 1 : step + 1;
-            reversible = reversible && Now().changes.empty();
-            met["step used again"] += Now().changes.empty() ? 0 : 1;
+            reversible = reversible && Now().items.empty();
+            met["step used again"] += Now().items.empty() ? 0 : 1;
             Now() = {line, {}};
         }
-        Now().changes.push_back(change);
+        Now().items.push_back(item);
     }
 
-    void TakeBack(const Change& change) {
+    void TakeBack(const Item& item) {
         std::vector<std::string>& slots = Here().slots;
-        if (change.type == 1) {
+        if (item.type == 1) {
             for (std::string& slot : slots) {
-                slot = slot == change.newText ? "\t" : slot;
+                slot = slot == item.newText ? "\t" : slot;
             }
             return;
         }
-        const std::string wanted = change.type == 2 ? change.newText : "\t";
-        const std::string given = change.type == 2 ? change.oldText : change.newText;
-        if (change.type == 2 && wanted == "\t") {
+        const std::string wanted = item.type == 2 ? item.newText : "\t";
+        const std::string given = item.type == 2 ? item.oldText : item.newText;
+        if (item.type == 2 && wanted == "\t") {
             return; // a free slot is not listed
         }
         for (std::string& slot : slots) {
@@ -345,7 +345,7 @@ private:
                 return;
             }
         }
-        if (change.type == 3) {
+        if (item.type == 3) {
             slots.push_back(given);
         }
     }

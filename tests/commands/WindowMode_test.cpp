@@ -15,7 +15,7 @@ namespace {
 //   E    enabled
 //   -    disabled
 //   D    enabled while there are unsaved changes
-//   C    as the change list says, by the second table
+//   C    as the list of proposals says, by the second table
 //        (nothing) left as it is
 struct ModeRow {
     Control control;
@@ -57,19 +57,19 @@ constexpr ModeRow ModeRows[] = {
 
 static_assert(std::size(ModeRows) == ControlCount);
 
-// What the change list makes of a C: without rows, with a selected row, with rows of which none is selected.
-struct ChangeRow {
+// What the list of proposals makes of a C: without rows, with a selected row, with rows of which none is selected.
+struct ProposalRow {
     Control control;
     const char* name;
     std::string_view cells;
 };
 
-void PrintTo(const ChangeRow& row, std::ostream* out) {
+void PrintTo(const ProposalRow& row, std::ostream* out) {
     *out << row.name;
 }
 
 // clang-format off
-constexpr ChangeRow ChangeRows[] = {
+constexpr ProposalRow ProposalRows[] = {
     //                                            none sel. rows
     {Control::cbApplySelected,  "cbApplySelected", "-   E   -"},
     {Control::cbApplyAll,       "cbApplyAll",      "-   E   E"},
@@ -79,10 +79,10 @@ constexpr ChangeRow ChangeRows[] = {
 };
 // clang-format on
 
-constexpr ChangeListState NoRows{false, false};
-constexpr ChangeListState OneRowSelected{true, true};
-constexpr ChangeListState NoRowSelected{true, false};
-constexpr ChangeListState ChangeLists[] = {NoRows, OneRowSelected, NoRowSelected};
+constexpr ProposalListState NoRows{false, false};
+constexpr ProposalListState OneRowSelected{true, true};
+constexpr ProposalListState NoRowSelected{true, false};
+constexpr ProposalListState ProposalLists[] = {NoRows, OneRowSelected, NoRowSelected};
 
 std::optional<bool> Meaning(char cell, bool changed) {
     switch (cell) {
@@ -114,7 +114,7 @@ constexpr std::int16_t NoModes[] = {
     0, 11, -1, 12, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max()};
 
 class ModeTable : public testing::TestWithParam<ModeRow> {};
-class ChangeTable : public testing::TestWithParam<ChangeRow> {};
+class ProposalTable : public testing::TestWithParam<ProposalRow> {};
 
 template <typename Row>
 std::string RowName(const testing::TestParamInfo<Row>& info) {
@@ -128,13 +128,13 @@ TEST_P(ModeTable, HoldsForEveryModeWhateverElseIsTheCase) {
     ASSERT_EQ(row.cells.size(), 19u);
     for (std::int16_t mode = 1; mode <= 10; ++mode) {
         if (row.Cell(mode) == 'C') {
-            continue; // the change table's
+            continue; // the table of proposals's
         }
         for (const bool changed : {false, true}) {
-            for (const ChangeListState changes : ChangeLists) {
-                EXPECT_EQ(EnabledInMode(row.control, mode, changed, changes), Meaning(row.Cell(mode), changed))
-                    << "mode " << mode << ", changed " << changed << ", change rows " << changes.hasRows
-                    << ", selected " << changes.hasSelection;
+            for (const ProposalListState proposals : ProposalLists) {
+                EXPECT_EQ(EnabledInMode(row.control, mode, changed, proposals), Meaning(row.Cell(mode), changed))
+                    << "mode " << mode << ", changed " << changed << ", proposals " << proposals.hasAny << ", selected "
+                    << proposals.hasSelection;
             }
         }
     }
@@ -143,8 +143,8 @@ TEST_P(ModeTable, HoldsForEveryModeWhateverElseIsTheCase) {
 TEST_P(ModeTable, HasNoControlForAnOtherMode) {
     for (const std::int16_t mode : NoModes) {
         for (const bool changed : {false, true}) {
-            for (const ChangeListState changes : ChangeLists) {
-                EXPECT_EQ(EnabledInMode(GetParam().control, mode, changed, changes), std::nullopt) << "mode " << mode;
+            for (const ProposalListState proposals : ProposalLists) {
+                EXPECT_EQ(EnabledInMode(GetParam().control, mode, changed, proposals), std::nullopt) << "mode " << mode;
             }
         }
     }
@@ -152,8 +152,8 @@ TEST_P(ModeTable, HasNoControlForAnOtherMode) {
 
 INSTANTIATE_TEST_SUITE_P(WindowMode, ModeTable, testing::ValuesIn(ModeRows), RowName<ModeRow>);
 
-TEST_P(ChangeTable, HoldsForTheIdleModeWhetherSomethingIsUnsavedOrNot) {
-    const ChangeRow& row = GetParam();
+TEST_P(ProposalTable, HoldsForTheIdleModeWhetherSomethingIsUnsavedOrNot) {
+    const ProposalRow& row = GetParam();
     for (const bool changed : {false, true}) {
         EXPECT_EQ(EnabledInMode(row.control, 4, changed, NoRows), row.cells[0] == 'E');
         EXPECT_EQ(EnabledInMode(row.control, 4, changed, OneRowSelected), row.cells[4] == 'E');
@@ -161,13 +161,13 @@ TEST_P(ChangeTable, HoldsForTheIdleModeWhetherSomethingIsUnsavedOrNot) {
     }
 }
 
-TEST_P(ChangeTable, NeedsRowsForASelectionToCount) {
+TEST_P(ProposalTable, NeedsRowsForASelectionToCount) {
     EXPECT_EQ(EnabledInMode(GetParam().control, 4, false, {false, true}), false);
 }
 
-INSTANTIATE_TEST_SUITE_P(WindowMode, ChangeTable, testing::ValuesIn(ChangeRows), RowName<ChangeRow>);
+INSTANTIATE_TEST_SUITE_P(WindowMode, ProposalTable, testing::ValuesIn(ProposalRows), RowName<ProposalRow>);
 
-TEST(WindowModeTest, BothTablesNameTheSameControlsForTheChangeList) {
+TEST(WindowModeTest, BothTablesNameTheSameControlsForTheProposals) {
     std::vector<Control> inModes;
     for (const ModeRow& row : ModeRows) {
         if (row.cells.find('C') != std::string_view::npos) {
@@ -175,11 +175,11 @@ TEST(WindowModeTest, BothTablesNameTheSameControlsForTheChangeList) {
             inModes.push_back(row.control);
         }
     }
-    std::vector<Control> inChanges;
-    for (const ChangeRow& row : ChangeRows) {
-        inChanges.push_back(row.control);
+    std::vector<Control> forProposals;
+    for (const ProposalRow& row : ProposalRows) {
+        forProposals.push_back(row.control);
     }
-    EXPECT_EQ(inModes, inChanges);
+    EXPECT_EQ(inModes, forProposals);
 }
 
 TEST(WindowModeTest, TheSeventhModeLeavesFourControlsAsTheyAre) {

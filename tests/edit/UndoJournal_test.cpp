@@ -17,7 +17,7 @@ protected:
     // Records an add made to a district.
     void Record(std::int32_t district, const std::string& text) {
         lCurrentDistrict = district;
-        RecordChange(district, UndoAdd, text, "", m_desktop);
+        RecordUndoItem(district, UndoAdd, text, "", m_desktop);
     }
 
     // Records one add a step, changing between the two districts: "Text 1" to "Text n".
@@ -81,7 +81,7 @@ TEST_F(UndoJournalTest, AChangeOfADistrictThenOfAnotherThenOfTheFirstAreThreeSte
 
 TEST_F(UndoJournalTest, TheWholeChangeIsRecorded) {
     lCurrentDistrict = 1;
-    RecordChange(2, UndoChange, "Fir", "Yew", m_desktop);
+    RecordUndoItem(2, UndoChange, "Fir", "Yew", m_desktop);
     EXPECT_EQ(TakeItem(), "2 [Fir] [Yew] in 2");
 }
 

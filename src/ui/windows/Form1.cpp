@@ -6,10 +6,10 @@
 #include "commands/ProposalCommands.h"
 #include "commands/VariationCommands.h"
 #include "ui/Text.h"
-#include "ui/lists/ChangeModel.h"
 #include "ui/lists/CommentModels.h"
 #include "ui/lists/DistrictColumns.h"
 #include "ui/lists/DistrictModel.h"
+#include "ui/lists/ProposalModel.h"
 #include "ui/lists/RowList.h"
 #include "ui/lists/VariationModel.h"
 #include "ui/widgets/EditBox.h"
@@ -65,12 +65,12 @@ void Form1::Run(const std::function<void(Session&)>& command) {
 void Form1::SetModels() {
     m_districts = new DistrictModel(this);
     m_variations = new VariationModel(this);
-    m_changes = new ChangeModel(this);
+    m_proposals = new ProposalModel(this);
     m_comments = new CommentModel(this);
     m_commentTypes = new CommentTypeModel(this);
     m_controls.lvAlpha->setModel(m_districts);
     m_controls.lvVariations->setModel(m_variations);
-    m_controls.LvChanges->setModel(m_changes);
+    m_controls.LvChanges->setModel(m_proposals);
     m_controls.lvComments->setModel(m_comments);
     m_controls.lbComments->setModel(m_commentTypes);
 }
@@ -86,7 +86,7 @@ void Form1::ConnectCommands() {
     }
     auto* escapeKey = new QShortcut(Qt::Key_Escape, m_controls.lvVariations);
     escapeKey->setContext(Qt::WidgetShortcut);
-    connect(escapeKey, &QShortcut::activated, this, [this] { Run(Commands::LeaveVariations); });
+    connect(escapeKey, &QShortcut::activated, this, [this] { Run(Commands::GiveUpSelection); });
 }
 
 // A button that is disabled ignores its key as it ignores a click.
@@ -147,7 +147,7 @@ void Form1::ConnectLists() {
 }
 
 void Form1::ConnectProposals() {
-    connect(m_changes, &ChangeModel::TickWanted, this, [this](int row, bool ticked) {
+    connect(m_proposals, &ProposalModel::TickWanted, this, [this](int row, bool ticked) {
         m_tickedByClick = true;
         Run([=](Session& session) { Commands::TickProposal(session, row, ticked); });
     });

@@ -10,7 +10,7 @@
 
 namespace Ui {
 
-class ChangeModel;
+class ProposalModel;
 class CommentModel;
 class CommentTypeModel;
 class DistrictColumns;
@@ -67,7 +67,7 @@ private:
     Form1Controls m_controls;
     DistrictModel* m_districts = nullptr;
     VariationModel* m_variations = nullptr;
-    ChangeModel* m_changes = nullptr;
+    ProposalModel* m_proposals = nullptr;
     CommentModel* m_comments = nullptr;
     CommentTypeModel* m_commentTypes = nullptr;
     std::unique_ptr<DistrictColumns> m_columns; // while the districts are being measured

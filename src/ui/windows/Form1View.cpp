@@ -3,7 +3,7 @@
 #include "core/State.h"
 #include "file/DistrictComments.h"
 #include "ui/Text.h"
-#include "ui/lists/ChangeModel.h"
+#include "ui/lists/ProposalModel.h"
 #include "ui/lists/CommentModels.h"
 #include "ui/lists/DistrictModel.h"
 #include "ui/lists/RowList.h"
@@ -54,7 +54,7 @@ void Form1::ShowLists(const Commands::WindowView& view) {
     ShowSelection(m_controls.lvAlpha, view.districts, m_shown.districts);
     m_variations->Show(view.variations, view.variationsOf);
     ShowSelection(m_controls.lvVariations, view.variations, m_shown.variations);
-    m_changes->Show(view.proposals);
+    m_proposals->Show(view.proposals);
     ShowSelection(m_controls.LvChanges, view.proposals, m_shown.proposals);
     if (view.comments.filled != m_shown.comments.filled) {
         WrapComments(view.comments.district);

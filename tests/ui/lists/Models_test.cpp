@@ -5,9 +5,9 @@
 #include "file/DistrictList.h"
 #include "support/Reading.h"
 #include "support/Table.h"
-#include "ui/lists/ChangeModel.h"
 #include "ui/lists/CommentModels.h"
 #include "ui/lists/DistrictModel.h"
+#include "ui/lists/ProposalModel.h"
 #include "ui/lists/ReportModel.h"
 #include "ui/lists/VariationModel.h"
 
@@ -134,10 +134,10 @@ TEST_F(ModelsTest, TheCommentTypeModelKeepsTheRules) {
     EXPECT_EQ(model.rowCount(), 1);
 }
 
-TEST_F(ModelsTest, TheChangeModelKeepsTheRules) {
-    ChangeModel model;
+TEST_F(ModelsTest, TheProposalModelKeepsTheRules) {
+    ProposalModel model;
     const auto tester = Tester(model);
-    model.Show(ListOf<ChangeRow>({{"Good"}, {"Bad", ChangeRow::Invalid}, {"Odd", ChangeRow::Valid, true}}));
+    model.Show(ListOf<Proposal>({{"Good"}, {"Bad", Proposal::Invalid}, {"Odd", Proposal::Valid, true}}));
     EXPECT_EQ(model.rowCount(), 3);
     EXPECT_EQ(Cell(model, 1, 0, Qt::ForegroundRole).value<QColor>(), QColor(236, 0, 0));
     EXPECT_EQ(Cell(model, 2, 0, Qt::ForegroundRole).value<QColor>(), QColor(204, 102, 0));
@@ -145,15 +145,15 @@ TEST_F(ModelsTest, TheChangeModelKeepsTheRules) {
 }
 
 TEST_F(ModelsTest, ATickIsOnlyAskedForAndShownWhenItIsThere) {
-    ChangeModel model;
-    auto list = ListOf<ChangeRow>({{"One"}, {"Two"}});
+    ProposalModel model;
+    auto list = ListOf<Proposal>({{"One"}, {"Two"}});
     model.Show(list);
     const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
-    QSignalSpy wanted(&model, &ChangeModel::TickWanted);
+    QSignalSpy wanted(&model, &ProposalModel::TickWanted);
     EXPECT_FALSE(model.setData(model.index(1, 0), Qt::Checked, Qt::CheckStateRole)); // nobody has done it
     ASSERT_EQ(wanted.size(), 1);
     EXPECT_EQ(wanted[0], (QVariantList{1, true}));
-    QObject::connect(&model, &ChangeModel::TickWanted, [&](int row, bool ticked) {
+    QObject::connect(&model, &ProposalModel::TickWanted, [&](int row, bool ticked) {
         (*list.rows)[static_cast<std::size_t>(row)].bChecked = ticked;
         ++list.touched;
         model.Show(list);

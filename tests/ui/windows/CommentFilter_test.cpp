@@ -1,13 +1,13 @@
 // Filtering the districts by a type of comment.
 
-#include "ui/windows/ChangesTest.h"
+#include "ui/windows/ProposalsTest.h"
 
 using namespace CommonRoutines;
 using namespace Ui;
 
 namespace {
 
-class CommentFilterTest : public ChangesTest {
+class CommentFilterTest : public ProposalsTest {
 protected:
     CommentFilterTest() {
         OpenContent("#QX_SEAT of the county\r\n" + HeaderOf("Gamma") +

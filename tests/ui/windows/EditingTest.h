@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ui/windows/ChangesTest.h"
+#include "ui/windows/ProposalsTest.h"
 
 // The main window while variations are being edited. The window is the active one, so that keys and
 // shortcuts reach it as they do on a desktop.
-class EditingTest : public ChangesTest {
+class EditingTest : public ProposalsTest {
 protected:
     EditingTest() { Activate(*form); }
 

@@ -2,7 +2,7 @@
 // the time limit of the tests.
 
 #include "ui/machine/DesktopTest.h"
-#include "ui/windows/ChangesTest.h"
+#include "ui/windows/ProposalsTest.h"
 
 #include "ui/Text.h"
 #include "ui/lists/ReportModel.h"
@@ -24,7 +24,7 @@ constexpr std::size_t TenMegabytes = 10'000'000;
 constexpr qsizetype MostShown = 2'100;
 constexpr QChar Ellipsis(0x2026);
 
-class HostileTexts : public ChangesTest {
+class HostileTexts : public ProposalsTest {
 protected:
     ~HostileTexts() override {
         form.reset();

@@ -1,6 +1,6 @@
 // Texts of the data are shown as they are, whatever they look like.
 
-#include "ui/windows/ChangesTest.h"
+#include "ui/windows/ProposalsTest.h"
 
 #include "ui/Text.h"
 
@@ -24,7 +24,7 @@ QString Rendered(const QString& toolTip) {
     return document.toPlainText();
 }
 
-class PlainTextTest : public ChangesTest {};
+class PlainTextTest : public ProposalsTest {};
 
 const std::vector<std::string> LikeMarkup{"<img src=x>", "<b>A</b>", "A &amp; B", "&lt;", "<!-- A -->", "A<br>B"};
 

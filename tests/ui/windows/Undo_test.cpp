@@ -56,7 +56,7 @@ TEST_F(UndoTest, ThreeDeletionsAndAnAddAreTakenBackInReverseOrder) {
               (QStringList{QStringLiteral("Alfa"), QStringLiteral("Betta"), QStringLiteral("Delte")}));
 }
 
-TEST_F(UndoTest, ARestoredVariationTakesTheFirstFreeSlot) {
+TEST_F(UndoTest, ADeletedVariationThatComesBackTakesTheFirstFreeSlot) {
     Delete(QStringLiteral("Alfa"));
     Delete(QStringLiteral("Betta"));
     ExpectUndo("|Betta|\t", "Delete Alfa from Alpha");

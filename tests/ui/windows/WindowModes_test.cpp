@@ -1,6 +1,6 @@
 // Which controls are enabled, in every state of the window that the user can bring about.
 
-#include "ui/windows/ChangesTest.h"
+#include "ui/windows/ProposalsTest.h"
 
 #include <QLineEdit>
 
@@ -9,7 +9,7 @@ using namespace Ui;
 
 namespace {
 
-class WindowModesTest : public ChangesTest {};
+class WindowModesTest : public ProposalsTest {};
 
 } // namespace
 

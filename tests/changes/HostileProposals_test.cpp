@@ -13,20 +13,20 @@ namespace {
 constexpr std::size_t Million = 1'000'000;
 constexpr std::size_t TenMegabytes = 10 * Million;
 
-class HostileChanges : public StateTest {
+class HostileProposals : public StateTest {
 protected:
-    HostileChanges() {
+    HostileProposals() {
         ClearUndoRing();
         lCurrentDistrict = AddDistrict("Alpha", {"Alfa"});
         iEditMode = DistrictIdle;
     }
-    ~HostileChanges() override { ClearUndoRing(); }
+    ~HostileProposals() override { ClearUndoRing(); }
 
-    AppliedChanges ApplyAll(const ChangeList& list) {
-        desktop.ExpectBox("Warning - That will add approximately " + std::to_string(list.rows.size()) +
+    AppliedProposals ApplyAll(const ProposalList& list) {
+        desktop.ExpectBox("Warning - That will add approximately " + std::to_string(list.proposals.size()) +
                               " Variations\r\nIs that what you want to do?",
                           BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
-        return ApplyChanges(list.rows, false, false, desktop).value_or(AppliedChanges());
+        return ApplyChanges(list.proposals, false, false, desktop).value_or(AppliedProposals());
     }
 
     ScriptedDesktop desktop;
@@ -47,62 +47,62 @@ std::string Colliding(std::size_t number, std::size_t pairs) {
 
 } // namespace
 
-TEST_F(HostileChanges, ALineOfTenMegabytesIsOneProposal) {
-    const ChangeList list = ReadChanges(std::string(TenMegabytes, 'X') + "\r\n");
-    ASSERT_EQ(list.rows.size(), 1U);
-    EXPECT_EQ(list.rows[0].sText.size(), TenMegabytes);
-    EXPECT_EQ(list.rows[0].iTag, ChangeRow::Valid);
+TEST_F(HostileProposals, ALineOfTenMegabytesIsOneProposal) {
+    const ProposalList list = ReadProposals(std::string(TenMegabytes, 'X') + "\r\n");
+    ASSERT_EQ(list.proposals.size(), 1U);
+    EXPECT_EQ(list.proposals[0].sText.size(), TenMegabytes);
+    EXPECT_EQ(list.proposals[0].iTag, Proposal::Valid);
 }
 
-TEST_F(HostileChanges, ALineOfNothingButTagsIsReadOnce) {
+TEST_F(HostileProposals, ALineOfNothingButTagsIsReadOnce) {
     std::string line = "<TR ";
     while (line.size() < TenMegabytes) {
         line += "<TR><TD";
     }
-    EXPECT_TRUE(ReadChanges(line + "\r\n").rows.empty());
+    EXPECT_TRUE(ReadProposals(line + "\r\n").proposals.empty());
 }
 
-TEST_F(HostileChanges, AMillionEmptyLinesAreNoProposals) {
-    EXPECT_TRUE(ReadChanges(std::string(Million, '\n')).rows.empty());
+TEST_F(HostileProposals, AMillionEmptyLinesAreNoProposals) {
+    EXPECT_TRUE(ReadProposals(std::string(Million, '\n')).proposals.empty());
 }
 
-TEST_F(HostileChanges, OfAHundredThousandEqualProposalsOneIsAdded) {
+TEST_F(HostileProposals, OfAHundredThousandEqualProposalsOneIsAdded) {
     constexpr std::int32_t count = 100'000;
     std::string content;
     for (std::int32_t i = 0; i < count; ++i) {
         content += "Betta\n";
     }
-    const AppliedChanges applied = ApplyAll(ReadChanges(content));
+    const AppliedProposals applied = ApplyAll(ReadProposals(content));
     EXPECT_EQ(applied.added, 1);
     EXPECT_EQ(applied.ignored, count - 1);
 }
 
-TEST_F(HostileChanges, AHundredThousandDifferentProposalsAreAdded) {
+TEST_F(HostileProposals, AHundredThousandDifferentProposalsAreAdded) {
     constexpr std::int32_t count = 100'000;
     std::string content;
     for (std::int32_t i = 0; i < count; ++i) {
         content += "Betta " + std::to_string(i) + "\n";
     }
-    const AppliedChanges applied = ApplyAll(ReadChanges(content));
+    const AppliedProposals applied = ApplyAll(ReadProposals(content));
     EXPECT_EQ(applied.added, count);
     EXPECT_EQ(DistrictAt(lCurrentDistrict).lVariationCount, count + 1);
     EXPECT_TRUE(bChanged);
 }
 
-TEST_F(HostileChanges, OneNameInAHundredThousandVolumesIsAddedAsQuickly) {
+TEST_F(HostileProposals, OneNameInAHundredThousandVolumesIsAddedAsQuickly) {
     constexpr std::int32_t count = 100'000;
     std::string content;
     for (std::int32_t i = 0; i < count; ++i) {
         content += "Betta%" + std::to_string(i) + "\n";
     }
-    EXPECT_EQ(ApplyAll(ReadChanges(content)).added, count);
+    EXPECT_EQ(ApplyAll(ReadProposals(content)).added, count);
 }
 
-TEST_F(HostileChanges, ProposalsThatWereMadeToCollideAreAddedAsQuickly) {
+TEST_F(HostileProposals, ProposalsThatWereMadeToCollideAreAddedAsQuickly) {
     constexpr std::size_t pairs = 15;
     std::string content;
     for (std::size_t number = 0; number < 1U << pairs; ++number) {
         content += Colliding(number, pairs) + "\n";
     }
-    EXPECT_EQ(ApplyAll(ReadChanges(content)).added, 1 << pairs);
+    EXPECT_EQ(ApplyAll(ReadProposals(content)).added, 1 << pairs);
 }

@@ -8,14 +8,14 @@
 
 namespace Ui {
 
-// The change list: proposed variations, each with a check box. Whether one may be ticked is not decided here.
-class ChangeModel : public QAbstractListModel {
+// The list of proposals, each with a check box. Whether one may be ticked is not decided here.
+class ProposalModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    void Show(const Commands::ListView<CommonRoutines::ChangeRow>& list);
+    void Show(const Commands::ListView<CommonRoutines::Proposal>& list);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -28,7 +28,7 @@ Q_SIGNALS:
     void TickWanted(int row, bool ticked);
 
 private:
-    ShownRows<CommonRoutines::ChangeRow> m_rows;
+    ShownRows<CommonRoutines::Proposal> m_rows;
 };
 
 } // namespace Ui

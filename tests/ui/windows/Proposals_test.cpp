@@ -1,6 +1,6 @@
-// The change list: what a change file puts into it, and what ticking and clicking its rows does.
+// The list of proposals: what a change file puts into it, and what ticking and clicking does.
 
-#include "ui/windows/ChangesTest.h"
+#include "ui/windows/ProposalsTest.h"
 
 using namespace CommonRoutines;
 using namespace Ui;
@@ -19,9 +19,9 @@ const QString Oak = QStringLiteral("Oak");
 const QString Invalid = QStringLiteral("As?h");
 
 // The three proposals are listed.
-class ChangeRowsTest : public ChangesTest {
+class ListedProposalsTest : public ProposalsTest {
 protected:
-    ChangeRowsTest() {
+    ListedProposalsTest() {
         OpenDistrict();
         Process("Elm\nOak\nAs?h\n");
     }
@@ -29,7 +29,7 @@ protected:
 
 } // namespace
 
-TEST_F(ChangesTest, ProcessingAFileListsItsProposals) {
+TEST_F(ProposalsTest, ProcessingAFileListsItsProposals) {
     OpenDistrict();
     Process("Elm\r\nOak\r\n");
     EXPECT_EQ(Column("LvChanges"), (QStringList{Elm, Oak}));
@@ -40,7 +40,7 @@ TEST_F(ChangesTest, ProcessingAFileListsItsProposals) {
     ExpectEnabled(Listed);
 }
 
-TEST_F(ChangesTest, TheProposalsHaveTheColourOfTheirState) {
+TEST_F(ProposalsTest, TheProposalsHaveTheColourOfTheirState) {
     OpenDistrict();
     Process("<TR><TD>Name_</TD>\n<TR><TD x>Elm</TD>\n<TR><TD x>Sm?th</TD>\n<TR><TD x>Sm_th</TD>\n<TR><TD x>S?_th</TD>");
     const QColor plain = Find<RowList>("LvChanges").palette().color(QPalette::Text);
@@ -51,7 +51,7 @@ TEST_F(ChangesTest, TheProposalsHaveTheColourOfTheirState) {
     EXPECT_EQ(RowColour("LvChanges", QStringLiteral("S?_th")), Brown);
 }
 
-TEST_F(ChangesTest, TheProblemsAreCountedInBlackOnGrey) {
+TEST_F(ProposalsTest, TheProblemsAreCountedInBlackOnGrey) {
     OpenDistrict();
     Process("Sm?th\na|b\n!\nSm_th\nSm*th\n");
     EXPECT_EQ(TextOf("lbWhyError"), QStringLiteral("3 invalid variations (red). 2 warnings (Brown)."));
@@ -61,13 +61,13 @@ TEST_F(ChangesTest, TheProblemsAreCountedInBlackOnGrey) {
     EXPECT_EQ(TextOf("lbWhyError"), QString());
 }
 
-TEST_F(ChangesTest, ForeignCharactersAreShownAsTheyAre) {
+TEST_F(ProposalsTest, ForeignCharactersAreShownAsTheyAre) {
     OpenDistrict();
     Process("Caf\xE9 \x80\n");
     EXPECT_EQ(Column("LvChanges"), QStringList{QStringLiteral("Caf\u00E9 \u20AC")});
 }
 
-TEST_F(ChangesTest, TheFolderOfTheChangeFileIsRemembered) {
+TEST_F(ProposalsTest, TheFolderOfTheChangeFileIsRemembered) {
     OpenDistrict();
     desktop.settings["Paths/ProcessFile"] = "/before";
     Process("Elm\n", "/some/folder/new.txt");
@@ -80,7 +80,7 @@ TEST_F(ChangesTest, TheFolderOfTheChangeFileIsRemembered) {
     EXPECT_EQ(desktop.settings["Paths/InFile"], "/data");
 }
 
-TEST_F(ChangesTest, AnEmptyFileLeavesNothingToApply) {
+TEST_F(ProposalsTest, AnEmptyFileLeavesNothingToApply) {
     OpenDistrict();
     Process("Elm\n");
     Process("");
@@ -88,7 +88,7 @@ TEST_F(ChangesTest, AnEmptyFileLeavesNothingToApply) {
     ExpectEnabled("cbAdd cbOpen tbEdit btnProcess cbCompleteCheck lbComments");
 }
 
-TEST_F(ChangeRowsTest, ACancelledDialogueLeavesTheListAsItWas) {
+TEST_F(ListedProposalsTest, ACancelledDialogueLeavesTheListAsItWas) {
     ClickBox(Elm);
     desktop.ExpectOpen(std::nullopt);
     Click("btnProcess");
@@ -99,14 +99,14 @@ TEST_F(ChangeRowsTest, ACancelledDialogueLeavesTheListAsItWas) {
     EXPECT_EQ(desktop.settings["Paths/ProcessFile"], "/changes");
 }
 
-TEST_F(ChangeRowsTest, AFileThatCannotBeReadLeavesTheListAsItWas) {
+TEST_F(ListedProposalsTest, AFileThatCannotBeReadLeavesTheListAsItWas) {
     desktop.ExpectOpen("/changes/none.txt");
     desktop.ExpectBox("The file cannot be read:\r\n/changes/none.txt", BoxIcon::Exclamation);
     Click("btnProcess");
     EXPECT_EQ(Column("LvChanges"), (QStringList{Elm, Oak, Invalid}));
 }
 
-TEST_F(ChangeRowsTest, ANewFileReplacesTheRowsAndTheirTicks) {
+TEST_F(ListedProposalsTest, ANewFileReplacesTheRowsAndTheirTicks) {
     ClickBox(Elm);
     Process("Elm\nYew\n");
     EXPECT_EQ(Column("LvChanges"), (QStringList{Elm, QStringLiteral("Yew")}));
@@ -115,14 +115,14 @@ TEST_F(ChangeRowsTest, ANewFileReplacesTheRowsAndTheirTicks) {
     ExpectEnabled(Listed);
 }
 
-TEST_F(ChangeRowsTest, AFilterDiscardsTheRows) {
+TEST_F(ListedProposalsTest, AFilterDiscardsTheRows) {
     ClickRow("lbComments", QStringLiteral("NOTE"));
     EXPECT_EQ(Column("LvChanges"), QStringList());
     ClickRow("lvAlpha", QStringLiteral("Beta"));
     ExpectEnabled("cbAdd cbOpen tbEdit btnProcess cbCompleteCheck lbComments");
 }
 
-TEST_F(ChangeRowsTest, AFilterForgetsTheCount) {
+TEST_F(ListedProposalsTest, AFilterForgetsTheCount) {
     ClickBox(Elm);
     ClickRow("lbComments", QStringLiteral("NOTE"));
     EXPECT_EQ(TextOf("lbSelectCount"), QString());
@@ -130,7 +130,7 @@ TEST_F(ChangeRowsTest, AFilterForgetsTheCount) {
 
 // The check boxes.
 
-TEST_F(ChangeRowsTest, ATickedRowCanBeAppliedAndEdited) {
+TEST_F(ListedProposalsTest, ATickedRowCanBeAppliedAndEdited) {
     ClickBox(Elm);
     EXPECT_EQ(Ticked(), QStringList{Elm});
     EXPECT_EQ(TextOf("lbSelectCount"), QStringLiteral("Selected=1"));
@@ -142,7 +142,7 @@ TEST_F(ChangeRowsTest, ATickedRowCanBeAppliedAndEdited) {
                   "lbComments cbEditSel");
 }
 
-TEST_F(ChangeRowsTest, TwoTickedRowsCanOnlyBeApplied) {
+TEST_F(ListedProposalsTest, TwoTickedRowsCanOnlyBeApplied) {
     ClickBox(Elm);
     ClickBox(Oak);
     EXPECT_EQ(TextOf("lbSelectCount"), QStringLiteral("Selected=2"));
@@ -150,7 +150,7 @@ TEST_F(ChangeRowsTest, TwoTickedRowsCanOnlyBeApplied) {
                   "lbComments");
 }
 
-TEST_F(ChangeRowsTest, WithTheLastTickGoneAllCanBeAppliedAgain) {
+TEST_F(ListedProposalsTest, WithTheLastTickGoneAllCanBeAppliedAgain) {
     ClickBox(Elm);
     ClickBox(Elm);
     EXPECT_EQ(Ticked(), QStringList());
@@ -158,7 +158,7 @@ TEST_F(ChangeRowsTest, WithTheLastTickGoneAllCanBeAppliedAgain) {
     ExpectEnabled("cbAdd cbOpen tbEdit btnProcess cbApplyAll cbApplyAllSpell cbClearSel cbCompleteCheck lbComments");
 }
 
-TEST_F(ChangeRowsTest, AnInvalidRowCannotBeTicked) {
+TEST_F(ListedProposalsTest, AnInvalidRowCannotBeTicked) {
     ClickBox(Invalid);
     EXPECT_EQ(desktop.beeps, 1);
     EXPECT_EQ(Ticked(), QStringList());
@@ -168,7 +168,7 @@ TEST_F(ChangeRowsTest, AnInvalidRowCannotBeTicked) {
     ExpectEnabled(Listed);
 }
 
-TEST_F(ChangesTest, AHeadingCannotBeTicked) {
+TEST_F(ProposalsTest, AHeadingCannotBeTicked) {
     OpenDistrict();
     Process("<TR><TD>Name</TD>\n");
     ClickBox(QStringLiteral("NAME"));
@@ -176,7 +176,7 @@ TEST_F(ChangesTest, AHeadingCannotBeTicked) {
     EXPECT_EQ(Ticked(), QStringList());
 }
 
-TEST_F(ChangeRowsTest, TheSpaceKeyTicksAndUnticks) {
+TEST_F(ListedProposalsTest, TheSpaceKeyTicksAndUnticks) {
     Key("LvChanges", Qt::Key_Down);
     Key("LvChanges", Qt::Key_Space);
     EXPECT_EQ(Ticked(), QStringList{Elm});
@@ -191,7 +191,7 @@ TEST_F(ChangeRowsTest, TheSpaceKeyTicksAndUnticks) {
     EXPECT_EQ(desktop.beeps, 1);
 }
 
-TEST_F(ChangeRowsTest, ATextCanBeClickedAfterTheSpaceKey) {
+TEST_F(ListedProposalsTest, ATextCanBeClickedAfterTheSpaceKey) {
     Key("LvChanges", Qt::Key_Down);
     Key("LvChanges", Qt::Key_Space);
     ClickText(Oak);
@@ -201,7 +201,7 @@ TEST_F(ChangeRowsTest, ATextCanBeClickedAfterTheSpaceKey) {
 
 // Clicking on the text.
 
-TEST_F(ChangeRowsTest, AClickOnTheTextTicksTheRowAndTakesItIntoTheEditBox) {
+TEST_F(ListedProposalsTest, AClickOnTheTextTicksTheRowAndTakesItIntoTheEditBox) {
     ClickText(Elm);
     EXPECT_EQ(Ticked(), QStringList{Elm});
     EXPECT_EQ(Selected("LvChanges"), QStringList());
@@ -213,7 +213,7 @@ TEST_F(ChangeRowsTest, AClickOnTheTextTicksTheRowAndTakesItIntoTheEditBox) {
     ExpectEnabled("cbCancel cbOk tbEdit cbApplySelected cbApplySelSpell cbClearSel cbEditSel");
 }
 
-TEST_F(ChangeRowsTest, ASecondClickOnTheTextKeepsTheTick) {
+TEST_F(ListedProposalsTest, ASecondClickOnTheTextKeepsTheTick) {
     ClickText(Elm);
     ClickText(Elm);
     EXPECT_EQ(Ticked(), QStringList{Elm});
@@ -223,7 +223,7 @@ TEST_F(ChangeRowsTest, ASecondClickOnTheTextKeepsTheTick) {
     EXPECT_EQ(TextOf("lbSelectCount"), QStringLiteral("Selected=2"));
 }
 
-TEST_F(ChangeRowsTest, AClickOnAnInvalidTextTakesItIntoTheEditBoxUnticked) {
+TEST_F(ListedProposalsTest, AClickOnAnInvalidTextTakesItIntoTheEditBoxUnticked) {
     ClickText(Invalid);
     EXPECT_EQ(Ticked(), QStringList());
     EXPECT_EQ(desktop.beeps, 0);
@@ -233,7 +233,7 @@ TEST_F(ChangeRowsTest, AClickOnAnInvalidTextTakesItIntoTheEditBoxUnticked) {
     ExpectEnabled("cbCancel tbEdit cbApplyAll cbApplyAllSpell cbClearSel");
 }
 
-TEST_F(ChangesTest, AClickOnASpellingOfTheDistrictSaysSo) {
+TEST_F(ProposalsTest, AClickOnASpellingOfTheDistrictSaysSo) {
     OpenDistrict();
     Process("!ALFA\n");
     ClickText(QStringLiteral("!ALFA"));
@@ -244,7 +244,7 @@ TEST_F(ChangesTest, AClickOnASpellingOfTheDistrictSaysSo) {
     EXPECT_FALSE(Enabled("cbOk"));
 }
 
-TEST_F(ChangeRowsTest, AClickEndsTheEditingOfAVariation) {
+TEST_F(ListedProposalsTest, AClickEndsTheEditingOfAVariation) {
     ClickRow("lvVariations", QStringLiteral("Betta"));
     ClickText(Elm);
     EXPECT_EQ(iEditMode, AddingAcceptable);
@@ -252,14 +252,14 @@ TEST_F(ChangeRowsTest, AClickEndsTheEditingOfAVariation) {
     EXPECT_EQ(Column("lvVariations"), (QStringList{QStringLiteral("Alfa"), QStringLiteral("Betta"), Elm}));
 }
 
-TEST_F(ChangeRowsTest, AClickBelowTheRowsDoesNothing) {
+TEST_F(ListedProposalsTest, AClickBelowTheRowsDoesNothing) {
     ClickBelowRows("LvChanges");
     EXPECT_EQ(Ticked(), QStringList());
     EXPECT_EQ(EditText(), QString());
     ExpectEnabled(Listed);
 }
 
-TEST_F(ChangeRowsTest, AClickedProposalCanBeChangedAndAdded) {
+TEST_F(ListedProposalsTest, AClickedProposalCanBeChangedAndAdded) {
     ClickText(Elm);
     Key("tbEdit", Qt::Key_S);
     Click("cbOk");

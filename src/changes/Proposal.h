@@ -5,8 +5,8 @@
 
 namespace CommonRoutines {
 
-// A row of LvChanges: a proposed variation.
-struct ChangeRow {
+// What a change file brings: a proposed variation, shown as a row of LvChanges.
+struct Proposal {
     enum Tag : std::int16_t { Invalid = -1, Valid = 0, Heading = 1 };
 
     std::string sText;

@@ -8,7 +8,7 @@
 #include <QLineEdit>
 
 // The main window with a district chosen and a change file to be processed.
-class ChangesTest : public FormTest {
+class ProposalsTest : public FormTest {
 protected:
     // Opens a file with the districts Alpha, which has these variations, and Beta, and chooses Alpha.
     void OpenDistrict(const std::string& variations = "|Alfa|Betta") {

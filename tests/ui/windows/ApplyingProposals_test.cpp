@@ -1,6 +1,6 @@
-// Applying the proposals of the change list to the district, and taking that back.
+// Applying proposals to the district, and taking that back.
 
-#include "ui/windows/ChangesTest.h"
+#include "ui/windows/ProposalsTest.h"
 
 #include "edit/UndoJournal.h"
 
@@ -12,9 +12,9 @@ const QString Elm = QStringLiteral("Elm");
 const QString Oak = QStringLiteral("Oak");
 
 // Four proposals are listed, one of them invalid.
-class ApplyingChangesTest : public ChangesTest {
+class ApplyingProposalsTest : public ProposalsTest {
 protected:
-    ApplyingChangesTest() {
+    ApplyingProposalsTest() {
         OpenDistrict();
         Process("Elm\n!Ash\nSm?th\nOak\n");
     }
@@ -27,7 +27,7 @@ protected:
 
 } // namespace
 
-TEST_F(ApplyingChangesTest, ApplyAllAddsEveryValidProposal) {
+TEST_F(ApplyingProposalsTest, ApplyAllAddsEveryValidProposal) {
     ExpectAdded(3);
     Click("cbApplyAll");
     EXPECT_EQ(Variations(), QStringLiteral("!Ash Alfa Betta Elm Oak"));
@@ -39,14 +39,14 @@ TEST_F(ApplyingChangesTest, ApplyAllAddsEveryValidProposal) {
     ExpectEnabled("cbAdd cbDelete cbSaveVariations cbOpen cbSave cbClearSel cbCompleteCheck lbComments");
 }
 
-TEST_F(ApplyingChangesTest, ApplyAllAsSpellingMarksThem) {
+TEST_F(ApplyingProposalsTest, ApplyAllAsSpellingMarksThem) {
     ExpectAdded(3);
     Click("cbApplyAllSpell");
     EXPECT_EQ(Variations(), QStringLiteral("!Ash !Elm !Oak Alfa Betta"));
     EXPECT_EQ(TextOf("lbUndo"), QStringLiteral("Add !Oak to Alpha"));
 }
 
-TEST_F(ApplyingChangesTest, ApplySelectedAddsTheTickedOnes) {
+TEST_F(ApplyingProposalsTest, ApplySelectedAddsTheTickedOnes) {
     ClickBox(Elm);
     ClickBox(QStringLiteral("!Ash"));
     ExpectAdded(2);
@@ -54,14 +54,14 @@ TEST_F(ApplyingChangesTest, ApplySelectedAddsTheTickedOnes) {
     EXPECT_EQ(Variations(), QStringLiteral("!Ash Alfa Betta Elm"));
 }
 
-TEST_F(ApplyingChangesTest, ApplySelectedAsSpellingMarksTheTickedOnes) {
+TEST_F(ApplyingProposalsTest, ApplySelectedAsSpellingMarksTheTickedOnes) {
     ClickBox(Oak);
     ExpectAdded(1);
     Click("cbApplySelSpell");
     EXPECT_EQ(Variations(), QStringLiteral("!Oak Alfa Betta"));
 }
 
-TEST_F(ApplyingChangesTest, RowsAndTicksStayWhereTheyAre) {
+TEST_F(ApplyingProposalsTest, RowsAndTicksStayWhereTheyAre) {
     ClickBox(Oak);
     ExpectAdded(1);
     Click("cbApplySelected");
@@ -75,7 +75,7 @@ TEST_F(ApplyingChangesTest, RowsAndTicksStayWhereTheyAre) {
         "cbAdd cbDelete cbSaveVariations cbOpen cbSave cbApplyAll cbApplyAllSpell cbCompleteCheck lbComments");
 }
 
-TEST_F(ApplyingChangesTest, ATickAfterApplyingOffersTheNextApplication) {
+TEST_F(ApplyingProposalsTest, ATickAfterApplyingOffersTheNextApplication) {
     ExpectAdded(3);
     Click("cbApplyAll");
     ClickBox(Elm);
@@ -83,7 +83,7 @@ TEST_F(ApplyingChangesTest, ATickAfterApplyingOffersTheNextApplication) {
                   "cbCompleteCheck lbComments cbEditSel");
 }
 
-TEST_F(ApplyingChangesTest, WithTheDistrictChosenAgainProposalsCanBeApplied) {
+TEST_F(ApplyingProposalsTest, WithTheDistrictChosenAgainProposalsCanBeApplied) {
     ClickBox(Oak);
     ExpectAdded(1);
     Click("cbApplySelected");
@@ -96,7 +96,7 @@ TEST_F(ApplyingChangesTest, WithTheDistrictChosenAgainProposalsCanBeApplied) {
     EXPECT_EQ(TextOf("lbUndo"), QStringLiteral("Add Oak to Beta"));
 }
 
-TEST_F(ApplyingChangesTest, IgnoredProposalsAreListed) {
+TEST_F(ApplyingProposalsTest, IgnoredProposalsAreListed) {
     Process("ALFA\nElm\nalpha\n");
     desktop.ExpectBox("1 New variations added.\r\n2 lines ignored which duplicate existing variations.",
                       BoxIcon::Information);
@@ -108,7 +108,7 @@ TEST_F(ApplyingChangesTest, IgnoredProposalsAreListed) {
     EXPECT_TRUE(desktop.reports[0].bCanPrintAndSave);
 }
 
-TEST_F(ChangesTest, DuplicatesThatWereThereBeforeAreListedAndStayInTheSummary) {
+TEST_F(ProposalsTest, DuplicatesThatWereThereBeforeAreListedAndStayInTheSummary) {
     OpenDistrict("|Alfa|ALFA");
     desktop.reports.clear();
     Process("alfa\n");
@@ -127,7 +127,7 @@ TEST_F(ChangesTest, DuplicatesThatWereThereBeforeAreListedAndStayInTheSummary) {
     EXPECT_FALSE(Enabled("cbSave"));
 }
 
-TEST_F(ChangesTest, ADistrictWithoutVariationsStaysWithoutThemWhenNothingIsAdded) {
+TEST_F(ProposalsTest, ADistrictWithoutVariationsStaysWithoutThemWhenNothingIsAdded) {
     OpenDistrict("");
     Process("Sm?th\n");
     desktop.ExpectBox("0 New variations added.\r\n1 invalid variations were ignored", BoxIcon::Information);
@@ -137,7 +137,7 @@ TEST_F(ChangesTest, ADistrictWithoutVariationsStaysWithoutThemWhenNothingIsAdded
     EXPECT_EQ(TextOf("lbUndo"), QString());
 }
 
-TEST_F(ChangesTest, NoToManyProposalsLeavesTheWindowAsItWas) {
+TEST_F(ProposalsTest, NoToManyProposalsLeavesTheWindowAsItWas) {
     OpenDistrict();
     std::string content;
     for (int i = 1; i <= 21; ++i) {
@@ -158,7 +158,7 @@ TEST_F(ChangesTest, NoToManyProposalsLeavesTheWindowAsItWas) {
     EXPECT_EQ(Column("lvVariations").size(), 23);
 }
 
-TEST_F(ApplyingChangesTest, UndoTakesAnApplicationBackOneByOne) {
+TEST_F(ApplyingProposalsTest, UndoTakesAnApplicationBackOneByOne) {
     ExpectAdded(3);
     Click("cbApplyAll");
     Click("cbUndo");
@@ -175,7 +175,7 @@ TEST_F(ApplyingChangesTest, UndoTakesAnApplicationBackOneByOne) {
     EXPECT_EQ(iEditMode, DistrictIdle);
 }
 
-TEST_F(ApplyingChangesTest, UndoGoesBackToTheDistrictThatWasAppliedTo) {
+TEST_F(ApplyingProposalsTest, UndoGoesBackToTheDistrictThatWasAppliedTo) {
     ExpectAdded(3);
     Click("cbApplyAll");
     ClickRow("lvAlpha", QStringLiteral("Beta"));
@@ -184,7 +184,7 @@ TEST_F(ApplyingChangesTest, UndoGoesBackToTheDistrictThatWasAppliedTo) {
     EXPECT_EQ(Variations(), QStringLiteral("!Ash Alfa Betta Elm"));
 }
 
-TEST_F(ApplyingChangesTest, AppliedVariationsAreSaved) {
+TEST_F(ApplyingProposalsTest, AppliedVariationsAreSaved) {
     ClickBox(Oak);
     ExpectAdded(1);
     Click("cbApplySelSpell");

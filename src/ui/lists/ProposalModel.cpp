@@ -1,4 +1,4 @@
-#include "ui/lists/ChangeModel.h"
+#include "ui/lists/ProposalModel.h"
 
 #include "ui/Text.h"
 #include "ui/lists/StateColours.h"
@@ -12,22 +12,22 @@ using namespace CommonRoutines;
 
 namespace {
 
-VariationState StateOf(const ChangeRow& row) {
-    if (row.bWarning) {
+VariationState StateOf(const Proposal& proposal) {
+    if (proposal.bWarning) {
         return VariationState::Warning;
     }
-    return row.iTag == ChangeRow::Invalid ? VariationState::Invalid : VariationState::Plain;
+    return proposal.iTag == Proposal::Invalid ? VariationState::Invalid : VariationState::Plain;
 }
 
-QString RowInWords(const ChangeRow& row) {
+QString KindInWords(const Proposal& proposal) {
     QString words;
-    if (row.iTag == ChangeRow::Heading) {
+    if (proposal.iTag == Proposal::Heading) {
         words += QStringLiteral(" - heading");
     }
-    if (row.iTag == ChangeRow::Invalid) {
+    if (proposal.iTag == Proposal::Invalid) {
         words += StateInWords(VariationState::Invalid);
     }
-    if (row.bWarning) {
+    if (proposal.bWarning) {
         words += StateInWords(VariationState::Warning);
     }
     return words;
@@ -35,7 +35,7 @@ QString RowInWords(const ChangeRow& row) {
 
 } // namespace
 
-void ChangeModel::Show(const Commands::ListView<ChangeRow>& list) {
+void ProposalModel::Show(const Commands::ListView<Proposal>& list) {
     if (m_rows.AreOthersThan(list)) {
         beginResetModel();
         m_rows.Take(list);
@@ -45,22 +45,22 @@ void ChangeModel::Show(const Commands::ListView<ChangeRow>& list) {
     }
 }
 
-int ChangeModel::rowCount(const QModelIndex& parent) const {
+int ProposalModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : m_rows.Count();
 }
 
-QVariant ChangeModel::data(const QModelIndex& index, int role) const {
-    const ChangeRow& row = m_rows.At(index.row());
+QVariant ProposalModel::data(const QModelIndex& index, int role) const {
+    const Proposal& proposal = m_rows.At(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return Text::ForList(row.sText);
+        return Text::ForList(proposal.sText);
     case Qt::ForegroundRole:
-        return StateColours::InList(StateOf(row), QGuiApplication::palette());
+        return StateColours::InList(StateOf(proposal), QGuiApplication::palette());
     case Qt::CheckStateRole:
-        return row.bChecked ? Qt::Checked : Qt::Unchecked;
+        return proposal.bChecked ? Qt::Checked : Qt::Unchecked;
     case Qt::AccessibleTextRole:
     case Qt::ToolTipRole: {
-        const QString words = Text::ForList(row.sText) + RowInWords(row);
+        const QString words = Text::ForList(proposal.sText) + KindInWords(proposal);
         return role == Qt::ToolTipRole ? Text::ForToolTip(words) : words;
     }
     default:
@@ -68,7 +68,7 @@ QVariant ChangeModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-bool ChangeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+bool ProposalModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::CheckStateRole) {
         return false;
     }
@@ -77,12 +77,12 @@ bool ChangeModel::setData(const QModelIndex& index, const QVariant& value, int r
     return m_rows.At(index.row()).bChecked == wanted;
 }
 
-Qt::ItemFlags ChangeModel::flags(const QModelIndex& index) const {
+Qt::ItemFlags ProposalModel::flags(const QModelIndex& index) const {
     const Qt::ItemFlags usual = QAbstractListModel::flags(index);
     return index.isValid() ? usual | Qt::ItemIsUserCheckable : usual;
 }
 
-QVariant ChangeModel::headerData(int /*section*/, Qt::Orientation orientation, int role) const {
+QVariant ProposalModel::headerData(int /*section*/, Qt::Orientation orientation, int role) const {
     return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(QStringLiteral("Proposed variation"))
                                                                     : QVariant();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "changes/ChangeRow.h"
+#include "changes/Proposal.h"
 
 #include <cstdint>
 #include <span>
@@ -8,8 +8,8 @@
 
 namespace CommonRoutines {
 
-// Which commands for the change list make sense for the rows that are ticked.
-struct ChangeSelection {
+// Which commands make sense for the proposals that are ticked.
+struct ProposalSelection {
     std::int32_t lCheckedChanges = 0;
     std::string count; // for lbSelectCount; empty when no row is ticked
     bool applySelected = false;
@@ -18,8 +18,8 @@ struct ChangeSelection {
 };
 
 // Counts the ticked rows that may be applied.
-[[nodiscard]] std::int32_t CountCheckedChanges(std::span<const ChangeRow> rows);
+[[nodiscard]] std::int32_t CountCheckedChanges(std::span<const Proposal> proposals);
 
-[[nodiscard]] ChangeSelection DescribeChangeSelection(std::span<const ChangeRow> rows);
+[[nodiscard]] ProposalSelection DescribeProposalSelection(std::span<const Proposal> proposals);
 
 } // namespace CommonRoutines

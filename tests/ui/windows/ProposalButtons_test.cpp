@@ -1,6 +1,6 @@
-// The commands beside the change list, other than applying it.
+// The commands beside the proposals, other than applying them.
 
-#include "ui/windows/ChangesTest.h"
+#include "ui/windows/ProposalsTest.h"
 
 using namespace CommonRoutines;
 
@@ -12,16 +12,16 @@ const QString Alfa = QStringLiteral("Alfa");
 const QString Betta = QStringLiteral("Betta");
 
 // Two proposals are listed, the second of which the district has already.
-class ChangeButtonsTest : public ChangesTest {
+class ProposalButtonsTest : public ProposalsTest {
 protected:
-    ChangeButtonsTest() {
+    ProposalButtonsTest() {
         OpenDistrict();
         Process("Elm\nALFA\n!Oak\n");
     }
 };
 
 // A change file is listed, but another data file has been opened since.
-class NoDistrictTest : public ChangesTest {
+class NoDistrictTest : public ProposalsTest {
 protected:
     NoDistrictTest() {
         OpenDistrict();
@@ -49,7 +49,7 @@ protected:
 
 // Edit.
 
-TEST_F(ChangeButtonsTest, EditStartsAnAddWithTheTickedProposal) {
+TEST_F(ProposalButtonsTest, EditStartsAnAddWithTheTickedProposal) {
     ClickBox(Elm);
     Click("cbEditSel");
     EXPECT_EQ(EditText(), Elm);
@@ -61,7 +61,7 @@ TEST_F(ChangeButtonsTest, EditStartsAnAddWithTheTickedProposal) {
     EXPECT_EQ(Column("lvVariations"), (QStringList{Alfa, Betta, Elm}));
 }
 
-TEST_F(ChangeButtonsTest, EditSaysWhatTheProposalRepeats) {
+TEST_F(ProposalButtonsTest, EditSaysWhatTheProposalRepeats) {
     ClickBox(QStringLiteral("ALFA"));
     Click("cbEditSel");
     EXPECT_EQ(EditText(), QStringLiteral("ALFA"));
@@ -70,7 +70,7 @@ TEST_F(ChangeButtonsTest, EditSaysWhatTheProposalRepeats) {
     ExpectEnabled("cbCancel tbEdit");
 }
 
-TEST_F(ChangeButtonsTest, EditReplacesTheTextOfTheSelectedVariation) {
+TEST_F(ProposalButtonsTest, EditReplacesTheTextOfTheSelectedVariation) {
     ClickRow("lvVariations", Betta);
     ClickBox(QStringLiteral("!Oak"));
     Click("cbEditSel");
@@ -81,7 +81,7 @@ TEST_F(ChangeButtonsTest, EditReplacesTheTextOfTheSelectedVariation) {
     EXPECT_EQ(TextOf("lbUndo"), QStringLiteral("Change Betta to !Oak"));
 }
 
-TEST_F(ChangeButtonsTest, TicksSurviveACancelledEdit) {
+TEST_F(ProposalButtonsTest, TicksSurviveACancelledEdit) {
     ClickBox(Elm);
     Click("cbEditSel");
     Click("cbCancel");
@@ -94,7 +94,7 @@ TEST_F(ChangeButtonsTest, TicksSurviveACancelledEdit) {
 
 // Clear.
 
-TEST_F(ChangeButtonsTest, ClearUnticksAllProposals) {
+TEST_F(ProposalButtonsTest, ClearUnticksAllProposals) {
     ClickBox(Elm);
     ClickBox(QStringLiteral("!Oak"));
     Click("cbClearSel");
@@ -103,7 +103,7 @@ TEST_F(ChangeButtonsTest, ClearUnticksAllProposals) {
     ExpectEnabled("cbAdd cbOpen tbEdit btnProcess cbApplyAll cbApplyAllSpell cbCompleteCheck lbComments");
 }
 
-TEST_F(ChangeButtonsTest, ClearLeavesTheTextBeingAddedAlone) {
+TEST_F(ProposalButtonsTest, ClearLeavesTheTextBeingAddedAlone) {
     ClickText(Elm);
     Click("cbClearSel");
     EXPECT_EQ(EditText(), Elm);
@@ -113,7 +113,7 @@ TEST_F(ChangeButtonsTest, ClearLeavesTheTextBeingAddedAlone) {
 
 // The option boxes.
 
-TEST_F(ChangeButtonsTest, WithoutTickedRowsTheOptionsCannotBeChosen) {
+TEST_F(ProposalButtonsTest, WithoutTickedRowsTheOptionsCannotBeChosen) {
     ClickOption("cbSpelling");
     EXPECT_FALSE(BoxTicked("cbSpelling"));
     EXPECT_EQ(desktop.beeps, 1);
@@ -122,7 +122,7 @@ TEST_F(ChangeButtonsTest, WithoutTickedRowsTheOptionsCannotBeChosen) {
     EXPECT_EQ(desktop.beeps, 2);
 }
 
-TEST_F(ChangeButtonsTest, WithTickedRowsOneOfTheTwoOptionsCanBeChosen) {
+TEST_F(ProposalButtonsTest, WithTickedRowsOneOfTheTwoOptionsCanBeChosen) {
     ClickBox(Elm);
     ClickOption("cbSpelling");
     EXPECT_TRUE(BoxTicked("cbSpelling"));
@@ -139,7 +139,7 @@ TEST_F(ChangeButtonsTest, WithTickedRowsOneOfTheTwoOptionsCanBeChosen) {
     EXPECT_EQ(iEditMode, DistrictIdle);
 }
 
-TEST_F(ChangeButtonsTest, WhileAProposalIsAddedVariationSaysWhatTheTextIs) {
+TEST_F(ProposalButtonsTest, WhileAProposalIsAddedVariationSaysWhatTheTextIs) {
     ClickText(QStringLiteral("!Oak"));
     ClickOption("cbVariation");
     EXPECT_FALSE(BoxTicked("cbVariation"));
@@ -150,7 +150,7 @@ TEST_F(ChangeButtonsTest, WhileAProposalIsAddedVariationSaysWhatTheTextIs) {
     EXPECT_EQ(desktop.beeps, 0);
 }
 
-TEST_F(ChangeButtonsTest, WhileAProposalIsAddedSpellingMayBeTickedBesideVariation) {
+TEST_F(ProposalButtonsTest, WhileAProposalIsAddedSpellingMayBeTickedBesideVariation) {
     ClickText(Elm);
     ClickOption("cbSpelling");
     EXPECT_TRUE(BoxTicked("cbSpelling"));
