@@ -66,7 +66,7 @@ double BenchWindow::TimeToReport(const char* button, std::size_t& lines) {
     QElapsedTimer clock;
     double time = 0;
     desktop.onReport = [&](const Report& report) {
-        lines = report.Items.size();
+        lines = report.items.size();
         ShowReport(report, [&] { time = Milliseconds(clock); });
     };
     clock.start();

@@ -185,7 +185,7 @@ void MeasureApplying(const std::string& file, const std::string& proposals) {
     BenchWindow window;
     Times times;
     std::size_t ignored = 0;
-    window.desktop.onReport = [&](const Report& report) { ignored = report.Items.size(); };
+    window.desktop.onReport = [&](const Report& report) { ignored = report.items.size(); };
     std::int32_t added = 0;
     for (int round = 0; round < ApplyingRounds; ++round) {
         window.Open(file);

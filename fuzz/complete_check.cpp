@@ -74,7 +74,7 @@ void CheckDistrict(std::int32_t district) {
     ForEachPair(entries, [&](const Entry& a, const Entry& b) {
         ++pairs;
         const DupePair& pair = DupePairs[static_cast<std::size_t>(pairs)];
-        Demand(pair.First == a.text && pair.Second == b.text);
+        Demand(pair.first == a.text && pair.second == b.text);
         isDuplicate[static_cast<std::size_t>(a.slot)] = isDuplicate[static_cast<std::size_t>(b.slot)] = true;
     });
     Demand(any == (pairs > 0) && record.iDuplicateCount == pairs && lDupePairCount == pairs);
@@ -85,7 +85,7 @@ void CheckDistrict(std::int32_t district) {
                (variation.lDuplicateOf >= 1 && variation.lDuplicateOf <= record.lVariationCount));
     }
     for (const VariationRow& row : ListVariations(district).rows) {
-        Demand(row.lIndex >= 1 && row.lIndex <= record.lVariationCount);
+        Demand(row.slot >= 1 && row.slot <= record.lVariationCount);
     }
 }
 
@@ -96,9 +96,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     CommentTypes.Reset();
     FuzzDesktop desktop({reinterpret_cast<const char*>(data), size}, "");
     ReadDistrictFile(desktop);
-    const std::vector<std::string> findings = CompleteVariationCheck(desktop).Items;
+    const std::vector<std::string> findings = CompleteVariationCheck(desktop).items;
     Demand(findings == SlowFindings());
-    Demand(findings == CompleteVariationCheck(desktop).Items);
+    Demand(findings == CompleteVariationCheck(desktop).items);
     for (std::int32_t district = 1; district <= lLineCount; ++district) {
         if (IsDistrict(district)) {
             CheckDistrict(district);

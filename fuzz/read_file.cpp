@@ -59,7 +59,7 @@ void LookAtEverything() {
     const std::vector<std::int32_t> districts = DistrictsByName();
     ReportDuplicatedDistricts(districts, desktop);
     for (const CommentType& type : CommentTypes.Items()) {
-        static_cast<void>(DistrictsOfType(districts, type.sType));
+        static_cast<void>(DistrictsOfType(districts, type.type));
     }
     for (const std::int32_t district : districts) {
         static_cast<void>(

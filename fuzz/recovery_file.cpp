@@ -3,8 +3,8 @@
 
 #include "FuzzDesktop.h"
 
-#include "core/State.h"
 #include "commands/RestoreChanges.h"
+#include "core/State.h"
 #include "file/DistrictFileReader.h"
 #include "file/DistrictFileWriter.h"
 #include "recovery/RecoveryFile.h"
@@ -29,7 +29,7 @@ void Require(bool condition) {
 std::string Rewritten(const RecoveryFile& file) {
     std::string content = RecoveryHeader(file.file);
     for (const SlotChange& change : file.changes) {
-        content += RecoveryRecord(change.lLine, change.lSlot, change.sText);
+        content += RecoveryRecord(change.line, change.slot, change.text);
     }
     if (file.savedAs) {
         content += SavingRecord(*file.savedAs);
@@ -65,9 +65,9 @@ bool LastTextsAreInTable(const RecoveryFile& file) {
         const SlotChange& change = file.changes[i];
         const bool isLast = std::none_of(
             file.changes.begin() + static_cast<std::ptrdiff_t>(i) + 1, file.changes.end(),
-            [&](const SlotChange& later) { return later.lLine == change.lLine && later.lSlot == change.lSlot; });
-        const DistrictRecord& record = RecordOf(change.lLine);
-        if (isLast && record.Variations[static_cast<std::size_t>(change.lSlot)].Text != change.sText) {
+            [&](const SlotChange& later) { return later.line == change.line && later.slot == change.slot; });
+        const DistrictRecord& record = RecordOf(change.line);
+        if (isLast && record.Variations[static_cast<std::size_t>(change.slot)].Text != change.text) {
             return false;
         }
     }

@@ -20,7 +20,7 @@ constexpr bool KeepPairs = true;
 
 bool UserAgrees(std::span<const Proposal> proposals, bool selectedOnly, Desktop& desktop) {
     const auto candidates = std::count_if(proposals.begin(), proposals.end(), [&](const Proposal& proposal) {
-        return proposal.iTag == Proposal::Valid && (!selectedOnly || proposal.bChecked);
+        return proposal.tag == Proposal::Valid && (!selectedOnly || proposal.ticked);
     });
     if (candidates <= MostWithoutQuestion) {
         return true;
@@ -56,12 +56,12 @@ std::optional<AppliedProposals> ApplyChanges(std::span<const Proposal> proposals
     EmptyDupePairs();
     AppliedProposals applied;
     for (const Proposal& proposal : proposals) {
-        if (proposal.iTag != Proposal::Valid) {
+        if (proposal.tag != Proposal::Valid) {
             ++applied.invalid;
             continue;
         }
-        const std::string_view text = Ansi::Trim(proposal.sText);
-        if (text.empty() || (bSelectedOnly && !proposal.bChecked)) {
+        const std::string_view text = Ansi::Trim(proposal.text);
+        if (text.empty() || (bSelectedOnly && !proposal.ticked)) {
             continue;
         }
         ++(AddProposal(lCurrentDistrict, text, bAsSpelling, desktop) ? applied.added : applied.ignored);
@@ -86,10 +86,10 @@ void ReportAppliedProposals(const AppliedProposals& applied, Desktop& desktop) {
     for (std::int32_t i = 1; i <= lDupePairCount; ++i) {
         // The heading stands before every pair that was there already, not once before them all.
         if (i > applied.ignored) {
-            report.Items.emplace_back("The following duplicates already existed in this district");
+            report.items.emplace_back("The following duplicates already existed in this district");
         }
         const DupePair& pair = DupePairs[static_cast<std::size_t>(i)];
-        report.Items.push_back("Variation " + pair.First + " duplicates " + pair.Second);
+        report.items.push_back("Variation " + pair.first + " duplicates " + pair.second);
     }
     desktop.ShowReport(report);
 }

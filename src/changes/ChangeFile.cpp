@@ -32,9 +32,9 @@ bool Contains(std::string_view text, std::string_view part) {
 Proposal CheckedProposal(std::string text) {
     Proposal proposal;
     const Verdict verdict = CheckVariation(Ansi::Trim(text));
-    proposal.iTag = verdict.IsValid() ? Proposal::Valid : Proposal::Invalid;
-    proposal.bWarning = verdict.Warns();
-    proposal.sText = std::move(text);
+    proposal.tag = verdict.IsValid() ? Proposal::Valid : Proposal::Invalid;
+    proposal.warns = verdict.Warns();
+    proposal.text = std::move(text);
     return proposal;
 }
 
@@ -44,19 +44,19 @@ std::string ChangeLineParser::ParseChangeLine(std::string_view line) {
     const std::string upperLine = Ansi::Upper(line);
     const std::string_view upper = Ansi::Trim(upperLine);
     if (Contains(upper, "<HEAD>")) {
-        bInHead = true;
+        m_isInHead = true;
         return {};
     }
     if (Contains(upper, "<TABLE")) {
         return {};
     }
     if (Contains(upper, "<TR>")) {
-        bHeading = upper.starts_with(HeadingRow);
-        return bHeading ? Cut(line, HeadingRow.size(), upper.find('<', HeadingRow.size())) : FirstCell(line, upper);
+        m_isHeading = upper.starts_with(HeadingRow);
+        return m_isHeading ? Cut(line, HeadingRow.size(), upper.find('<', HeadingRow.size())) : FirstCell(line, upper);
     }
     // What stands above the head of a page is no proposal.
     const bool aboveHead = upper.starts_with("<!DOCTYPE") || upper.starts_with("<HTML");
-    return bInHead || aboveHead ? std::string() : std::string(line);
+    return m_isInHead || aboveHead ? std::string() : std::string(line);
 }
 
 std::string ProposalList::Summary() const {
@@ -84,8 +84,8 @@ ProposalList ReadProposals(std::string_view content) {
             continue;
         }
         list.proposals.push_back(CheckedProposal(std::move(text)));
-        list.invalidCount += list.proposals.back().iTag == Proposal::Invalid ? 1 : 0;
-        list.warningCount += list.proposals.back().bWarning ? 1 : 0;
+        list.invalidCount += list.proposals.back().tag == Proposal::Invalid ? 1 : 0;
+        list.warningCount += list.proposals.back().warns ? 1 : 0;
     }
     return list;
 }

@@ -19,11 +19,11 @@ public:
     std::string ParseChangeLine(std::string_view line);
 
     // True when the last row line began exactly as a row of headings does.
-    [[nodiscard]] bool IsHeading() const { return bHeading; }
+    [[nodiscard]] bool IsHeading() const { return m_isHeading; }
 
 private:
-    bool bHeading = false; // the last row line began with "<TR><TD>"
-    bool bInHead = false;  // a line with "<HEAD>" has been seen
+    bool m_isHeading = false; // the last row line began with "<TR><TD>"
+    bool m_isInHead = false;  // a line with "<HEAD>" has been seen
 };
 
 // The proposals of a change file, and how many of them are bad.

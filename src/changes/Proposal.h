@@ -9,10 +9,10 @@ namespace CommonRoutines {
 struct Proposal {
     enum Tag : std::int16_t { Invalid = -1, Valid = 0, Heading = 1 };
 
-    std::string sText;
-    std::int16_t iTag = Valid;
-    bool bWarning = false; // its own check raised a warning
-    bool bChecked = false;
+    std::string text;
+    std::int16_t tag = Valid;
+    bool warns = false; // its own check raised a warning
+    bool ticked = false;
 };
 
 } // namespace CommonRoutines

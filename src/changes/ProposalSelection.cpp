@@ -6,7 +6,7 @@ namespace CommonRoutines {
 
 std::int32_t CountCheckedChanges(std::span<const Proposal> proposals) {
     return static_cast<std::int32_t>(std::count_if(proposals.begin(), proposals.end(), [](const Proposal& proposal) {
-        return proposal.bChecked && proposal.iTag == Proposal::Valid;
+        return proposal.ticked && proposal.tag == Proposal::Valid;
     }));
 }
 

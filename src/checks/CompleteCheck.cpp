@@ -56,13 +56,13 @@ Report CompleteVariationCheck(Desktop& desktop) {
     Report report;
     for (std::size_t j = 1; j + 1 < keys.size(); ++j) {
         if (SameSpelling(keys[j], keys[j + 1])) {
-            report.Items.push_back(Finding(keys[j], keys[j + 1]));
+            report.items.push_back(Finding(keys[j], keys[j + 1]));
         }
         progress.Advance(1);
     }
     desktop.ShowBusy(false);
-    if (report.Items.empty()) {
-        report.Items.emplace_back("No duplicates found");
+    if (report.items.empty()) {
+        report.items.emplace_back("No duplicates found");
     }
     return report;
 }

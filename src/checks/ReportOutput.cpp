@@ -12,7 +12,7 @@ std::vector<std::string> ReportLines(const Report& report, std::string_view data
         "Check performed on " + desktop.Today() + " at " + desktop.ShortTime(),
         "",
     };
-    lines.insert(lines.end(), report.Items.begin(), report.Items.end());
+    lines.insert(lines.end(), report.items.begin(), report.items.end());
     return lines;
 }
 
@@ -32,10 +32,10 @@ void PrintReport(const Report& report, const std::string& dataFile, Desktop& des
 
 void SaveReport(const Report& report, const std::string& dataFile, Desktop& desktop) {
     FileRequest request;
-    request.sFileName = ReportFileName(dataFile);
-    request.sFolder = desktop.ProgramFolder();
-    request.sDefaultExtension = "txt";
-    request.bAskBeforeReplacing = false; // a newer report takes the place of the one before
+    request.fileName = ReportFileName(dataFile);
+    request.folder = desktop.ProgramFolder();
+    request.defaultExtension = "txt";
+    request.asksBeforeReplacing = false; // a newer report takes the place of the one before
     const auto path = desktop.ChooseFileToSave(request);
     if (!path) {
         return;

@@ -7,8 +7,8 @@ namespace CommonRoutines {
 
 void SaveSelectedVariations(std::span<const std::string> variations, Desktop& desktop) {
     FileRequest request;
-    request.sTitle = "Open Variation Save File";
-    request.sDefaultExtension = "txt";
+    request.title = "Open Variation Save File";
+    request.defaultExtension = "txt";
     const auto path = desktop.ChooseFileToSave(request);
     if (!path) {
         return;

@@ -18,7 +18,7 @@ void CompleteCheck(Session& session) {
 void SaveVariations(Session& session) {
     std::vector<std::string> texts;
     for (const VariationRow& row : SelectedVariations(session)) {
-        texts.push_back(VariationOf(session.view.variationsOf, row.lIndex).Text);
+        texts.push_back(VariationOf(session.view.variationsOf, row.slot).Text);
     }
     SaveSelectedVariations(texts, session.desktop);
 }

@@ -91,7 +91,7 @@ void ChooseCommentType(Session& session, const std::vector<int>& rows) {
     view.applyTo = 0;
     view.whyError.text.clear();
     // The columns are already as wide as the widest row of the whole file.
-    const std::string& type = CommentTypes.Items()[static_cast<std::size_t>(rows.front())].sType;
+    const std::string& type = CommentTypes.Items()[static_cast<std::size_t>(rows.front())].type;
     view.districts.Fill(DistrictsOfType(session.districtsByName, type));
 }
 

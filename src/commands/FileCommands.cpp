@@ -95,9 +95,9 @@ void Open(Session& session) {
     }
     ResetWindow(session);
     FileRequest request;
-    request.sFolder = session.desktop.GetSetting(Settings::Section, Settings::DataFolder);
-    if (request.sFolder.empty()) {
-        request.sFolder = session.desktop.ProgramFolder();
+    request.folder = session.desktop.GetSetting(Settings::Section, Settings::DataFolder);
+    if (request.folder.empty()) {
+        request.folder = session.desktop.ProgramFolder();
     }
     if (const auto path = session.desktop.ChooseFileToOpen(request)) {
         ReadAndShow(session, *path);

@@ -23,7 +23,7 @@ namespace {
 
 void SetTick(Session& session, int row, bool ticked) {
     ListView<Proposal>& list = session.view.proposals;
-    (*list.rows)[static_cast<std::size_t>(row)].bChecked = ticked;
+    (*list.rows)[static_cast<std::size_t>(row)].ticked = ticked;
     ++list.touched;
 }
 
@@ -77,7 +77,7 @@ void Apply(Session& session, bool selectedOnly, bool asSpelling) {
 void ProcessFile(Session& session) {
     ClearWhyError(session);
     FileRequest request;
-    request.sFolder = session.desktop.GetSetting(Settings::Section, Settings::ChangeFolder);
+    request.folder = session.desktop.GetSetting(Settings::Section, Settings::ChangeFolder);
     const auto path = session.desktop.ChooseFileToOpen(request);
     if (!path) {
         return;
@@ -115,9 +115,9 @@ void ApplySelectedAsSpelling(Session& session) {
 void EditTicked(Session& session) {
     const auto& proposals = *session.view.proposals.rows;
     const auto ticked =
-        std::find_if(proposals.begin(), proposals.end(), [](const Proposal& proposal) { return proposal.bChecked; });
+        std::find_if(proposals.begin(), proposals.end(), [](const Proposal& proposal) { return proposal.ticked; });
     if (ticked != proposals.end()) {
-        PutIntoEditBox(session, ticked->sText);
+        PutIntoEditBox(session, ticked->text);
         FollowEditText(session);
         session.view.focus = Focus::EditBox;
     }
@@ -126,7 +126,7 @@ void EditTicked(Session& session) {
 void UntickAll(Session& session) {
     WindowView& view = session.view;
     for (Proposal& proposal : *view.proposals.rows) {
-        proposal.bChecked = false;
+        proposal.ticked = false;
     }
     ++view.proposals.touched;
     for (const Control control :
@@ -140,7 +140,7 @@ void UntickAll(Session& session) {
 }
 
 void TickProposal(Session& session, int row, bool ticked) {
-    if (ticked && session.view.proposals.At(row).iTag != Proposal::Valid) {
+    if (ticked && session.view.proposals.At(row).tag != Proposal::Valid) {
         session.desktop.Beep();
         return;
     }
@@ -150,11 +150,11 @@ void TickProposal(Session& session, int row, bool ticked) {
 
 void ClickProposal(Session& session, int row) {
     const Proposal& proposal = session.view.proposals.At(row);
-    SetTick(session, row, proposal.iTag == Proposal::Valid);
+    SetTick(session, row, proposal.tag == Proposal::Valid);
     session.view.proposals.selected.clear();
     if (IsDistrict(lCurrentDistrict)) {
         SetMode(AddingUnacceptable);
-        PutIntoEditBox(session, proposal.sText);
+        PutIntoEditBox(session, proposal.text);
         FollowEditText(session);
     }
     UpdateChangeSelection(session);

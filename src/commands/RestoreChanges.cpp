@@ -27,14 +27,14 @@ namespace {
 bool FitsTable(std::span<const SlotChange> changes) {
     std::unordered_map<std::int32_t, std::int32_t> counts;
     for (const SlotChange& change : changes) {
-        if (!IsDistrict(change.lLine)) {
+        if (!IsDistrict(change.line)) {
             return false;
         }
-        auto& count = counts.try_emplace(change.lLine, RecordOf(change.lLine).lVariationCount).first->second;
-        if (change.lSlot > count + 1) {
+        auto& count = counts.try_emplace(change.line, RecordOf(change.line).lVariationCount).first->second;
+        if (change.slot > count + 1) {
             return false;
         }
-        count = std::max(count, change.lSlot);
+        count = std::max(count, change.slot);
     }
     return true;
 }
@@ -55,12 +55,12 @@ void UndoRepairs(const std::set<std::int32_t>& lines) {
 void MakeChanges(std::span<const SlotChange> changes, const std::map<std::int32_t, std::int32_t>& countsAsRead) {
     std::map<std::pair<std::int32_t, std::int32_t>, std::int32_t> added;
     for (const SlotChange& change : changes) {
-        if (change.lSlot <= countsAsRead.at(change.lLine)) {
-            StoreText(change.lLine, change.lSlot, change.sText);
-        } else if (const auto slot = added.find({change.lLine, change.lSlot}); slot != added.end()) {
-            StoreText(change.lLine, slot->second, change.sText);
+        if (change.slot <= countsAsRead.at(change.line)) {
+            StoreText(change.line, change.slot, change.text);
+        } else if (const auto slot = added.find({change.line, change.slot}); slot != added.end()) {
+            StoreText(change.line, slot->second, change.text);
         } else {
-            added[{change.lLine, change.lSlot}] = AddSlot(change.lLine, change.sText);
+            added[{change.line, change.slot}] = AddSlot(change.line, change.text);
         }
     }
 }
@@ -72,15 +72,15 @@ void MakeAll(std::span<const LeftOver* const> wanted) {
     std::map<std::int32_t, std::int32_t> countsAsRead;
     for (const LeftOver* leftOver : wanted) {
         for (const SlotChange& change : leftOver->file->changes) {
-            lines.insert(change.lLine);
-            countsAsRead[change.lLine] = RecordOf(change.lLine).lVariationCount;
+            lines.insert(change.line);
+            countsAsRead[change.line] = RecordOf(change.line).lVariationCount;
         }
     }
     bChanged = true;
     UndoRepairs(lines);
     for (const LeftOver* leftOver : wanted) {
         MakeChanges(leftOver->file->changes, countsAsRead); // which notes them as this editor's own
-        Unsaved.TakeOver(leftOver->sName);
+        Unsaved.TakeOver(leftOver->name);
     }
     for (const std::int32_t line : lines) {
         FindDuplicateVariations(line);
@@ -89,7 +89,7 @@ void MakeAll(std::span<const LeftOver* const> wanted) {
 }
 
 std::string ChangesOf(Desktop& desktop, const LeftOver& leftOver) {
-    return "unsaved changes of " + desktop.State().TimeOf(leftOver.sName);
+    return "unsaved changes of " + desktop.State().TimeOf(leftOver.name);
 }
 
 void TellSetAside(Desktop& desktop, const LeftOver& leftOver, const std::string& what) {
@@ -98,8 +98,8 @@ void TellSetAside(Desktop& desktop, const LeftOver& leftOver, const std::string&
 }
 
 bool IsWanted(Desktop& desktop, const LeftOver& leftOver) {
-    const std::string& path = leftOver.file->file.sPath;
-    const bool isSamePath = path == Unsaved.File().sPath;
+    const std::string& path = leftOver.file->file.path;
+    const bool isSamePath = path == Unsaved.File().path;
     const std::string whose = isSamePath ? "to this file." : "to a file that was the same:\r\n" + Ansi::FromUtf8(path);
     return desktop.MsgBox("There are " + ChangesOf(desktop, leftOver) + " " + whose + "\r\nDo you want them back?",
                           BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
@@ -125,7 +125,7 @@ std::vector<LeftOver> LeftOversOfFile(StateFolder& folder) {
     std::vector<LeftOver> leftOvers = TakeLeftOvers(folder);
     std::erase_if(leftOvers, [&](const LeftOver& leftOver) {
         const bool isOfAnother =
-            leftOver.file && leftOver.file->file.sPath != file.sPath && !leftOver.file->file.HasBytesOf(file);
+            leftOver.file && leftOver.file->file.path != file.path && !leftOver.file->file.HasBytesOf(file);
         if (isOfAnother) {
             GiveBack(folder, leftOver);
         }

@@ -30,7 +30,7 @@ SelectionView DescribeSelection(std::span<const VariationRow> selected) {
     bool other = false;
     bool date = false;
     for (const VariationRow& row : selected) {
-        const std::string_view text = VariationOf(lCurrentDistrict, row.lIndex).Text;
+        const std::string_view text = VariationOf(lCurrentDistrict, row.slot).Text;
         const bool isSpelling = text.starts_with('!');
         spelling = spelling || isSpelling;
         other = other || !isSpelling;
@@ -38,7 +38,7 @@ SelectionView DescribeSelection(std::span<const VariationRow> selected) {
     }
     SelectionView view;
     if (!selected.empty()) {
-        view.reason = ReasonFor(VariationOf(lCurrentDistrict, selected.back().lIndex));
+        view.reason = ReasonFor(VariationOf(lCurrentDistrict, selected.back().slot));
         view.reasonState = selected.back().state;
     }
     if (spelling && other) {
@@ -51,7 +51,7 @@ SelectionView DescribeSelection(std::span<const VariationRow> selected) {
         view.dateCaption = "Remove Date%";
     }
     view.editMode = selected.size() < 2 ? OneSelected : SeveralSelected;
-    view.editIndex = selected.size() == 1 ? selected.front().lIndex : 0;
+    view.editIndex = selected.size() == 1 ? selected.front().slot : 0;
     return view;
 }
 

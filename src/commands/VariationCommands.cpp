@@ -23,7 +23,7 @@ void RefreshSelectedRows(Session& session) {
     ListView<VariationRow>& list = session.view.variations;
     for (const int row : list.selected) {
         VariationRow& shown = (*list.rows)[static_cast<std::size_t>(row)];
-        shown.state = StateOfVariation(VariationOf(session.view.variationsOf, shown.lIndex));
+        shown.state = StateOfVariation(VariationOf(session.view.variationsOf, shown.slot));
     }
     ++list.touched;
 }

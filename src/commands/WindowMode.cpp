@@ -27,7 +27,7 @@ bool EnabledByProposals(Control control, ProposalListState proposals) {
 ProposalListState StateOfProposals(const WindowView& view) {
     const auto& proposals = *view.proposals.rows;
     const bool anyTicked =
-        std::any_of(proposals.begin(), proposals.end(), [](const Proposal& proposal) { return proposal.bChecked; });
+        std::any_of(proposals.begin(), proposals.end(), [](const Proposal& proposal) { return proposal.ticked; });
     return {!proposals.empty(), anyTicked || !view.proposals.selected.empty()};
 }
 

@@ -31,11 +31,11 @@ enum StandardIcon : std::int32_t {
 
 // What a file dialogue starts from. Empty texts leave the choice to the desktop.
 struct FileRequest {
-    std::string sTitle;
-    std::string sFolder;
-    std::string sFileName;
-    std::string sDefaultExtension; // without the point; added to a name that has none
-    bool bAskBeforeReplacing = true;
+    std::string title;
+    std::string folder;
+    std::string fileName;
+    std::string defaultExtension; // without the point; added to a name that has none
+    bool asksBeforeReplacing = true;
 };
 
 class Desktop {

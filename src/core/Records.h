@@ -52,8 +52,8 @@ struct DistrictRecord {
 
 // The texts of two variations that are the same spelling.
 struct DupePair {
-    Ansi::String First;
-    Ansi::String Second;
+    Ansi::String first;
+    Ansi::String second;
 };
 
 } // namespace CommonRoutines

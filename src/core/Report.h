@@ -7,9 +7,9 @@ namespace CommonRoutines {
 
 // What a report window shows: lines of text under a caption. A line may itself hold line breaks.
 struct Report {
-    std::string sCaption = "Duplicate Check";
-    std::vector<std::string> Items;
-    bool bCanPrintAndSave = true;
+    std::string caption = "Duplicate Check";
+    std::vector<std::string> items;
+    bool canPrintAndSave = true;
 };
 
 } // namespace CommonRoutines

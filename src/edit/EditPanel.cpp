@@ -102,7 +102,7 @@ Committed CommitText(std::string_view text, Desktop& desktop) {
 
 std::string DeleteQuestion(std::span<const VariationRow> rows) {
     if (rows.size() == 1) {
-        const std::string_view text = VariationOf(lCurrentDistrict, rows.front().lIndex).Text;
+        const std::string_view text = VariationOf(lCurrentDistrict, rows.front().slot).Text;
         return "Are you sure you want to delete variation " + std::string(Ansi::Trim(text));
     }
     return "Are you sure you want to delete these " + std::to_string(rows.size()) + " variations?";
@@ -111,8 +111,8 @@ std::string DeleteQuestion(std::span<const VariationRow> rows) {
 void DeleteVariations(std::span<const VariationRow> rows, Desktop& desktop) {
     bChanged = true;
     for (const VariationRow& row : rows) {
-        RecordUndoItem(lCurrentDistrict, UndoDelete, VariationOf(lCurrentDistrict, row.lIndex).Text, "", desktop);
-        StoreText(lCurrentDistrict, row.lIndex, DeletedText);
+        RecordUndoItem(lCurrentDistrict, UndoDelete, VariationOf(lCurrentDistrict, row.slot).Text, "", desktop);
+        StoreText(lCurrentDistrict, row.slot, DeletedText);
     }
     lEditIndex = 0;
     FindDuplicateVariations(lCurrentDistrict, !KeepPairs);

@@ -47,11 +47,11 @@ std::string WithMarker(MarkerCommand command, std::string_view text) {
 
 void ChangeMarkers(MarkerCommand command, std::span<const VariationRow> rows, Desktop& desktop) {
     for (const VariationRow& row : rows) {
-        const std::string_view text = VariationOf(lCurrentDistrict, row.lIndex).Text;
+        const std::string_view text = VariationOf(lCurrentDistrict, row.slot).Text;
         const std::string changed = WithMarker(command, text);
         // The journal has the text without blanks at its ends although the table keeps them.
         RecordUndoItem(lCurrentDistrict, UndoChange, Ansi::Trim(changed), text, desktop);
-        StoreText(lCurrentDistrict, row.lIndex, changed);
+        StoreText(lCurrentDistrict, row.slot, changed);
         bChanged = true;
     }
 }

@@ -27,7 +27,7 @@ bool FreeSlotsWith(std::int32_t lDistrict, std::string_view text) {
 // Takes back a change.
 bool ChangeBack(std::int32_t lDistrict, const UndoItem& item, std::span<const VariationRow> rows) {
     const bool listed = std::any_of(rows.begin(), rows.end(), [&](const VariationRow& row) {
-        return VariationOf(lDistrict, row.lIndex).Text == item.sNewName;
+        return VariationOf(lDistrict, row.slot).Text == item.sNewName;
     });
     const std::int32_t slot = listed ? FirstSlotWith(lDistrict, item.sNewName) : 0;
     if (slot == 0) {

@@ -62,7 +62,7 @@ VariationList ListVariations(std::int32_t lDistrict) {
         list.rows.push_back({i, state});
     }
     Ansi::SortByUpperCase(list.rows,
-                          [&](const VariationRow& row) -> std::string_view { return variationAt(row.lIndex).Text; });
+                          [&](const VariationRow& row) -> std::string_view { return variationAt(row.slot).Text; });
     StoreCounts(record, counts);
     list.summary = Summary(record);
     return list;

@@ -12,7 +12,7 @@ namespace CommonRoutines {
 
 // A row of lvVariations. Its text is that of the variation.
 struct VariationRow {
-    std::int32_t lIndex = 0; // slot of the variation in its district
+    std::int32_t slot = 0; // of the variation in its district
     VariationState state = VariationState::Plain;
 };
 

@@ -12,8 +12,8 @@ inline constexpr std::string_view CommentMarker = "#QX_";
 
 // An entry of the comment-type list, with the number that it carries.
 struct CommentType {
-    std::string sType;
-    std::int32_t lItemData = 0;
+    std::string type;
+    std::int32_t itemData = 0;
 };
 
 // The types of comment met in the file, in the order of their appearance, behind the entry " All",

@@ -96,7 +96,7 @@ std::vector<CommentRow> CommentRows(std::int32_t lDistrict, double available, co
         // A comment that fills the room exactly still fits here; in a wrapped one it would not.
         if (rows.size() > MostWrappedRows ||
             WidthPasses(comment, measure, [=](double width) { return width <= available; })) {
-            rows.back().sComment = comment;
+            rows.back().comment = comment;
         } else {
             WrapComment(rows, comment, available, measure);
         }
@@ -110,7 +110,7 @@ void WrapComment(std::vector<CommentRow>& rows, std::string_view sText, double a
         const std::size_t blank = LastFittingBlank(text, available, measure);
         const bool breaks = blank != None && blank + 1 >= EarliestBreak;
         const std::size_t length = breaks ? blank + 1 : text.size();
-        rows.back().sComment = Ansi::Trim(text.substr(0, length));
+        rows.back().comment = Ansi::Trim(text.substr(0, length));
         if (length == text.size()) {
             return;
         }
@@ -121,7 +121,7 @@ void WrapComment(std::vector<CommentRow>& rows, std::string_view sText, double a
         rows.push_back({" ", ""});
         if (rows.size() > MostWrappedRows ||
             WidthPasses(text, measure, [=](double width) { return width < available; })) {
-            rows.back().sComment = text;
+            rows.back().comment = text;
             return;
         }
     }

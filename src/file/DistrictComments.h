@@ -10,8 +10,8 @@ namespace CommonRoutines {
 
 // A row of lvComments. The second and later rows of a long comment have a single blank as their type.
 struct CommentRow {
-    std::string sType;
-    std::string sComment;
+    std::string type;
+    std::string comment;
 
     bool operator==(const CommentRow&) const = default;
 };

@@ -256,18 +256,18 @@ void FileRead::ReportLine() {
         message += "District " + name + " has duplicate variations.";
     }
     if (!message.empty()) {
-        m_report.Items.push_back(std::move(message));
+        m_report.items.push_back(std::move(message));
         m_hasMessages = true;
     }
 }
 
 void FileRead::ShowReport() {
     if (m_warningCount > 0) {
-        m_report.Items.push_back("There were " + Number(m_warningCount) + " Variations with warnings.\r\n");
+        m_report.items.push_back("There were " + Number(m_warningCount) + " Variations with warnings.\r\n");
     }
     // Warnings alone are no reason to show it.
     if (m_hasMessages || m_capsCount >= 1) {
-        m_report.Items.push_back(Number(m_capsCount) + " variations with capitalisation problems");
+        m_report.items.push_back(Number(m_capsCount) + " variations with capitalisation problems");
         m_desktop.ShowReport(m_report);
     }
 }

@@ -43,8 +43,8 @@ std::string DistrictFileContent() {
 
 void SaveDistrictFile(Desktop& desktop) {
     FileRequest request;
-    request.sFolder = Paths::FolderOf(sDataFileName);
-    request.sFileName = Paths::NameOf(sDataFileName);
+    request.folder = Paths::FolderOf(sDataFileName);
+    request.fileName = Paths::NameOf(sDataFileName);
     const auto path = desktop.ChooseFileToSave(request);
     if (!path) {
         return;

@@ -57,23 +57,23 @@ std::vector<LeftOver> TakeLeftOvers(StateFolder& folder) {
 }
 
 void GiveBack(StateFolder& folder, const LeftOver& leftOver) {
-    folder.Unlock(RecoveryNames::LockOf(leftOver.sName));
+    folder.Unlock(RecoveryNames::LockOf(leftOver.name));
 }
 
 void Drop(StateFolder& folder, const LeftOver& leftOver) {
-    folder.Remove(leftOver.sName);
+    folder.Remove(leftOver.name);
     GiveBack(folder, leftOver);
 }
 
 std::string SetAside(StateFolder& folder, const LeftOver& leftOver) {
     const std::string aside = folder.NewName().append(AsideEnding); // the last in the order of names
-    const bool renamed = folder.Rename(leftOver.sName, aside);
+    const bool renamed = folder.Rename(leftOver.name, aside);
     GiveBack(folder, leftOver);
     std::vector<std::string> kept = NamesWith(folder, AsideEnding);
     for (std::size_t i = 0; i + MostSetAside < kept.size(); ++i) {
         folder.Remove(kept[i]);
     }
-    return folder.PathOf(renamed ? aside : leftOver.sName);
+    return folder.PathOf(renamed ? aside : leftOver.name);
 }
 
 } // namespace CommonRoutines

@@ -21,7 +21,7 @@ namespace RecoveryNames {
 } // namespace RecoveryNames
 
 struct LeftOver {
-    std::string sName;
+    std::string name;
     std::optional<RecoveryFile> file; // nothing when it is damaged
 };
 

@@ -18,7 +18,7 @@ bool OpenMark::Set(Desktop& desktop, const std::string& path) {
     StateFolder& folder = desktop.State();
     // Marks of a file begin alike. The own one is made before others are looked for, so that of two
     // editors that open a file at the same time at least one is told.
-    const std::string beginning = IdentityOf({}, desktop.TruePath(path)).sDigest + '-';
+    const std::string beginning = IdentityOf({}, desktop.TruePath(path)).digest + '-';
     const std::string own = beginning + folder.NewName().append(Ending);
     if (folder.Lock(own) == LockResult::Taken) {
         m_name = own;

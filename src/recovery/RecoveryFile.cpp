@@ -87,7 +87,7 @@ bool TakeNumber(std::string_view& rest, Number& number) {
 }
 
 std::string Identity(const FileIdentity& file) {
-    return std::to_string(file.size) + ' ' + file.sDigest + ' ' + Escaped(file.sPath);
+    return std::to_string(file.size) + ' ' + file.digest + ' ' + Escaped(file.path);
 }
 
 std::optional<FileIdentity> ParseIdentity(std::string_view body) {
@@ -95,26 +95,26 @@ std::optional<FileIdentity> ParseIdentity(std::string_view body) {
     if (!TakeNumber(body, file.size)) {
         return std::nullopt;
     }
-    file.sDigest = TakeWord(body);
+    file.digest = TakeWord(body);
     auto path = Unescaped(body);
-    if (file.sDigest.size() != 2 * CheckLength || !path) {
+    if (file.digest.size() != 2 * CheckLength || !path) {
         return std::nullopt;
     }
-    file.sPath = std::move(*path);
+    file.path = std::move(*path);
     return file;
 }
 
 std::optional<SlotChange> ParseChange(std::string_view body) {
     SlotChange change;
     std::size_t length = 0;
-    if (!TakeNumber(body, change.lLine) || !TakeNumber(body, change.lSlot) || !TakeNumber(body, length)) {
+    if (!TakeNumber(body, change.line) || !TakeNumber(body, change.slot) || !TakeNumber(body, length)) {
         return std::nullopt;
     }
     auto text = Unescaped(body);
-    if (change.lLine < 1 || change.lSlot < 1 || !text || text->size() != length) {
+    if (change.line < 1 || change.slot < 1 || !text || text->size() != length) {
         return std::nullopt;
     }
-    change.sText = std::move(*text);
+    change.text = std::move(*text);
     return change;
 }
 

@@ -14,23 +14,23 @@ namespace CommonRoutines {
 
 // The data file to which changes belong.
 struct FileIdentity {
-    std::string sPath; // without links, in the machine's own encoding
+    std::string path; // without links, in the machine's own encoding
     std::size_t size = 0;
-    std::string sDigest; // of its bytes: 32 hexadecimal digits
+    std::string digest; // of its bytes: 32 hexadecimal digits
 
     bool operator==(const FileIdentity&) const = default;
     // True when the file is, byte for byte, that one, wherever it is.
     [[nodiscard]] bool HasBytesOf(const FileIdentity& other) const {
-        return size == other.size && sDigest == other.sDigest;
+        return size == other.size && digest == other.digest;
     }
 };
 
 // A slot of a line that got another text. Lines and slots are numbered from 1, as the file is read; a
 // slot behind the last one is a new variation.
 struct SlotChange {
-    std::int32_t lLine = 0;
-    std::int32_t lSlot = 0;
-    std::string sText;
+    std::int32_t line = 0;
+    std::int32_t slot = 0;
+    std::string text;
 
     bool operator==(const SlotChange&) const = default;
 };

@@ -31,7 +31,7 @@ TEST_F(ApplyChangesTest, TheFourCommandsDifferInTheRowsThatTheyTakeAndInTheMarke
 
 TEST_F(ApplyChangesTest, RowsThatAreNoValidProposalAreCountedWhetherTickedOrNot) {
     Proposal tickedInvalid = Invalid("a|b");
-    tickedInvalid.bChecked = true;
+    tickedInvalid.ticked = true;
     const Proposals proposals{Invalid("!"), tickedInvalid, Heading("NAME"), Valid("Oak"), Ticked("Elm")};
     Choose("Alpha", {});
     EXPECT_EQ(Apply(proposals).invalid, 3);
@@ -137,11 +137,11 @@ TEST_F(ApplyChangesTest, NoLeavesEverythingAsItWas) {
 TEST_F(ApplyChangesTest, TheQuestionCountsTheTickedRowsWhenOnlyThoseAreTaken) {
     Proposals proposals = Numbered(30);
     for (std::size_t i = 0; i < 20; ++i) {
-        proposals[i].bChecked = true;
+        proposals[i].ticked = true;
     }
     Choose("Alpha", {});
     EXPECT_EQ(Apply(proposals, true, false).added, 20);
-    proposals[20].bChecked = true;
+    proposals[20].ticked = true;
     Choose("Beta", {});
     ExpectQuestion(21, BoxAnswer::Yes);
     EXPECT_EQ(Apply(proposals, true, true).added, 21);

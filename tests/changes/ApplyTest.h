@@ -69,7 +69,7 @@ protected:
     static Texts Pairs() {
         Texts pairs;
         for (std::size_t i = 1; i <= static_cast<std::size_t>(CommonRoutines::lDupePairCount); ++i) {
-            pairs.push_back(CommonRoutines::DupePairs[i].First + " = " + CommonRoutines::DupePairs[i].Second);
+            pairs.push_back(CommonRoutines::DupePairs[i].first + " = " + CommonRoutines::DupePairs[i].second);
         }
         return pairs;
     }

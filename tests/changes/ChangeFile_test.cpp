@@ -16,8 +16,8 @@ protected:
     static std::vector<std::string> RowsOf(std::string_view content) {
         std::vector<std::string> rows;
         for (const Proposal& proposal : ReadProposals(content).proposals) {
-            EXPECT_FALSE(proposal.bChecked) << proposal.sText;
-            rows.push_back(std::to_string(proposal.iTag) + (proposal.bWarning ? "w " : " ") + proposal.sText);
+            EXPECT_FALSE(proposal.ticked) << proposal.text;
+            rows.push_back(std::to_string(proposal.tag) + (proposal.warns ? "w " : " ") + proposal.text);
         }
         return rows;
     }

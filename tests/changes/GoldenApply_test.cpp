@@ -44,7 +44,7 @@ protected:
             lCurrentDistrict = std::stoi(std::string(rest));
         } else if (word == "tick") {
             for (const std::string_view row : Ansi::Split(rest, ',')) {
-                m_proposals.at(std::stoul(std::string(row)) - 1).bChecked = true;
+                m_proposals.at(std::stoul(std::string(row)) - 1).ticked = true;
             }
         } else if (line == "selected only") {
             m_selectedOnly = true;

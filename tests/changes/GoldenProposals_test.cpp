@@ -7,8 +7,8 @@ namespace {
 
 std::string Described(const Proposal& proposal) {
     constexpr const char* Kinds[] = {"invalid", "valid", "heading"}; // tags -1, 0 and 1
-    return std::string(Kinds[proposal.iTag + 1]) + (proposal.bWarning ? ", warning: " : ": ") +
-           Golden::Escaped(proposal.sText) + '\n';
+    return std::string(Kinds[proposal.tag + 1]) + (proposal.warns ? ", warning: " : ": ") +
+           Golden::Escaped(proposal.text) + '\n';
 }
 
 class GoldenProposalsTest : public Golden::Test {

@@ -50,8 +50,8 @@ std::string Colliding(std::size_t number, std::size_t pairs) {
 TEST_F(HostileProposals, ALineOfTenMegabytesIsOneProposal) {
     const ProposalList list = ReadProposals(std::string(TenMegabytes, 'X') + "\r\n");
     ASSERT_EQ(list.proposals.size(), 1U);
-    EXPECT_EQ(list.proposals[0].sText.size(), TenMegabytes);
-    EXPECT_EQ(list.proposals[0].iTag, Proposal::Valid);
+    EXPECT_EQ(list.proposals[0].text.size(), TenMegabytes);
+    EXPECT_EQ(list.proposals[0].tag, Proposal::Valid);
 }
 
 TEST_F(HostileProposals, ALineOfNothingButTagsIsReadOnce) {

@@ -10,7 +10,7 @@ class CompleteCheckTest : public StateTest {
 protected:
     using Texts = std::vector<std::string>;
 
-    Texts Lines() { return CompleteVariationCheck(desktop).Items; }
+    Texts Lines() { return CompleteVariationCheck(desktop).items; }
 
     static void AddDistrictOf(const std::string& name, const Texts& variations, std::int16_t founded,
                               std::int16_t abolished) {
@@ -53,8 +53,8 @@ TEST_F(CompleteCheckTest, SlotsBehindTheOnesInUseAreNotLookedAt) {
 
 TEST_F(CompleteCheckTest, TheReportMayBePrintedAndSaved) {
     const Report report = CompleteVariationCheck(desktop);
-    EXPECT_EQ(report.sCaption, "Duplicate Check");
-    EXPECT_TRUE(report.bCanPrintAndSave);
+    EXPECT_EQ(report.caption, "Duplicate Check");
+    EXPECT_TRUE(report.canPrintAndSave);
 }
 
 TEST_F(CompleteCheckTest, AVariationTwiceInADistrictIsFound) {

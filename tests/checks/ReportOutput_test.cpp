@@ -94,17 +94,17 @@ TEST(ReportOutputTest, SavingAsksForANameInTheProgramsFolder) {
     ScriptedDesktop desktop;
     desktop.ExpectSave(std::nullopt);
     SaveReport(TwoFindings, "C:\\data\\north.txt", desktop);
-    EXPECT_EQ(desktop.lastRequest.sFileName, "Dupe_north.txt");
-    EXPECT_EQ(desktop.lastRequest.sFolder, "/program");
-    EXPECT_EQ(desktop.lastRequest.sDefaultExtension, "txt");
-    EXPECT_EQ(desktop.lastRequest.sTitle, "");
+    EXPECT_EQ(desktop.lastRequest.fileName, "Dupe_north.txt");
+    EXPECT_EQ(desktop.lastRequest.folder, "/program");
+    EXPECT_EQ(desktop.lastRequest.defaultExtension, "txt");
+    EXPECT_EQ(desktop.lastRequest.title, "");
 }
 
 TEST(ReportOutputTest, SavingDoesNotAskBeforeItReplacesAFile) {
     ScriptedDesktop desktop;
     desktop.ExpectSave(std::nullopt);
     SaveReport(TwoFindings, "/data/north.txt", desktop);
-    EXPECT_FALSE(desktop.lastRequest.bAskBeforeReplacing);
+    EXPECT_FALSE(desktop.lastRequest.asksBeforeReplacing);
 }
 
 TEST(ReportOutputTest, SavingIsSeenToBeWorkUntilTheFileIsWritten) {

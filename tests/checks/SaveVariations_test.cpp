@@ -42,9 +42,9 @@ TEST_F(SaveVariationsTest, WithoutVariationsAnEmptyFileIsWritten) {
 TEST_F(SaveVariationsTest, TheDialogueProposesNoNameButAnExtension) {
     desktop.ExpectSave(std::nullopt);
     Save({"Elm"});
-    EXPECT_EQ(desktop.lastRequest.sTitle, "Open Variation Save File");
-    EXPECT_EQ(desktop.lastRequest.sFileName, "");
-    EXPECT_EQ(desktop.lastRequest.sDefaultExtension, "txt");
+    EXPECT_EQ(desktop.lastRequest.title, "Open Variation Save File");
+    EXPECT_EQ(desktop.lastRequest.fileName, "");
+    EXPECT_EQ(desktop.lastRequest.defaultExtension, "txt");
 }
 
 TEST_F(SaveVariationsTest, ACancelledDialogueWritesAndSaysNothing) {

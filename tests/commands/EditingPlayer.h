@@ -120,7 +120,7 @@ public:
         }
         shown.chosenDistricts = view.districts.selected;
         for (const CommonRoutines::VariationRow& row : *view.variations.rows) {
-            shown.variations.push_back(std::string(VariationAt(view.variationsOf, row.lIndex).Text) + " " +
+            shown.variations.push_back(std::string(VariationAt(view.variationsOf, row.slot).Text) + " " +
                                        std::to_string(static_cast<int>(row.state)));
         }
         shown.chosenVariations = view.variations.selected;

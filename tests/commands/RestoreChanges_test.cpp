@@ -21,7 +21,7 @@ protected:
                const std::string& path = DataFilePath, const std::string& name = "0001") {
         std::string content = RecoveryHeader(IdentityOf(path, bytes));
         for (const SlotChange& change : changes) {
-            content += RecoveryRecord(change.lLine, change.lSlot, change.sText);
+            content += RecoveryRecord(change.line, change.slot, change.text);
         }
         desktop.state.storage->files[name + ".changes"] = content;
     }

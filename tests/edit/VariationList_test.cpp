@@ -25,7 +25,7 @@ protected:
     static Texts TextsOf(std::int32_t district, const VariationList& list) {
         Texts texts;
         for (const VariationRow& row : list.rows) {
-            texts.push_back(VariationAt(district, row.lIndex).Text);
+            texts.push_back(VariationAt(district, row.slot).Text);
         }
         return texts;
     }
@@ -38,7 +38,7 @@ protected:
     static std::vector<std::int32_t> IndicesOf(const VariationList& list) {
         std::vector<std::int32_t> indices;
         for (const VariationRow& row : list.rows) {
-            indices.push_back(row.lIndex);
+            indices.push_back(row.slot);
         }
         return indices;
     }

@@ -14,7 +14,7 @@ protected:
     static std::string Listed() {
         std::string list;
         for (const CommentType& type : CommentTypes.Items()) {
-            list += "[" + type.sType + "=" + std::to_string(type.lItemData) + "]";
+            list += "[" + type.type + "=" + std::to_string(type.itemData) + "]";
         }
         return list;
     }

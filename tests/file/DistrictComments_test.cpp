@@ -37,7 +37,7 @@ protected:
 // GoogleTest prints rows with this.
 namespace CommonRoutines {
 void PrintTo(const CommentRow& row, std::ostream* out) {
-    *out << "[" << row.sType << "|" << row.sComment << "]";
+    *out << "[" << row.type << "|" << row.comment << "]";
 }
 } // namespace CommonRoutines
 

@@ -87,8 +87,8 @@ TEST_F(ReadLinesTest, OnlyLinesThatBeginWithTheMarkerNameACommentType) {
     CommentTypes.Reset();
     Read("#QX_Seat of a court\n  #qx_seat again\n#qX_Area\n# see #QX_Map\n#QX\n#QX_\n");
     ASSERT_EQ(CommentTypes.Items().size(), 3U);
-    EXPECT_EQ(CommentTypes.Items()[1].sType, "Seat");
-    EXPECT_EQ(CommentTypes.Items()[2].sType, "Area");
+    EXPECT_EQ(CommentTypes.Items()[1].type, "Seat");
+    EXPECT_EQ(CommentTypes.Items()[2].type, "Area");
     ExpectRetained(1, "#QX_Seat of a court");
     CommentTypes.Reset();
 }

@@ -79,8 +79,8 @@ TEST_F(DistrictFileWriterTest, SavingProposesTheOpenFileAndSaysWhereItWent) {
     m_desktop.ExpectSave("/data/caf\xC3\xA9/new.txt");
     m_desktop.ExpectBox("File Saved to /data/caf\xE9/new.txt", BoxIcon::Information);
     SaveDistrictFile(m_desktop);
-    EXPECT_EQ(m_desktop.lastRequest.sFolder, "/data/north");
-    EXPECT_EQ(m_desktop.lastRequest.sFileName, "districts.txt");
+    EXPECT_EQ(m_desktop.lastRequest.folder, "/data/north");
+    EXPECT_EQ(m_desktop.lastRequest.fileName, "districts.txt");
     EXPECT_EQ(m_desktop.files, (std::map<std::string, std::string>{{"/data/caf\xC3\xA9/new.txt", "# note\r\n"}}));
 }
 
@@ -91,8 +91,8 @@ TEST_F(DistrictFileWriterTest, SavingReplacesTheOldContent) {
     m_desktop.ExpectSave("C:\\data\\old.txt");
     m_desktop.ExpectBox("File Saved to C:\\data\\old.txt", BoxIcon::Information);
     SaveDistrictFile(m_desktop);
-    EXPECT_EQ(m_desktop.lastRequest.sFolder, "C:\\data");
-    EXPECT_EQ(m_desktop.lastRequest.sFileName, "old.txt");
+    EXPECT_EQ(m_desktop.lastRequest.folder, "C:\\data");
+    EXPECT_EQ(m_desktop.lastRequest.fileName, "old.txt");
     EXPECT_EQ(m_desktop.files["C:\\data\\old.txt"], "# new\r\n");
 }
 

@@ -104,7 +104,7 @@ TEST_F(HostileFiles, AMillionEmptyFieldsInOneLineAreDropped) {
     ReadText(user, HeaderOf("Alpha") + std::string(Million, '|') + "\r\n");
     EXPECT_EQ(DistrictFileContent(), HeaderOf("Alpha") + "\r\n");
     ASSERT_EQ(user.reports.size(), 1U);
-    EXPECT_EQ(user.reports[0].Items[0],
+    EXPECT_EQ(user.reports[0].items[0],
               "There were 1000000 blank variations in District Alpha.  They have been removed.\r\n");
 }
 
@@ -157,8 +157,8 @@ TEST_F(HostileFiles, OnlyTheFirstTenThousandRowsOfCommentsAreWrapped) {
     const std::string comment = Repeated("a ", TenMegabytes / 2) + "a";
     WrapComment(rows, comment, 80, measure);
     EXPECT_EQ(rows.size(), 10'001U);
-    EXPECT_EQ(rows[0].sComment, Repeated("a ", 39) + "a");
-    EXPECT_EQ(rows.back().sComment.size(), comment.size() - 10'000 * 80);
+    EXPECT_EQ(rows[0].comment, Repeated("a ", 39) + "a");
+    EXPECT_EQ(rows.back().comment.size(), comment.size() - 10'000 * 80);
     EXPECT_LT(measured, 1'000'000);
 }
 
@@ -170,6 +170,6 @@ TEST_F(HostileFiles, CharactersWithoutWidthFillARowAsWell) {
     };
     std::vector<CommentRow> rows{{"T", ""}};
     WrapComment(rows, Repeated("\xAD ", Million) + "x", 80, measure);
-    EXPECT_EQ(rows[0].sComment.size(), 1'999U);
+    EXPECT_EQ(rows[0].comment.size(), 1'999U);
     EXPECT_LT(measured, 2 * static_cast<int>(Million));
 }

@@ -48,8 +48,8 @@ protected:
         if (!names.empty()) {
             const auto file = ParseRecoveryFile(*m_desktop.state.Read(names.back()));
             for (const SlotChange& change : file->changes) {
-                EXPECT_EQ(change.lLine, 1);
-                slots.at(static_cast<std::size_t>(change.lSlot) - 1) = change.sText;
+                EXPECT_EQ(change.line, 1);
+                slots.at(static_cast<std::size_t>(change.slot) - 1) = change.text;
             }
         }
         return slots;

@@ -88,9 +88,9 @@ TEST_F(ReadVariationsTest, DuplicatesAreReportedPerDistrictAndTheirPairsAccumula
     EXPECT_EQ(VariationAt(1, 1).lDuplicateOf, 2);
     EXPECT_FALSE(VariationAt(2, 1).bDuplicate);
     EXPECT_EQ(lDupePairCount, 3);
-    EXPECT_EQ(DupePairs[1].First, "!Elm");
-    EXPECT_EQ(DupePairs[1].Second, "Elm");
-    EXPECT_EQ(DupePairs[3].First, "Yew");
+    EXPECT_EQ(DupePairs[1].first, "!Elm");
+    EXPECT_EQ(DupePairs[1].second, "Elm");
+    EXPECT_EQ(DupePairs[3].first, "Yew");
 }
 
 TEST_F(ReadVariationsTest, BlankAndDuplicateVariationsOfADistrictShareOneItem) {

@@ -48,7 +48,7 @@ void WrapSlowly(Rows& rows, const std::string& comment, double available, const 
         if (p < 4) {
             p = text.size();
         }
-        rows.back().sComment = TrimBlanks(text.substr(0, p));
+        rows.back().comment = TrimBlanks(text.substr(0, p));
         if (p == text.size()) {
             return;
         }
@@ -58,7 +58,7 @@ void WrapSlowly(Rows& rows, const std::string& comment, double available, const 
         }
         rows.push_back({" ", ""});
         if (measure(text) < available) {
-            rows.back().sComment = text;
+            rows.back().comment = text;
             return;
         }
     }
@@ -67,7 +67,7 @@ void WrapSlowly(Rows& rows, const std::string& comment, double available, const 
 std::string Listed(const Rows& rows) {
     std::string list;
     for (const CommentRow& row : rows) {
-        list += "[" + row.sType + "|" + row.sComment + "]";
+        list += "[" + row.type + "|" + row.comment + "]";
     }
     return list;
 }

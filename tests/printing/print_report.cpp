@@ -21,7 +21,7 @@ int main(int argc, char* argv[]) {
         if (i % 10 == 0) {
             item += " - " + std::string(150, 'x') + " end" + std::to_string(i);
         }
-        report.Items.push_back(item);
+        report.items.push_back(item);
     }
     AnsweringDesktop desktop;
     desktop.onBox = [](std::string_view text) { std::printf("%.*s\n", static_cast<int>(text.size()), text.data()); };

@@ -18,7 +18,7 @@ protected:
     static Texts NamesOf(const std::vector<LeftOver>& leftOvers) {
         Texts names;
         for (const LeftOver& leftOver : leftOvers) {
-            names.push_back(leftOver.sName);
+            names.push_back(leftOver.name);
         }
         return names;
     }

@@ -15,7 +15,7 @@ const FileIdentity File{"/data/d\xC4\x85ta file.txt", 1234, "0123456789abcdef012
 std::string Written(const Changes& changes, const FileIdentity& file = File) {
     std::string content = RecoveryHeader(file);
     for (const SlotChange& change : changes) {
-        content += RecoveryRecord(change.lLine, change.lSlot, change.sText);
+        content += RecoveryRecord(change.line, change.slot, change.text);
     }
     return content;
 }
@@ -62,7 +62,7 @@ TEST(RecoveryFile, KeepsEveryByteOfATextAndOfAPath) {
     for (const std::string& text : texts) {
         changes.push_back({1, static_cast<std::int32_t>(changes.size()) + 1, text});
     }
-    const FileIdentity odd{"/data\n/\\n\\" + all, 0, File.sDigest};
+    const FileIdentity odd{"/data\n/\\n\\" + all, 0, File.digest};
     const auto read = ParseRecoveryFile(Written(changes, odd));
     ASSERT_TRUE(read);
     EXPECT_EQ(read->file, odd);
@@ -75,7 +75,7 @@ TEST(RecoveryFile, ThatWasCutOffHasTheChangesThatWereWrittenWhole) {
     for (std::size_t length = header; length < content.size(); ++length) {
         Changes whole;
         while (Written(whole).size() +
-                   RecoveryRecord(Several[whole.size()].lLine, Several[whole.size()].lSlot, Several[whole.size()].sText)
+                   RecoveryRecord(Several[whole.size()].line, Several[whole.size()].slot, Several[whole.size()].text)
                        .size() <=
                length) {
             whole.push_back(Several[whole.size()]);
@@ -121,15 +121,15 @@ TEST(RecoveryFile, WithALineMissingItsBeginningIsDamaged) {
 
 TEST(RecoveryFile, WithNumbersThatNoTableHasIsDamaged) {
     for (const SlotChange& change : Changes{{0, 1, "Ash"}, {1, 0, "Ash"}, {-1, 1, "Ash"}, {1, -1, "Ash"}}) {
-        EXPECT_FALSE(ParseRecoveryFile(Written({change}))) << change.lLine << ' ' << change.lSlot;
+        EXPECT_FALSE(ParseRecoveryFile(Written({change}))) << change.line << ' ' << change.slot;
     }
 }
 
 TEST(FileIdentity, IsThatOfTheBytes) {
     const FileIdentity identity = IdentityOf("/data/a", "Ash");
-    EXPECT_EQ(identity.sPath, "/data/a");
+    EXPECT_EQ(identity.path, "/data/a");
     EXPECT_EQ(identity.size, 3U);
-    EXPECT_EQ(identity.sDigest.size(), 32U);
+    EXPECT_EQ(identity.digest.size(), 32U);
     EXPECT_TRUE(identity.HasBytesOf(IdentityOf("/other", "Ash")));
     EXPECT_FALSE(identity.HasBytesOf(IdentityOf("/data/a", "Asp")));
     EXPECT_FALSE(identity.HasBytesOf(IdentityOf("/data/a", "Ash ")));
@@ -138,5 +138,5 @@ TEST(FileIdentity, IsThatOfTheBytes) {
 
 // The published value of the empty text: xxHash, XXH3_128bits with seed 0.
 TEST(FileIdentity, HasTheDigestThatOtherProgramsCompute) {
-    EXPECT_EQ(IdentityOf("", "").sDigest, "99aa06d3014798d86001c324468d497f");
+    EXPECT_EQ(IdentityOf("", "").digest, "99aa06d3014798d86001c324468d497f");
 }

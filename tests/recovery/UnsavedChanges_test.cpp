@@ -134,7 +134,7 @@ TEST_F(UnsavedChangesTest, OfTheNextFileGetAFileOfTheirOwn) {
     EXPECT_EQ(desktop.state.Kept(), (Texts{"1001.changes", "1002.changes"}));
     const std::vector<LeftOver> leftOvers = TakeLeftOvers(desktop.state);
     ASSERT_EQ(leftOvers.size(), 1U);
-    EXPECT_EQ(leftOvers.front().sName, "1001.changes");
+    EXPECT_EQ(leftOvers.front().name, "1001.changes");
 }
 
 TEST_F(UnsavedChangesTest, AfterASaveAreNumberedAsTheSavedFileIs) {

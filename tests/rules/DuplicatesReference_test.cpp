@@ -54,7 +54,7 @@ Found Duplicates(std::int32_t district) {
     }
     for (std::int32_t i = 1; i <= lDupePairCount; ++i) {
         const DupePair& pair = DupePairs[static_cast<std::size_t>(i)];
-        found.pairs.push_back(pair.First + " = " + pair.Second);
+        found.pairs.push_back(pair.first + " = " + pair.second);
     }
     EXPECT_EQ(any, !found.pairs.empty());
     EXPECT_EQ(DistrictAt(district).iDuplicateCount, std::ssize(found.pairs));

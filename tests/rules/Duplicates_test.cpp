@@ -17,7 +17,7 @@ protected:
         Texts pairs;
         for (std::int32_t i = 1; i <= lDupePairCount; ++i) {
             const DupePair& pair = DupePairs[static_cast<std::size_t>(i)];
-            pairs.push_back(pair.First + " = " + pair.Second);
+            pairs.push_back(pair.first + " = " + pair.second);
         }
         return pairs;
     }
@@ -171,7 +171,7 @@ TEST_F(Duplicates, TheListIsEmptiedForADistrictWithoutVariationsToo) {
     EXPECT_FALSE(FindDuplicateVariations(AddDistrict("Other"), false));
     EXPECT_EQ(lDupePairCount, 0);
     EXPECT_EQ(UpperBound(), 5);
-    EXPECT_EQ(DupePairs[1].First + DupePairs[1].Second, "");
+    EXPECT_EQ(DupePairs[1].first + DupePairs[1].second, "");
 }
 
 TEST_F(Duplicates, AnEmptyListHasRoomForFivePairs) {
@@ -196,7 +196,7 @@ TEST_F(Duplicates, GrowingKeepsThePairsAndTheFirstElementEmpty) {
         expected.push_back("a" + std::to_string(i) + " = b" + std::to_string(i));
     }
     EXPECT_EQ(Pairs(), expected);
-    EXPECT_EQ(DupePairs[0].First + DupePairs[0].Second, "");
+    EXPECT_EQ(DupePairs[0].first + DupePairs[0].second, "");
 }
 
 } // namespace

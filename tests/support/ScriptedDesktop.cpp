@@ -28,7 +28,7 @@ std::string InputPrompt(std::string_view prompt) {
 }
 
 std::string ReportPrompt(const Report& report) {
-    return "report " + report.sCaption + (report.bCanPrintAndSave ? ", printable:" : ":") + Listed(report.Items);
+    return "report " + report.caption + (report.canPrintAndSave ? ", printable:" : ":") + Listed(report.items);
 }
 
 } // namespace

@@ -23,7 +23,7 @@ int CommentModel::columnCount(const QModelIndex& parent) const {
 
 QVariant CommentModel::data(const QModelIndex& index, int role) const {
     const CommentRow& row = m_rows[static_cast<std::size_t>(index.row())];
-    const QString text = Text::ForList(index.column() == 0 ? row.sType : row.sComment);
+    const QString text = Text::ForList(index.column() == 0 ? row.type : row.comment);
     switch (role) {
     case Qt::DisplayRole:
         return text;
@@ -58,11 +58,11 @@ QVariant CommentTypeModel::data(const QModelIndex& index, int role) const {
     const CommentType& item = CommentTypes.Items()[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-        return Text::ForList(item.sType);
+        return Text::ForList(item.type);
     case Qt::ToolTipRole:
-        return Text::ForToolTip(Text::ForList(item.sType));
+        return Text::ForToolTip(Text::ForList(item.type));
     case Qt::UserRole:
-        return item.lItemData;
+        return item.itemData;
     default:
         return {};
     }

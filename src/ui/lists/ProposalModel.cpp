@@ -13,21 +13,21 @@ using namespace CommonRoutines;
 namespace {
 
 VariationState StateOf(const Proposal& proposal) {
-    if (proposal.bWarning) {
+    if (proposal.warns) {
         return VariationState::Warning;
     }
-    return proposal.iTag == Proposal::Invalid ? VariationState::Invalid : VariationState::Plain;
+    return proposal.tag == Proposal::Invalid ? VariationState::Invalid : VariationState::Plain;
 }
 
 QString KindInWords(const Proposal& proposal) {
     QString words;
-    if (proposal.iTag == Proposal::Heading) {
+    if (proposal.tag == Proposal::Heading) {
         words += QStringLiteral(" - heading");
     }
-    if (proposal.iTag == Proposal::Invalid) {
+    if (proposal.tag == Proposal::Invalid) {
         words += StateInWords(VariationState::Invalid);
     }
-    if (proposal.bWarning) {
+    if (proposal.warns) {
         words += StateInWords(VariationState::Warning);
     }
     return words;
@@ -53,14 +53,14 @@ QVariant ProposalModel::data(const QModelIndex& index, int role) const {
     const Proposal& proposal = m_rows.At(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return Text::ForList(proposal.sText);
+        return Text::ForList(proposal.text);
     case Qt::ForegroundRole:
         return StateColours::InList(StateOf(proposal), QGuiApplication::palette());
     case Qt::CheckStateRole:
-        return proposal.bChecked ? Qt::Checked : Qt::Unchecked;
+        return proposal.ticked ? Qt::Checked : Qt::Unchecked;
     case Qt::AccessibleTextRole:
     case Qt::ToolTipRole: {
-        const QString words = Text::ForList(proposal.sText) + KindInWords(proposal);
+        const QString words = Text::ForList(proposal.text) + KindInWords(proposal);
         return role == Qt::ToolTipRole ? Text::ForToolTip(words) : words;
     }
     default:
@@ -74,7 +74,7 @@ bool ProposalModel::setData(const QModelIndex& index, const QVariant& value, int
     }
     const bool wanted = value.toInt() == Qt::Checked;
     Q_EMIT TickWanted(index.row(), wanted);
-    return m_rows.At(index.row()).bChecked == wanted;
+    return m_rows.At(index.row()).ticked == wanted;
 }
 
 Qt::ItemFlags ProposalModel::flags(const QModelIndex& index) const {

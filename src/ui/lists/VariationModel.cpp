@@ -23,7 +23,7 @@ void VariationModel::Show(const Commands::ListView<VariationRow>& list, std::int
 }
 
 const VariationRecord& VariationModel::VariationAt(int row) const {
-    const auto slot = static_cast<std::size_t>(m_rows.At(row).lIndex);
+    const auto slot = static_cast<std::size_t>(m_rows.At(row).slot);
     return RecordOf(m_district).Variations[slot];
 }
 

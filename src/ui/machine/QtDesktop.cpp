@@ -158,16 +158,16 @@ void QtDesktop::ShowReport(const Report& report) {
 }
 
 std::optional<std::string> QtDesktop::Choose(QFileDialog& dialog, const FileRequest& request) {
-    if (!request.sTitle.empty()) {
-        dialog.setWindowTitle(Text::ForList(request.sTitle));
+    if (!request.title.empty()) {
+        dialog.setWindowTitle(Text::ForList(request.title));
     }
-    if (!request.sFolder.empty()) {
-        dialog.setDirectory(Text::PathToQt(request.sFolder));
+    if (!request.folder.empty()) {
+        dialog.setDirectory(Text::PathToQt(request.folder));
     }
-    if (!request.sFileName.empty()) {
-        dialog.selectFile(Text::PathToQt(request.sFileName));
+    if (!request.fileName.empty()) {
+        dialog.selectFile(Text::PathToQt(request.fileName));
     }
-    dialog.setDefaultSuffix(Text::ToQt(request.sDefaultExtension));
+    dialog.setDefaultSuffix(Text::ToQt(request.defaultExtension));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
@@ -183,7 +183,7 @@ std::optional<std::string> QtDesktop::ChooseFileToOpen(const FileRequest& reques
 std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& request) {
     QFileDialog dialog(m_window, QStringLiteral("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.bAskBeforeReplacing);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.asksBeforeReplacing);
     for (;;) {
         auto path = Choose(dialog, request);
         if (!path || !IsReadOnly(Text::PathToQt(*path))) {

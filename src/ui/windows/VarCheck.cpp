@@ -26,7 +26,7 @@ constexpr QSize OpeningSize(640, 420);
 VarCheck::VarCheck(const Report& report, Desktop& desktop, QWidget* parent)
     : QDialog(parent), m_report(report), m_desktop(desktop) {
     setObjectName(QStringLiteral("VarCheck"));
-    setWindowTitle(Text::ForList(report.sCaption));
+    setWindowTitle(Text::ForList(report.caption));
     setSizeGripEnabled(true);
     resize(OpeningSize);
     new QVBoxLayout(this);
@@ -40,7 +40,7 @@ void VarCheck::BuildList() {
     List1->setObjectName(QStringLiteral("List1"));
     List1->setAccessibleName(QStringLiteral("Findings"));
     List1->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    List1->setModel(new ReportModel(m_report.Items, List1));
+    List1->setModel(new ReportModel(m_report.items, List1));
     List1->setHeaderHidden(true);
     List1->setTextElideMode(Qt::ElideNone);
     // The column is as wide as what is visible of it, so that a long report opens at once.
@@ -60,14 +60,13 @@ void VarCheck::BuildButtons() {
     cbClose->setDefault(true);
     for (QPushButton* button : {cbPrint, cbSave}) {
         button->setAutoDefault(false);
-        button->setEnabled(m_report.bCanPrintAndSave);
-        button->setVisible(m_report.bCanPrintAndSave);
+        button->setEnabled(m_report.canPrintAndSave);
+        button->setVisible(m_report.canPrintAndSave);
     }
     const auto onClick = [this](QPushButton* button, auto command) {
         connect(button, &QPushButton::clicked, this, [=, this] {
-            LongWork::UnlessPainting([&] {
-                Commands::WithinMemory(m_desktop, [&] { command(m_report, DataFile(), m_desktop); });
-            });
+            LongWork::UnlessPainting(
+                [&] { Commands::WithinMemory(m_desktop, [&] { command(m_report, DataFile(), m_desktop); }); });
         });
     };
     onClick(cbPrint, &PrintReport);

@@ -154,7 +154,7 @@ TEST_F(ModelsTest, ATickIsOnlyAskedForAndShownWhenItIsThere) {
     ASSERT_EQ(wanted.size(), 1);
     EXPECT_EQ(wanted[0], (QVariantList{1, true}));
     QObject::connect(&model, &ProposalModel::TickWanted, [&](int row, bool ticked) {
-        (*list.rows)[static_cast<std::size_t>(row)].bChecked = ticked;
+        (*list.rows)[static_cast<std::size_t>(row)].ticked = ticked;
         ++list.touched;
         model.Show(list);
     });

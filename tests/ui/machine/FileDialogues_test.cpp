@@ -97,7 +97,7 @@ TEST_F(FileDialoguesTest, TheCallersTitleAndNameAreProposed) {
 
 TEST_F(FileDialoguesTest, TheDefaultExtensionIsAddedToANameThatHasNone) {
     FileRequest request = InFolder();
-    request.sDefaultExtension = "txt";
+    request.defaultExtension = "txt";
     ChooseNext(Path("list"));
     EXPECT_EQ(desktop.ChooseFileToSave(request), Path("list.txt"));
     ChooseNext(Path("list.csv"));

@@ -61,11 +61,11 @@ TEST_F(FormTest, RetainedLinesAreNotListed) {
 
 TEST_F(FormTest, TheDialogueStartsInTheProgramsFolderUntilAFolderIsRemembered) {
     OpenContent(TwoDistricts, "/home/user/files/a.txt");
-    EXPECT_EQ(desktop.lastRequest.sFolder, "/program");
-    EXPECT_EQ(desktop.lastRequest.sFileName, "");
+    EXPECT_EQ(desktop.lastRequest.folder, "/program");
+    EXPECT_EQ(desktop.lastRequest.fileName, "");
     EXPECT_EQ(desktop.settings["Paths/InFile"], "/home/user/files");
     OpenContent(TwoDistricts, "/home/user/files/b.txt");
-    EXPECT_EQ(desktop.lastRequest.sFolder, "/home/user/files");
+    EXPECT_EQ(desktop.lastRequest.folder, "/home/user/files");
 }
 
 TEST_F(FormTest, AFileAtTheRootOfADriveLeavesTheDriveAsTheRememberedFolder) {
@@ -82,8 +82,8 @@ TEST_F(FormTest, AFileWithoutAFolderIsNotRemembered) {
 TEST_F(FormTest, TheReportOfReadingCannotBePrintedOrSaved) {
     OpenContent(HeaderOf("Alpha") + "|Alfa|alfa|\r\n");
     ASSERT_EQ(desktop.reports.size(), 1U);
-    EXPECT_EQ(desktop.reports[0].sCaption, "Read File Results");
-    EXPECT_FALSE(desktop.reports[0].bCanPrintAndSave);
+    EXPECT_EQ(desktop.reports[0].caption, "Read File Results");
+    EXPECT_FALSE(desktop.reports[0].canPrintAndSave);
 }
 
 TEST_F(FormTest, DuplicatedDistrictsAreReportedUntilCancel) {

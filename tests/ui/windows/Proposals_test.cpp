@@ -71,11 +71,11 @@ TEST_F(ProposalsTest, TheFolderOfTheChangeFileIsRemembered) {
     OpenDistrict();
     desktop.settings["Paths/ProcessFile"] = "/before";
     Process("Elm\n", "/some/folder/new.txt");
-    EXPECT_EQ(desktop.lastRequest.sFolder, "/before");
-    EXPECT_EQ(desktop.lastRequest.sFileName, "");
+    EXPECT_EQ(desktop.lastRequest.folder, "/before");
+    EXPECT_EQ(desktop.lastRequest.fileName, "");
     EXPECT_EQ(desktop.settings["Paths/ProcessFile"], "/some/folder");
     Process("Elm\n", "/new.txt");
-    EXPECT_EQ(desktop.lastRequest.sFolder, "/some/folder");
+    EXPECT_EQ(desktop.lastRequest.folder, "/some/folder");
     EXPECT_EQ(desktop.settings["Paths/ProcessFile"], "/some/folder");
     EXPECT_EQ(desktop.settings["Paths/InFile"], "/data");
 }

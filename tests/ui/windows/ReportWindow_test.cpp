@@ -77,8 +77,8 @@ TEST_F(ReportWindowTest, ShowsTheLinesUnderItsCaption) {
 }
 
 TEST_F(ReportWindowTest, AReportOnlyToReadHasNoPrintAndNoSave) {
-    report.sCaption = "Read File Results";
-    report.bCanPrintAndSave = false;
+    report.caption = "Read File Results";
+    report.canPrintAndSave = false;
     Show();
     EXPECT_EQ(window->windowTitle(), QStringLiteral("Read File Results"));
     EXPECT_FALSE(Find("cbPrint").isVisible() || Enabled("cbPrint"));
@@ -105,9 +105,9 @@ TEST_F(ReportWindowTest, SaveListProposesANameInTheProgramsFolder) {
     Show();
     desktop.ExpectSave(std::nullopt);
     Click("cbSave");
-    EXPECT_EQ(desktop.lastRequest.sFileName, "Dupe_north.txt");
-    EXPECT_EQ(desktop.lastRequest.sFolder, "/program");
-    EXPECT_EQ(desktop.lastRequest.sDefaultExtension, "txt");
+    EXPECT_EQ(desktop.lastRequest.fileName, "Dupe_north.txt");
+    EXPECT_EQ(desktop.lastRequest.folder, "/program");
+    EXPECT_EQ(desktop.lastRequest.defaultExtension, "txt");
     EXPECT_TRUE(desktop.files.empty());
 }
 
@@ -155,7 +155,7 @@ TEST_F(ReportWindowTest, CtrlCCopiesTheSelectedLines) {
 }
 
 TEST_F(ReportWindowTest, OfALongReportOnlyTheVisibleLinesAreLookedAt) {
-    report.Items.assign(100000, "District Alpha has duplicate variations.");
+    report.items.assign(100000, "District Alpha has duplicate variations.");
     window = std::make_unique<VarCheck>(report, desktop, nullptr);
     CountingDelegate delegate;
     List().setItemDelegate(&delegate);

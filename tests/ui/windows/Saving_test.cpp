@@ -33,8 +33,8 @@ TEST_F(SavingTest, SavingWritesEveryLineAndSaysWhere) {
 TEST_F(SavingTest, TheOpenFileIsProposed) {
     desktop.ExpectSave(std::nullopt);
     Click("cbSave");
-    EXPECT_EQ(desktop.lastRequest.sFolder, "/data");
-    EXPECT_EQ(desktop.lastRequest.sFileName, "all.txt");
+    EXPECT_EQ(desktop.lastRequest.folder, "/data");
+    EXPECT_EQ(desktop.lastRequest.fileName, "all.txt");
 }
 
 TEST_F(SavingTest, SavingClearsTheProblemsOnAGreyGround) {

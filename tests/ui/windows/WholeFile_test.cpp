@@ -25,9 +25,9 @@ protected:
     }
     void ExpectFinding() {
         ASSERT_EQ(desktop.reports.size(), 1U);
-        EXPECT_EQ(desktop.reports[0].sCaption, "Duplicate Check");
-        EXPECT_EQ(desktop.reports[0].Items, std::vector<std::string>{"Alpha and Beta both use the variation Alfa"});
-        EXPECT_TRUE(desktop.reports[0].bCanPrintAndSave);
+        EXPECT_EQ(desktop.reports[0].caption, "Duplicate Check");
+        EXPECT_EQ(desktop.reports[0].items, std::vector<std::string>{"Alpha and Beta both use the variation Alfa"});
+        EXPECT_TRUE(desktop.reports[0].canPrintAndSave);
         EXPECT_FALSE(desktop.busy);
     }
 };
@@ -58,7 +58,7 @@ TEST_F(WholeFileTest, TheCheckSaysWhenNothingIsUsedTwice) {
     desktop.reports.clear();
     Click("cbCompleteCheck");
     ASSERT_EQ(desktop.reports.size(), 1U);
-    EXPECT_EQ(desktop.reports[0].Items, std::vector<std::string>{"No duplicates found"});
+    EXPECT_EQ(desktop.reports[0].items, std::vector<std::string>{"No duplicates found"});
 }
 
 TEST_F(WholeFileTest, TheSelectedVariationsAreSavedInTheOrderOfTheList) {
@@ -68,9 +68,9 @@ TEST_F(WholeFileTest, TheSelectedVariationsAreSavedInTheOrderOfTheList) {
     ExpectSaved(2, "/data/chosen.txt");
     Click("cbSaveVariations");
     EXPECT_EQ(desktop.files["/data/chosen.txt"], "Alfa\r\nzeta\r\n");
-    EXPECT_EQ(desktop.lastRequest.sTitle, "Open Variation Save File");
-    EXPECT_EQ(desktop.lastRequest.sFileName, "");
-    EXPECT_EQ(desktop.lastRequest.sDefaultExtension, "txt");
+    EXPECT_EQ(desktop.lastRequest.title, "Open Variation Save File");
+    EXPECT_EQ(desktop.lastRequest.fileName, "");
+    EXPECT_EQ(desktop.lastRequest.defaultExtension, "txt");
     EXPECT_EQ(Selected("lvVariations").size(), 2);
     EXPECT_EQ(iEditMode, SeveralSelected);
 }
