@@ -28,10 +28,6 @@ std::string sMarkerSuffix;
 
 std::int32_t lFoundVariation = 0;
 
-std::vector<std::string> LowerCaseWords;
-std::unordered_set<std::string, SeededHash, std::equal_to<>> LowerCaseWordSet;
-std::int32_t lLowerCaseWordCount = 0;
-
 std::int16_t iEditMode = NothingOpen;
 
 bool bIgnoreEvents = false;
@@ -64,9 +60,6 @@ void ResetState() {
     sMarkerPrefix.clear();
     sMarkerSuffix.clear();
     lFoundVariation = 0;
-    LowerCaseWords.clear();
-    LowerCaseWordSet.clear();
-    lLowerCaseWordCount = 0;
     iEditMode = NothingOpen;
     bIgnoreEvents = false;
     lEditIndex = 0;

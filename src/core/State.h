@@ -1,36 +1,53 @@
 #pragma once
 
 // The shared state of the program: everything that one routine leaves behind for another. It lives
-// as long as the program runs; only the routines named beside a variable write it. Tables are
-// vectors whose element 0 is never filled, so that an index is the number that the user sees.
+// as long as the program runs. Beside each variable stands who writes it and who reads it, tests and
+// measurements aside. Tables are vectors whose element 0 is never filled, so that an index is the
+// number that the user sees.
 
 #include "core/Encoding.h"
 #include "core/Records.h"
-#include "core/SeededHash.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 namespace CommonRoutines {
 
-// The table and its file.
-extern std::vector<DistrictRecord> Districts; // filled by ReadDistrictFile, changed by every edit
-extern std::int32_t lTableNumber;             // raised when the table is filled anew; what is kept about it ends then
-extern std::int32_t lLineCount;               // lines in use; written by ReadDistrictFile, dropped to 0 after Quit
-extern std::string sDataFileName;             // full path, in the machine's own encoding; written by "Open File"
-extern Encoding eFileEncoding;                // of that file, which is saved in the same; written by ReadDistrictFile
-extern bool bChanged;                 // unsaved changes; set by every edit and repair, cleared by opening and saving
-extern std::int32_t lCurrentDistrict; // the district shown, 0 for none; written by choosing a district
+// The records of the lines. The array grows in ReadDistrictFile alone; a record also changes by
+// edit/Variations, FindDuplicateVariations and ListVariations. Everything reads them, through RecordOf.
+extern std::vector<DistrictRecord> Districts;
 
-// What the last load counted; written by ReadDistrictFile.
-extern std::int32_t lDistrictTotal; // district lines
-extern std::int32_t lInvalidTotal;  // invalid variations
-extern std::int32_t lCapsOkTotal;   // variations without a capitalisation problem
+// Raised by ReadDistrictFile with every new table. By it rules/SpellingIndex knows that its index is of another one.
+extern std::int32_t lTableNumber;
 
-// Answer of the repair dialogue; written by RepairNullVariation, read by ReadDistrictFile.
+// Lines in use. Counted by ReadDistrictFile; dropped to 0 by the opening of a file (commands/FileCommands)
+// that was ended by Quit. Read by whatever goes through the table.
+extern std::int32_t lLineCount;
+
+// Full path of the data file, in the machine's own encoding. Written by the opening of a file, emptied by
+// ReadDistrictFile when it cannot be read. Read by both, SaveDistrictFile, RestoreChanges and VarCheck.
+extern std::string sDataFileName;
+
+// Encoding of that file. Written by ReadDistrictFile, read by SaveDistrictFile.
+extern Encoding eFileEncoding;
+
+// Whether there are unsaved changes. Set by edit/EditPanel, edit/MarkerCommands, TakeBack, ApplyChanges,
+// RepairNullVariation, RestoreChanges and the question whether to lose them; cleared by ReadDistrictFile and
+// commands/FileCommands. Read by the latter, TakeBack and ApplyWindowMode.
+extern bool bChanged;
+
+// The district shown, 0 for none. Written by ChooseDistrict, cleared by the opening of a file. Read by
+// commands/, edit/, ApplyChanges and FindVariationInDistrict.
+extern std::int32_t lCurrentDistrict;
+
+// What the last load counted. Written by ReadDistrictFile.
+extern std::int32_t lDistrictTotal; // district lines; read by DistrictsByName
+extern std::int32_t lInvalidTotal;  // invalid variations; kept as a result of the load, nothing reads it
+extern std::int32_t lCapsOkTotal;   // variations without a capitalisation problem; kept like it, nothing reads it
+
+// Answer of the repair dialogue. Written by RepairNullVariation, reset by ReadDistrictFile. Read there and by
+// the opening of a file.
 enum RepairAction : std::int16_t {
     NoRepair = 0,
     CombinePrevious = 1,
@@ -41,29 +58,29 @@ enum RepairAction : std::int16_t {
 };
 extern std::int16_t iRepairAction;
 
-// Pairs of the duplicate searches since the list was last emptied; written by FindDuplicateVariations.
+// Pairs of the duplicate searches since the list was last emptied. Written by rules/Duplicates, read by
+// ReportAppliedProposals.
 extern std::vector<DupePair> DupePairs;
 extern std::int32_t lDupePairCount;
 
-// What the last check of a variation found; written by ValidateVariation (the reason also by
-// CheckQuestionMark and by the selection of variations) and read at once by its caller.
-extern std::string sInvalidReason; // never cleared by a valid result
-extern bool bWarning;
-extern std::string sWarningReason;
+// Why a variation is invalid; a valid one leaves the last reason there. Written by ValidateVariation and
+// CheckQuestionMark. DescribeSelection writes it too, and alone reads it, at once.
+extern std::string sInvalidReason;
 
-// Markers of the variation last split; written by StripMarkers.
+// What the last check warns of. Written by ValidateVariation.
+extern bool bWarning;              // read at once by ReadDistrictFile
+extern std::string sWarningReason; // kept for callers of ValidateVariation, nothing reads it
+
+// Markers of the variation last split. Written by StripMarkers and ValidateVariation; kept for their callers,
+// which take the values instead, so that nothing reads them.
 extern std::string sMarkerPrefix;
 extern std::string sMarkerSuffix;
 
-// Slot of the variation that FindVariationInDistrict found.
+// Slot of the variation found. Written by FindVariationInDistrict; kept for its callers, nothing reads it.
 extern std::int32_t lFoundVariation;
 
-// Words that need no capital, 1 to lLowerCaseWordCount; written by LoadLowerCaseWords.
-extern std::vector<std::string> LowerCaseWords;
-extern std::unordered_set<std::string, SeededHash, std::equal_to<>> LowerCaseWordSet; // to be looked up
-extern std::int32_t lLowerCaseWordCount;
-
-// What the main window is doing; written by its handlers, read by ApplyWindowMode and ValidateVariation.
+// What the main window is doing. Written by Commands::SetMode alone. Read by commands/, edit/EditPanel
+// and ValidateVariation.
 enum EditMode : std::int16_t {
     NothingOpen = 1, // or a file is being read
     OneSelected = 2,
@@ -78,9 +95,16 @@ enum EditMode : std::int16_t {
 };
 extern std::int16_t iEditMode;
 
-// The edit panel; written by the main window.
-extern bool bIgnoreEvents;      // the program itself is writing into the panel
-extern std::int32_t lEditIndex; // variation being edited, 0 for none
+// Set while the program itself fills the edit panel. Written by ui/windows/Form1View, read by Form1.
+extern bool bIgnoreEvents;
+
+// Variation being edited, 0 for none. Written by SelectVariations; cleared by DeleteVariations, by a new list
+// of variations and by the choice of a district, a comment type or a file. Read by edit/EditPanel and
+// commands/VariationCommands.
+extern std::int32_t lEditIndex;
+
+// What the user did last. Written by SelectVariations, Delete and StartAdding; kept to tell this, nothing
+// reads it.
 enum PanelAction : std::int16_t { NoAction = 0, VariationSelected = 1, VariationDeleted = 2, AddStarted = 3 };
 extern std::int16_t iLastAction;
 

@@ -16,17 +16,19 @@ namespace {
 
 constexpr std::int32_t WordListStep = 10;
 
+LowerCaseList List;
+
 void AddLowerCaseWord(std::string_view word) {
     if (word.empty()) {
         return;
     }
-    ++lLowerCaseWordCount;
-    if (lLowerCaseWordCount >= std::ssize(LowerCaseWords)) {
-        LowerCaseWords.resize(static_cast<std::size_t>(lLowerCaseWordCount) + WordListStep + 1);
+    ++List.count;
+    if (List.count >= std::ssize(List.words)) {
+        List.words.resize(static_cast<std::size_t>(List.count) + WordListStep + 1);
     }
-    std::string& added = LowerCaseWords[static_cast<std::size_t>(lLowerCaseWordCount)];
+    std::string& added = List.words[static_cast<std::size_t>(List.count)];
     added = Ansi::Lower(word);
-    LowerCaseWordSet.insert(added);
+    List.lookup.insert(added);
 }
 
 // What a character means to the check. A closing parenthesis is no separator: it stays at the end of
@@ -85,17 +87,11 @@ bool IsExpectedForm(std::string_view word) {
 }
 
 bool IsLowerCaseWord(std::string_view word) {
-    return !LowerCaseWordSet.empty() && LowerCaseWordSet.contains(Ansi::Lower(word));
-}
-
-void ForgetLowerCaseWords() {
-    LowerCaseWords = {};
-    LowerCaseWordSet.clear();
-    lLowerCaseWordCount = 0;
+    return !List.lookup.empty() && List.lookup.contains(Ansi::Lower(word));
 }
 
 void AddLowerCaseWords(std::string_view content) {
-    LowerCaseWords.resize(WordListStep + 1);
+    List.words.resize(WordListStep + 1);
     Lines lines(content);
     while (const auto line = lines.Next()) {
         for (std::string_view rest = *line; !rest.empty();) {
@@ -126,6 +122,16 @@ bool BaseIsUnusual(std::string_view base) {
 }
 
 } // namespace
+
+void ForgetLowerCaseWords() {
+    List.words = {};
+    List.lookup.clear();
+    List.count = 0;
+}
+
+const LowerCaseList& LowerCaseWords() {
+    return List;
+}
 
 void LoadLowerCaseWords(Desktop& desktop) {
     desktop.EnterProgramFolder();

@@ -3,6 +3,7 @@
 
 #include "core/State.h"
 #include "edit/UndoJournal.h"
+#include "rules/Capitals.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +21,7 @@ struct Numbers {
     std::int32_t capsOkTotal = lCapsOkTotal;
     std::int32_t dupePairCount = lDupePairCount;
     std::int32_t foundVariation = lFoundVariation;
-    std::int32_t lowerCaseWordCount = lLowerCaseWordCount;
+    std::int32_t lowerCaseWordCount = LowerCaseWords().count;
     std::int32_t editIndex = lEditIndex;
     std::int16_t repairAction = iRepairAction;
     std::int16_t editMode = iEditMode;

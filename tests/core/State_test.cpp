@@ -72,8 +72,6 @@ void SpoilWhatTheRulesLeave() {
     sMarkerPrefix = "!";
     sMarkerSuffix = "%12";
     lFoundVariation = 4;
-    LowerCaseWords = {"", "of"};
-    lLowerCaseWordCount = 1;
 }
 
 void SpoilTheWindow() {
@@ -108,8 +106,6 @@ TEST_F(State, AResetForgetsWhatTheRulesLeft) {
     EXPECT_EQ(sMarkerPrefix, "");
     EXPECT_EQ(sMarkerSuffix, "");
     EXPECT_EQ(lFoundVariation, 0);
-    EXPECT_TRUE(LowerCaseWords.empty());
-    EXPECT_EQ(lLowerCaseWordCount, 0);
 }
 
 TEST_F(State, AResetPutsTheWindowBackToItsStart) {

@@ -1,4 +1,3 @@
-#include "core/State.h"
 #include "rules/Capitals.h"
 #include "support/ScriptedDesktop.h"
 #include "support/Table.h"
@@ -16,9 +15,12 @@ protected:
         LoadLowerCaseWords(desktop);
     }
 
-    static Texts Words() { return {LowerCaseWords.begin() + 1, LowerCaseWords.begin() + 1 + lLowerCaseWordCount}; }
+    static Texts Words() {
+        const auto first = LowerCaseWords().words.begin() + 1;
+        return {first, first + LowerCaseWords().count};
+    }
 
-    static std::ptrdiff_t UpperBound() { return std::ssize(LowerCaseWords) - 1; }
+    static std::ptrdiff_t UpperBound() { return std::ssize(LowerCaseWords().words) - 1; }
 
     static std::string Items(int count) {
         std::string line;
@@ -38,17 +40,17 @@ TEST_F(LowerCaseWordList, WordsStandBetweenCommasAndEmptyItemsAreSkipped) {
 
 TEST_F(LowerCaseWordList, MillionsOfCommasAreNoWords) {
     Load(std::string(20'000'000, ','));
-    EXPECT_EQ(lLowerCaseWordCount, 0);
+    EXPECT_EQ(LowerCaseWords().count, 0);
 }
 
 TEST_F(LowerCaseWordList, AWordOfTenMegabytesIsAWord) {
     Load(std::string(10'000'000, 'x'));
-    EXPECT_EQ(lLowerCaseWordCount, 1);
+    EXPECT_EQ(LowerCaseWords().count, 1);
 }
 
 TEST_F(LowerCaseWordList, AMillionWordsAreLookedUp) {
     Load(Items(1'000'000));
-    EXPECT_EQ(lLowerCaseWordCount, 1'000'000);
+    EXPECT_EQ(LowerCaseWords().count, 1'000'000);
     EXPECT_FALSE(HasUnusualCapitals("W1 w777777"));
     EXPECT_TRUE(HasUnusualCapitals("W1 w1000001"));
 }
@@ -62,7 +64,7 @@ TEST_F(LowerCaseWordList, WithoutMemoryForItTheListIsEmpty) {
     machine.ExpectBox("There is not enough memory for the lowercase file - no words will be ignored",
                       BoxIcon::Exclamation);
     LoadLowerCaseWords(machine);
-    EXPECT_EQ(lLowerCaseWordCount, 0);
+    EXPECT_EQ(LowerCaseWords().count, 0);
     EXPECT_TRUE(HasUnusualCapitals("North of"));
 }
 
@@ -83,25 +85,25 @@ TEST_F(LowerCaseWordList, OnlyBlanksAreTrimmedAndInnerOnesStay) {
 
 TEST_F(LowerCaseWordList, AFileWithoutWordsIsAnEmptyListAndNoMessage) {
     Load(" , ,\r\n\r\n");
-    EXPECT_EQ(lLowerCaseWordCount, 0);
+    EXPECT_EQ(LowerCaseWords().count, 0);
     EXPECT_EQ(UpperBound(), 10);
 }
 
 TEST_F(LowerCaseWordList, AnEmptyFileIsAnEmptyListAndNoMessage) {
     Load("");
-    EXPECT_EQ(lLowerCaseWordCount, 0);
+    EXPECT_EQ(LowerCaseWords().count, 0);
     EXPECT_EQ(UpperBound(), 10);
 }
 
 TEST_F(LowerCaseWordList, HasRoomForTenWordsAtFirst) {
     Load(Items(10));
-    EXPECT_EQ(lLowerCaseWordCount, 10);
+    EXPECT_EQ(LowerCaseWords().count, 10);
     EXPECT_EQ(UpperBound(), 10);
 }
 
 TEST_F(LowerCaseWordList, AWordThatDoesNotFitMakesRoomForTenBehindIt) {
     Load(Items(11));
-    EXPECT_EQ(lLowerCaseWordCount, 11);
+    EXPECT_EQ(LowerCaseWords().count, 11);
     EXPECT_EQ(UpperBound(), 21);
     Load(Items(21));
     EXPECT_EQ(UpperBound(), 21);
@@ -111,16 +113,16 @@ TEST_F(LowerCaseWordList, AWordThatDoesNotFitMakesRoomForTenBehindIt) {
 
 TEST_F(LowerCaseWordList, GrowingKeepsTheWords) {
     Load(Items(35));
-    ASSERT_EQ(lLowerCaseWordCount, 35);
+    ASSERT_EQ(LowerCaseWords().count, 35);
     for (int i = 1; i <= 35; ++i) {
-        EXPECT_EQ(LowerCaseWords[static_cast<std::size_t>(i)], "w" + std::to_string(i));
+        EXPECT_EQ(LowerCaseWords().words[static_cast<std::size_t>(i)], "w" + std::to_string(i));
     }
 }
 
 TEST_F(LowerCaseWordList, TheFirstElementIsNeverFilled) {
     Load("of");
-    EXPECT_EQ(LowerCaseWords[0], "");
-    EXPECT_EQ(LowerCaseWords[1], "of");
+    EXPECT_EQ(LowerCaseWords().words[0], "");
+    EXPECT_EQ(LowerCaseWords().words[1], "of");
 }
 
 TEST_F(LowerCaseWordList, ANewListReplacesTheOld) {
@@ -130,13 +132,21 @@ TEST_F(LowerCaseWordList, ANewListReplacesTheOld) {
     EXPECT_EQ(UpperBound(), 10);
 }
 
+TEST_F(LowerCaseWordList, AForgottenListIsEmpty) {
+    Load("smithton");
+    ForgetLowerCaseWords();
+    EXPECT_TRUE(LowerCaseWords().words.empty());
+    EXPECT_EQ(LowerCaseWords().count, 0);
+    EXPECT_TRUE(HasUnusualCapitals("smithton"));
+}
+
 TEST_F(LowerCaseWordList, WithoutTheFileOneMessageSaysSoAndTheListIsEmpty) {
     Load("smithton");
     desktop.files.clear();
     desktop.ExpectBox("No lowercase file found - no words will be ignored", BoxIcon::Information);
     LoadLowerCaseWords(desktop);
     desktop.CheckDone();
-    EXPECT_EQ(lLowerCaseWordCount, 0);
+    EXPECT_EQ(LowerCaseWords().count, 0);
     EXPECT_TRUE(HasUnusualCapitals("smithton"));
     EXPECT_FALSE(HasUnusualCapitals("Smithton"));
 }
@@ -145,7 +155,7 @@ TEST_F(LowerCaseWordList, OnlyTheProgramsOwnFolderIsLookedInto) {
     desktop.files["qx_lower.txt"] = desktop.files["/qx_lower.txt"] = "of";
     desktop.ExpectBox("No lowercase file found - no words will be ignored", BoxIcon::Information);
     LoadLowerCaseWords(desktop);
-    EXPECT_EQ(lLowerCaseWordCount, 0);
+    EXPECT_EQ(LowerCaseWords().count, 0);
 }
 
 TEST_F(LowerCaseWordList, TheProgramsFolderBecomesTheCurrentOneWithOrWithoutTheFile) {

@@ -4,6 +4,7 @@
 #include "file/CommentTypes.h"
 #include "recovery/OpenMark.h"
 #include "recovery/UnsavedChanges.h"
+#include "rules/Capitals.h"
 
 using namespace CommonRoutines;
 
@@ -19,6 +20,7 @@ DistrictRecord& AddLine() {
 
 void ResetEverything() {
     ResetState();
+    ForgetLowerCaseWords();
     CommentTypes.Reset();
     ClearUndoRing();
     iUndoStep = 1;

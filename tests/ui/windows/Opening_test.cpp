@@ -1,5 +1,6 @@
 // Starting, opening a file, and what is asked before changes are lost.
 
+#include "rules/Capitals.h"
 #include "ui/windows/FormTest.h"
 
 #include <QLabel>
@@ -19,7 +20,7 @@ const QStringList OnlyAll{QStringLiteral(" All")};
 TEST_F(FormTest, AtTheStartNothingIsOpen) {
     EXPECT_EQ(iEditMode, NothingOpen);
     EXPECT_FALSE(bChanged);
-    EXPECT_EQ(lLowerCaseWordCount, 3);
+    EXPECT_EQ(LowerCaseWords().count, 3);
     for (const char* list : {"lvAlpha", "lvVariations", "LvChanges", "lvComments"}) {
         EXPECT_EQ(Column(list), QStringList()) << list;
     }

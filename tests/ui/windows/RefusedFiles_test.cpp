@@ -99,7 +99,7 @@ TEST_F(RefusedFiles, AsTheWordList) {
         desktop.messages.clear();
         LoadLowerCaseWords(desktop);
         EXPECT_EQ(desktop.messages, std::vector<std::string>{"No lowercase file found - no words will be ignored"});
-        EXPECT_EQ(lLowerCaseWordCount, 0);
+        EXPECT_EQ(LowerCaseWords().count, 0);
     }
 }
 
