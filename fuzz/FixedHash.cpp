@@ -4,6 +4,6 @@
 
 #include <xxhash.h>
 
-std::size_t SeededHash::operator()(std::string_view text) const {
+std::size_t CommonRoutines::SeededHash::operator()(std::string_view text) const {
     return XXH3_64bits_withSeed(text.data(), text.size(), 1);
 }
