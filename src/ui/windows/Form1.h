@@ -71,7 +71,7 @@ private:
     CommentModel* m_comments = nullptr;
     CommentTypeModel* m_commentTypes = nullptr;
     std::unique_ptr<DistrictColumns> m_columns; // while the districts are being measured
-    Commands::WindowView m_shown; // last
+    Commands::WindowView m_shown;               // last
     bool m_fittedToScreen = false;
     bool m_tickedByClick = false; // the click being handled was on a check box
     Commands::Session m_session;
