@@ -9,8 +9,8 @@
 
 namespace CommonRoutines {
 
-// Takes the proposals out of the lines of a change file: plain text with a proposal on each line, or
-// a web page whose table rows stand on a line each, of which the first cell counts.
+// Takes the proposals out of the lines of a change file. That is plain text with a proposal on each line, or a
+// web page whose table rows stand on a line each. Of a row the first cell counts.
 class ChangeLineParser {
 public:
     // The text that a line contributes; empty when it has none. Positions are found in the trimmed

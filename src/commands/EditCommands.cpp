@@ -17,9 +17,9 @@ void UpdateMarkerOptions(Session& session) {
     session.view.edit.options = MarkerOptionsOf(session.view.edit.text);
 }
 
-// Proposals are applied with one of these two boxes ticked, which only makes sense while some are
-// ticked themselves; while a text is being edited the boxes say what it is. That a click on "Spelling
-// Mistake" is left standing then, and one on "Variation" undone, is meant.
+// Proposals are applied with one of these two boxes ticked, which only makes sense while some are ticked
+// themselves. While a text is being edited the boxes say what it is. That a click on "Spelling Mistake" is left
+// standing then, and one on "Variation" undone, is meant.
 void ChooseOption(Session& session, bool& chosen, bool& other) {
     if (session.view.selectCount.empty()) {
         session.desktop.Beep();

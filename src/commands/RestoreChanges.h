@@ -4,9 +4,9 @@ namespace CommonRoutines {
 
 class Desktop;
 
-// What there is to say when a data file has just been read into the table, and before it is shown:
-// tells when another editor has the file open, and asks whether changes of it that were never saved
-// are wanted back. If so, makes them, counts the problems of their districts anew and sets bChanged.
+// What there is to say when a data file has just been read into the table, and before it is shown. Tells when
+// another editor has the file open. Asks whether changes of it that were never saved are wanted back. If so,
+// makes them, counts the problems of their districts anew and sets bChanged.
 //
 // Recovery files of the file that do not fit it, or are damaged, are set aside with a message. None is
 // ever made in part. Expects sDataFileName to be open.

@@ -43,9 +43,9 @@ namespace Ansi {
 void SplitInto(std::vector<std::string_view>& pieces, std::string_view text, char separator,
                std::size_t most = std::string_view::npos);
 
-// The Unicode code point of a byte. The five bytes that the code page leaves open (81, 8D, 8F, 90
-// and 9D hexadecimal) stand for the control characters of the same number, so that no byte is lost.
-// Table: Unicode Consortium, MAPPINGS/VENDORS/MICSFT/WindowsBestFit/bestfit1252.txt.
+// The Unicode code point of a byte. The code page leaves five bytes open: 81, 8D, 8F, 90 and 9D hexadecimal.
+// They stand for the control characters of the same number, so that no byte is lost. Table: Unicode Consortium,
+// MAPPINGS/VENDORS/MICSFT/WindowsBestFit/bestfit1252.txt.
 [[nodiscard]] char16_t ToUnicode(char c);
 
 // The byte of a code point; "?" for one that the code page lacks.

@@ -11,9 +11,9 @@
 
 namespace Ansi {
 
-// A text that owns its bytes, for the millions of short texts of a table: 24 bytes, in which up to 23
-// characters stand in place, so that most names need no memory of their own. A longer text has a block
-// of exactly its length. Reads as a std::string_view, which it invalidates whenever it is assigned to.
+// A text that owns its bytes, for the millions of short texts of a table. Of its 24 bytes up to 23 hold
+// characters in place, so that most names need no memory of their own. A longer text has a block of exactly its
+// length. Reads as a std::string_view, which it invalidates whenever it is assigned to.
 class String {
 public:
     String() = default;
@@ -48,8 +48,8 @@ public:
     }
 
 private:
-    // The last byte is the length of a text in place; for a long one it is LongTag, and the first bytes
-    // are the address of its block and its length.
+    // The last byte is the length of a text in place. For a long one it is LongTag, and the first bytes are the
+    // address of its block and its length.
     static constexpr std::size_t Capacity = 23;
     static constexpr std::size_t Tag = Capacity;
     static constexpr std::size_t SizeAt = sizeof(char*);

@@ -8,8 +8,8 @@ namespace CommonRoutines {
 
 class Desktop;
 
-// How far a long piece of work has come, as it is told to the desktop: at its start, and then about a
-// thousand times, so that a loop may count every step.
+// How far a long piece of work has come. The desktop is told at its start, and then about a thousand times, so
+// that a loop may count every step.
 class Progress {
 public:
     // Tells nobody.

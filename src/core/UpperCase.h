@@ -44,8 +44,8 @@ private:
     static constexpr std::size_t Length = 23;
     static constexpr std::uint64_t LengthMask = 0xFF;
 
-    // Eight characters each, the first one in the highest byte; the last byte is the length of the text,
-    // 24 for any longer one, so that a text comes before those that go on with NUL.
+    // Eight characters each, the first one in the highest byte. The last byte is the length of the text, 24 for
+    // any longer one, so that a text comes before those that go on with NUL.
     std::uint64_t m_first = 0;
     std::uint64_t m_second = 0;
     std::uint64_t m_third = 0;

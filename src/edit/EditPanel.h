@@ -28,9 +28,9 @@ struct TextChange {
     std::optional<std::string> status; // for lbStatus; nothing leaves it as it is
 };
 
-// Follows the text from the present iEditMode. While a variation is added, the text is acceptable
-// when it is valid, new to the district and not only or at its end a marker; while an existing one is
-// edited, nothing is checked. Without a district the mode stays as it is.
+// Follows the text from the present iEditMode. While a variation is added, the text is acceptable when it is
+// valid, new to the district and not only or at its end a marker. While an existing one is edited, nothing is
+// checked. Without a district the mode stays as it is.
 [[nodiscard]] TextChange FollowText(std::string_view text);
 
 // What became of a text that was committed.

@@ -22,8 +22,8 @@ extern std::int16_t iUndoStep;
 // Clears all twenty steps; the current one stays the current one.
 void ClearUndoRing();
 
-// To be called before an item is recorded: items of the district of the current step join it, for
-// another district the next step of the ring is cleared and becomes the current one.
+// To be called before an item is recorded. Items of the district of the current step join it; for another
+// district the next step of the ring is cleared and becomes the current one.
 void StartUndoStep(std::int32_t lDistrict);
 
 // StartUndoStep, then NewItem.

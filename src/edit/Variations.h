@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
-// The slots of a district. Every change of a variation comes through StoreText or AddSlot, so that what is
-// kept about the texts follows, and so that the change is noted as unsaved; it is written when the command ends.
+// The slots of a district. Every change of a variation comes through StoreText or AddSlot: what is kept about
+// the texts follows, and the change is noted as unsaved. It is written when the command ends.
 namespace CommonRoutines {
 
 // The variation in a slot, 1 to lVariationCount.

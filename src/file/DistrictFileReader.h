@@ -4,15 +4,15 @@ namespace CommonRoutines {
 
 class Desktop;
 
-// Reads the file sDataFileName into Districts, one record a line, checking every variation on the way:
-// null variations go to the repair dialogue, other problems to message boxes and to a report that is
-// shown at the end. No line is ever lost; what cannot be understood is retained.
+// Reads the file sDataFileName into Districts, one record a line, checking every variation on the way. Null
+// variations go to the repair dialogue, other problems to message boxes and to a report that is shown at the
+// end. No line is ever lost; what cannot be understood is retained.
 //
-// Leaves the lines in Districts (1 to lLineCount), the totals of the load, the answer of the last
-// repair in iRepairAction (Quit ends the reading early, without a report), the pairs of the whole
-// file in DupePairs, and bChanged set when something was repaired. Adds to CommentTypes. Expects
-// iEditMode to be NothingOpen. A file that cannot be read, or that there is not enough memory for, leaves an
-// empty table, an empty sDataFileName and a message.
+// Leaves the lines in Districts (1 to lLineCount), the totals of the load and the pairs of the whole file in
+// DupePairs. The answer of the last repair is left in iRepairAction: Quit ends the reading early, without a
+// report. Sets bChanged when something was repaired. Adds to CommentTypes. Expects iEditMode to be NothingOpen.
+// A file that cannot be read, or that there is not enough memory for, leaves an empty table, an empty
+// sDataFileName and a message.
 void ReadDistrictFile(Desktop& desktop);
 
 } // namespace CommonRoutines

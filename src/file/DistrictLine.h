@@ -10,9 +10,9 @@ namespace CommonRoutines {
 
 enum class HeaderResult { Filled, WrongPartCount, NotANumber };
 
-// Fills the header fields of a record from the "+"-separated header of a district. `text` must have
-// 9 to `maxParts` parts, and its years and quarters must be numbers of 16 bits (decimal digits,
-// perhaps behind a minus sign, with blanks around them or not). Otherwise nothing is filled.
+// Fills the header fields of a record from the "+"-separated header of a district. `text` must have 9 to
+// `maxParts` parts. Its years and quarters must be numbers of 16 bits: decimal digits, perhaps behind a minus
+// sign, with blanks around them or not. Otherwise nothing is filled.
 [[nodiscard]] HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size_t maxParts);
 
 // The complaints about the quarters of a district, in the order in which they are shown. The third

@@ -1,8 +1,8 @@
 #pragma once
 
-// The recovery file: the changes of a table that no data file holds yet, each in a line of its own
-// that goes on the disk as soon as it is made. A file that can still be trusted is told from one that
-// cannot by a checksum in every line.
+// The recovery file holds the changes of a table that no data file holds yet. Each is a line of its own, which
+// goes on the disk as soon as it is made. A file that can still be trusted is told from one that cannot by a
+// checksum in every line.
 
 #include <cstdint>
 #include <optional>

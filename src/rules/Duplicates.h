@@ -6,9 +6,9 @@
 
 namespace CommonRoutines {
 
-// Marks the variations of a district that are the same as a neighbour in sorted order, counts the
-// pairs in iDuplicateCount and appends them to DupePairs, which only an explicit false empties first.
-// Returns true when there is at least one pair. Three equal variations make two pairs.
+// Marks the variations of a district that are the same as a neighbour in sorted order. Counts the pairs in
+// iDuplicateCount and appends them to DupePairs, which only an explicit false empties first. Returns true when
+// there is at least one pair. Three equal variations make two pairs.
 bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPairs = std::nullopt);
 
 // Empties DupePairs, leaving room for five pairs.

@@ -1,7 +1,7 @@
 #pragma once
 
-// The markers of a variation: a leading run of "!" (spelling mistake) and "%" (only valid in year),
-// and a trailing part that begins at the next marker, usually "%" with a volume.
+// The markers of a variation are a leading run of "!" (spelling mistake) and "%" (only valid in year), and a
+// trailing part. That begins at the next marker, usually "%" with a volume.
 
 #include <string_view>
 

@@ -14,9 +14,9 @@ namespace CommonRoutines {
 
 namespace {
 
-// Every variation stands in the index twice, since suffixes only have to be equal when both are there:
-// a sought spelling without a suffix is looked up by the first hash, one with a suffix by the second,
-// with its own suffix and with none.
+// Every variation stands in the index twice, since suffixes only have to be equal when both are there. A sought
+// spelling without a suffix is looked up by the first hash. One with a suffix is looked up by the second, with
+// its own suffix and with none.
 struct Hashes {
     std::uint64_t anySuffix;
     std::uint64_t thisSuffix;

@@ -173,8 +173,8 @@ void RowList::mousePressEvent(QMouseEvent* event) {
     }
 }
 
-// Ctrl and an arrow key go to another column, with Shift they move the column there; Alt and an arrow key make it
-// narrower or wider, Ctrl and "+" as wide as what is in it.
+// Ctrl and an arrow key go to another column, with Shift they move the column there. Alt and an arrow key make
+// it narrower or wider, Ctrl and "+" as wide as what is in it.
 bool RowList::HandleColumnKey(const QKeyEvent& event) {
     const int columns = header()->count();
     if (columns == 0 || isHeaderHidden()) {

@@ -12,8 +12,8 @@ namespace Ui {
 #include <memory>
 #endif
 
-// A file that one owner at a time can have. It ends with its owner, or with the process, however that
-// ends: the system itself holds the lock, and nothing has to be read from the file to tell who lives.
+// A file that one owner at a time can have. It ends with its owner, or with the process, however that ends. The
+// system itself holds the lock, and nothing has to be read from the file to tell who lives.
 class FileLock {
 public:
     FileLock() = default;

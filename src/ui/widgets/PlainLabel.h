@@ -4,9 +4,9 @@
 
 namespace Ui {
 
-// A label for texts from the data: always plain text, wrapped within its own width (a word that is
-// too long is broken) and ended by an ellipsis where it does not fit. Its size never follows its
-// text, so that nothing around it moves.
+// A label for texts from the data, which are always plain text. It is wrapped within its own width (a word that
+// is too long is broken) and ended by an ellipsis where it does not fit. Its size never follows its text, so
+// that nothing around it moves.
 class PlainLabel : public QLabel {
 public:
     explicit PlainLabel(QWidget* parent = nullptr);

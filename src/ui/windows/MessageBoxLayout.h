@@ -31,9 +31,9 @@ struct Layout {
     std::vector<Button> buttons;
 };
 
-// A box of one to five captions: wide captions are wrapped at their blanks, their buttons getting
-// narrower and taller, until the row fits, but a word is never cut; a wide prompt is wrapped.
-// `buttonHeight` is the height of a button of one line.
+// A box of one to five captions. Wide captions are wrapped at their blanks, their buttons getting narrower and
+// taller, until the row fits; a word is never cut. A wide prompt is wrapped. `buttonHeight` is the height of a
+// button of one line.
 [[nodiscard]] Layout Arrange(std::string_view prompt, bool hasIcon, std::span<const std::string> captions,
                              const TextMeasure& measure, int buttonHeight);
 
