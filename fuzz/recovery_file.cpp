@@ -45,7 +45,7 @@ void OpenWith(const std::string& leftOver) {
     desktop.state.canLock = true;
     sDataFileName = "/data";
     ReadDistrictFile(desktop);
-    RestoreChanges(desktop);
+    Commands::RestoreChanges(desktop);
     Unsaved.Release(desktop);
 }
 

@@ -19,7 +19,9 @@
 #include <utility>
 #include <vector>
 
-namespace CommonRoutines {
+using namespace CommonRoutines;
+
+namespace Commands {
 
 namespace {
 
@@ -176,4 +178,4 @@ void RestoreChanges(Desktop& desktop) {
     }
 }
 
-} // namespace CommonRoutines
+} // namespace Commands

@@ -1,8 +1,10 @@
 #pragma once
 
 namespace CommonRoutines {
-
 class Desktop;
+} // namespace CommonRoutines
+
+namespace Commands {
 
 // What there is to say when a data file has just been read into the table, and before it is shown. Tells when
 // another editor has the file open. Asks whether changes of it that were never saved are wanted back. If so,
@@ -10,6 +12,6 @@ class Desktop;
 //
 // Recovery files of the file that do not fit it, or are damaged, are set aside with a message. None is
 // ever made in part. Expects sDataFileName to be open.
-void RestoreChanges(Desktop& desktop);
+void RestoreChanges(CommonRoutines::Desktop& desktop);
 
-} // namespace CommonRoutines
+} // namespace Commands

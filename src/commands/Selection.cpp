@@ -5,7 +5,9 @@
 #include "rules/Capitals.h"
 #include "rules/Validation.h"
 
-namespace CommonRoutines {
+using namespace CommonRoutines;
+
+namespace Commands {
 
 namespace {
 
@@ -55,4 +57,4 @@ SelectionView DescribeSelection(std::span<const VariationRow> selected) {
     return view;
 }
 
-} // namespace CommonRoutines
+} // namespace Commands

@@ -7,12 +7,12 @@
 #include <string>
 #include <string_view>
 
-namespace CommonRoutines {
+namespace Commands {
 
 // What the window shows for the rows selected in lvVariations.
 struct SelectionView {
-    std::string reason;                                 // for lbWhyError
-    VariationState reasonState = VariationState::Plain; // whose colour the reason has
+    std::string reason;                                                                 // for lbWhyError
+    CommonRoutines::VariationState reasonState = CommonRoutines::VariationState::Plain; // whose colour the reason has
     std::string_view shriekCaption = "Add !";
     std::string_view dateCaption = "Add Date%";
     std::int16_t editMode = 0;
@@ -23,6 +23,6 @@ struct SelectionView {
 // last row, or a warning where spelling mistakes and other variations are mixed. With rows,
 // leaves in sInvalidReason why the last one is invalid, or a finding that makes no variation invalid; empty
 // where there is neither.
-[[nodiscard]] SelectionView DescribeSelection(std::span<const VariationRow> selected);
+[[nodiscard]] SelectionView DescribeSelection(std::span<const CommonRoutines::VariationRow> selected);
 
-} // namespace CommonRoutines
+} // namespace Commands

@@ -8,6 +8,7 @@
 #include "support/Reading.h"
 
 using namespace CommonRoutines;
+using namespace Commands;
 
 namespace {
 

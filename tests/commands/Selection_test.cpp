@@ -4,6 +4,7 @@
 #include "support/Table.h"
 
 using namespace CommonRoutines;
+using namespace Commands;
 
 namespace {
 

@@ -60,7 +60,6 @@ void VarCheck::BuildButtons() {
     cbClose->setDefault(true);
     for (QPushButton* button : {cbPrint, cbSave}) {
         button->setAutoDefault(false);
-        button->setEnabled(m_report.canPrintAndSave);
         button->setVisible(m_report.canPrintAndSave);
     }
     const auto onClick = [this](QPushButton* button, auto command) {
