@@ -9,13 +9,27 @@ using namespace CommonRoutines;
 
 namespace Commands {
 
-void WithinMemory(Desktop& desktop, const std::function<void()>& work) {
+namespace {
+
+bool HasMemoryFor(const std::function<void()>& work) {
     try {
         work();
+        return true;
     } catch (const std::bad_alloc&) {
-        Unsaved.Write(desktop); // whatever has been changed before
-        desktop.ShowBusy(false);
-        desktop.MsgBox("There is not enough memory for that.", BoxIcon::Critical);
+        return false;
+    }
+}
+
+void TellOfMissingMemory(Desktop& desktop) {
+    desktop.ShowBusy(false);
+    desktop.MsgBox("There is not enough memory for that.", BoxIcon::Critical);
+}
+
+} // namespace
+
+void WithinMemory(Desktop& desktop, const std::function<void()>& work) {
+    if (!HasMemoryFor(work)) {
+        TellOfMissingMemory(desktop);
     }
 }
 
@@ -23,8 +37,11 @@ Session::Session(Desktop& machine, Screen& window)
     : desktop(m_presenting), screen(window), m_machine(machine), m_presenting(machine, [this] { Present(); }) {}
 
 void Session::Run(const std::function<void(Session&)>& command) {
-    WithinMemory(m_machine, [&] { command(*this); });
-    WithinMemory(m_machine, [this] { Present(); });
+    const bool isDone = HasMemoryFor([&] { command(*this); });
+    const bool isShown = HasMemoryFor([this] { Present(); }); // also what a command did that has failed
+    if (!isDone || !isShown) {
+        TellOfMissingMemory(m_machine);
+    }
 }
 
 void Session::Present() {

@@ -1,0 +1,97 @@
+#include "commands/Session.h"
+
+#include "commands/EditingPlayer.h"
+#include "commands/WindowMode.h"
+#include "edit/Variations.h"
+#include "recovery/UnsavedChanges.h"
+
+#include <new>
+
+using namespace CommonRoutines;
+using namespace Commands;
+
+namespace {
+
+// Sees what stands behind a box, and what a kill would leave, at the moment when it comes up.
+class WatchingDesktop : public ScriptedDesktop {
+public:
+    BoxAnswer MsgBox(std::string_view text, BoxIcon /*icon*/, BoxButtons /*buttons*/) override {
+        boxes.emplace_back(text);
+        statusBehind = screen.shown.status;
+        changesOnDisk = state.Kept(".changes").size();
+        return BoxAnswer::Ok;
+    }
+
+    QuietScreen screen;
+    std::vector<std::string> boxes;
+    std::string statusBehind;
+    std::size_t changesOnDisk = 0;
+};
+
+class SessionTest : public StateTest {
+protected:
+    SessionTest() {
+        lCurrentDistrict = AddDistrict("Alpha", {"Alfa"});
+        Unsaved.Begin(desktop, DataFilePath, "", Numbering::AsRead);
+    }
+
+    static void Change(Session& session) {
+        StoreText(lCurrentDistrict, 1, "Changed");
+        session.view.status = "changed";
+    }
+
+    WatchingDesktop desktop;
+    Session session{desktop, desktop.screen};
+};
+
+} // namespace
+
+TEST_F(SessionTest, ACommandEndsWithItsChangesOnTheDiskAndShown) {
+    session.Run(Change);
+    EXPECT_EQ(desktop.state.Kept(".changes").size(), 1u);
+    EXPECT_EQ(desktop.screen.shown.status, "changed");
+    EXPECT_TRUE(desktop.boxes.empty());
+}
+
+TEST_F(SessionTest, BeforeAnythingIsSaidTheChangesAreOnTheDiskAndShown) {
+    session.Run([](Session& now) {
+        Change(now);
+        now.desktop.MsgBox("Said", BoxIcon::Information);
+    });
+    EXPECT_EQ(desktop.boxes, std::vector<std::string>{"Said"});
+    EXPECT_EQ(desktop.changesOnDisk, 1u);
+    EXPECT_EQ(desktop.statusBehind, "changed");
+}
+
+TEST_F(SessionTest, BeforeLongWorkTheWindowShowsWhatIsSo) {
+    session.Run([this](Session& now) {
+        Change(now);
+        now.desktop.ShowBusy(true);
+        EXPECT_EQ(desktop.screen.shown.status, "changed");
+        now.desktop.ShowBusy(false);
+    });
+}
+
+TEST_F(SessionTest, ACommandWithoutMemoryEndsWithAMessageBehindWhatItHasDone) {
+    session.Run([](Session& now) {
+        Change(now);
+        now.desktop.ShowBusy(true);
+        throw std::bad_alloc();
+    });
+    EXPECT_EQ(desktop.boxes, std::vector<std::string>{"There is not enough memory for that."});
+    EXPECT_EQ(desktop.changesOnDisk, 1u);
+    EXPECT_EQ(desktop.statusBehind, "changed");
+    EXPECT_FALSE(desktop.busy);
+}
+
+TEST_F(SessionTest, TheFocusIsLedOnce) {
+    session.Run([](Session& now) { now.view.focus = Focus::EditBox; });
+    EXPECT_EQ(desktop.screen.shown.focus, Focus::EditBox);
+    session.Run([](Session&) {});
+    EXPECT_EQ(desktop.screen.shown.focus, Focus::Stays);
+}
+
+TEST_F(SessionTest, TheModeIsThatOfTheProgram) {
+    session.Run([](Session& now) { EnterMode(now, DistrictIdle); });
+    EXPECT_EQ(desktop.screen.shown.mode, 4);
+}
