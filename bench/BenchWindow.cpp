@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace Bench {
+
 using namespace CommonRoutines;
 using namespace Ui;
 
@@ -106,3 +108,5 @@ std::int32_t BenchWindow::ChooseBiggestDistrict() {
     TimeOf([&] { ClickRow("lvAlpha", row); }, "lvVariations");
     return biggest->lVariationCount;
 }
+
+} // namespace Bench

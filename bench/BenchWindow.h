@@ -10,6 +10,8 @@
 #include <functional>
 #include <string>
 
+namespace Bench {
+
 // The settings of a measurement must not become those of the user.
 class PrivateSettings {
 public:
@@ -53,3 +55,5 @@ private:
 
     PaintWatch m_paints;
 };
+
+} // namespace Bench

@@ -10,7 +10,10 @@
 #include <algorithm>
 #include <vector>
 
+namespace Bench {
+
 using namespace CommonRoutines;
+
 using Figures::Median;
 using Figures::Percentile;
 using Figures::Print;
@@ -199,3 +202,5 @@ void MeasureApplying(const std::string& file, const std::string& proposals) {
     Print("added", added);
     Print("report_lines", ignored);
 }
+
+} // namespace Bench

@@ -10,7 +10,10 @@
 #include <string>
 #include <string_view>
 
+namespace Bench {
+
 using namespace CommonRoutines;
+
 using Figures::Print;
 
 namespace {
@@ -75,3 +78,5 @@ void MeasureSession(const std::string& file) {
     Figures::Require(!bChanged, "cbSave");
     Print("session_peak_bytes", Memory("VmHWM"));
 }
+
+} // namespace Bench

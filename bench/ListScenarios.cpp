@@ -8,7 +8,10 @@
 
 #include <vector>
 
+namespace Bench {
+
 using namespace CommonRoutines;
+
 using Figures::Median;
 using Figures::Print;
 
@@ -69,3 +72,5 @@ void MeasureLists(const std::string& file) {
     Print("filter_ms", Median(times.filter));
     Print("all_ms", Median(times.all));
 }
+
+} // namespace Bench

@@ -8,6 +8,8 @@
 #include <iostream>
 #include <utility>
 
+namespace Bench {
+
 namespace {
 
 constexpr qint64 LongestWait = 60'000; // milliseconds
@@ -50,3 +52,5 @@ bool PaintWatch::eventFilter(QObject* object, QEvent* event) {
     }
     return false;
 }
+
+} // namespace Bench

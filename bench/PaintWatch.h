@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <functional>
 
+namespace Bench {
+
 // Watches the painting of all widgets, so that a clock is stopped when a result is to be seen and not
 // when it has merely been computed.
 class PaintWatch : public QObject {
@@ -29,3 +31,5 @@ private:
     std::function<void()> m_onFirstPaint;
     std::uint64_t m_paints = 0;
 };
+
+} // namespace Bench

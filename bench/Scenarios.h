@@ -5,6 +5,8 @@
 
 #include <string>
 
+namespace Bench {
+
 // Opens the file.
 void MeasureOpening(const std::string& file);
 // Opens the file, runs the complete check, marks a variation and saves to "<file>.saved".
@@ -17,3 +19,5 @@ void MeasureEditing(const std::string& file);
 void MeasureApplying(const std::string& file, const std::string& proposals);
 // Chooses districts and filters them.
 void MeasureLists(const std::string& file);
+
+} // namespace Bench

@@ -13,6 +13,8 @@
 #include <string>
 #include <vector>
 
+using namespace Bench;
+
 namespace {
 
 int Measure(const std::string& scenario, const std::vector<std::string>& files) {
