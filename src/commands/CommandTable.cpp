@@ -6,7 +6,6 @@
 #include "commands/ProposalCommands.h"
 #include "commands/VariationCommands.h"
 
-#include <algorithm>
 #include <array>
 
 namespace Commands {

@@ -49,7 +49,7 @@ struct Place {
     int columns = 1;
 };
 
-// Where its key works: in the whole window, or only while the focus is there.
+// Where its key works: in the whole window, or only while the focus is there. The edit box hears its keys itself.
 enum class KeyScope { Window, Variations, EditBox };
 
 struct Command {

@@ -59,9 +59,6 @@ void ChooseDistrict(Session& session, const std::vector<int>& rows) {
     EnterMode(session, DistrictIdle);
     ResetEditPanel(session);
     ShowDistrictComments(session);
-    if (RecordOf(lCurrentDistrict).lVariationCount == 0) {
-        view.Enable(Control::cbAdd, true);
-    }
 }
 
 bool GoToDistrict(Session& session, std::int32_t district) {
@@ -89,7 +86,7 @@ void ChooseCommentType(Session& session, const std::vector<int>& rows) {
         ApplyWindowMode(session); // its commands go with it
     }
     view.applyTo = 0;
-    view.whyError.text.clear();
+    EmptyWhyError(session);
     // The columns are already as wide as the widest row of the whole file.
     const std::string& type = CommentTypes.Items()[static_cast<std::size_t>(rows.front())].type;
     view.districts.Fill(DistrictsOfType(session.districtsByName, type));

@@ -18,8 +18,7 @@ void UpdateMarkerOptions(Session& session) {
 }
 
 // Proposals are applied with one of these two boxes ticked, which only makes sense while some are ticked
-// themselves. While a text is being edited the boxes say what it is. That a click on "Spelling Mistake" is left
-// standing then, and one on "Variation" undone, is meant.
+// themselves.
 void ChooseOption(Session& session, bool& chosen, bool& other) {
     if (session.view.selectCount.empty()) {
         session.desktop.Beep();
@@ -32,7 +31,7 @@ void ChooseOption(Session& session, bool& chosen, bool& other) {
 } // namespace
 
 void StartAdding(Session& session) {
-    session.view.whyError.text.clear();
+    EmptyWhyError(session);
     iLastAction = AddStarted;
     PutIntoEditBox(session, {});
     EnterMode(session, AddingUnacceptable);
@@ -46,7 +45,7 @@ void TypeText(Session& session, std::string_view text) {
 
 void FollowEditText(Session& session) {
     WindowView& view = session.view;
-    view.whyError.text.clear();
+    EmptyWhyError(session);
     if (view.edit.text.size() > LongestEditableText) {
         ApplyWindowMode(session);
         view.status = "This text is too long to be edited here.";
@@ -73,7 +72,7 @@ void Accept(Session& session) {
     view.whyError.warns = !committed.warning.empty();
     if (view.whyError.warns) {
         session.desktop.Beep();
-        ShowWhyError(session, committed.warning, VariationState::Plain);
+        ShowWhyError(session, committed.warning, VariationState::Plain); // until the list has a summary
     }
     RefreshVariationList(session);
     ApplyWindowMode(session);
@@ -82,7 +81,7 @@ void Accept(Session& session) {
 }
 
 void Cancel(Session& session) {
-    session.view.whyError.text.clear();
+    EmptyWhyError(session);
     ReturnToIdle(session);
 }
 
@@ -92,6 +91,8 @@ void GoToEditBox(Session& session) {
     }
 }
 
+// While a text is being edited the boxes say what it is. That a click on "Spelling Mistake" is left standing
+// then, and one on "Variation" undone, is meant.
 void ClickSpelling(Session& session, bool ticked) {
     MarkerOptions& options = session.view.edit.options;
     options.spelling = ticked;

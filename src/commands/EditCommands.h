@@ -31,6 +31,8 @@ void ClickVolume(Session& session, bool ticked);
 // The program's own writing into the panel.
 void PutIntoEditBox(Session& session, std::string_view text);
 void ResetEditPanel(Session& session);
+
+// Finds out what the text in the box is good for, and enters the mode that follows from it.
 void FollowEditText(Session& session);
 
 // Empties the panel and leads the focus to the districts.

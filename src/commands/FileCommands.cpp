@@ -20,7 +20,7 @@ namespace Commands {
 
 namespace {
 
-bool MayDiscardChanges(Session& session) {
+bool ConfirmDiscard(Session& session) {
     // A cancelled or failed save costs nothing, unless the recovery file could not be written either.
     if (!bChanged && !Unsaved.AreUnwritten()) {
         return true;
@@ -46,7 +46,7 @@ void ResetWindow(Session& session) {
     ClearUndoRing();
     CommentTypes.Reset();
     ShowCommentTypes(session);
-    SetMode(NothingOpen);
+    SetMode(NothingOpen); // the controls follow when a file is open: the old one can still be saved
     view.nextUndo.clear();
     view.districts.Fill({});
     ShowVariations(session, 0, {});
@@ -90,7 +90,7 @@ void Start(Session& session) {
 }
 
 void Open(Session& session) {
-    if (!MayDiscardChanges(session)) {
+    if (!ConfirmDiscard(session)) {
         return;
     }
     ResetWindow(session);
@@ -105,7 +105,7 @@ void Open(Session& session) {
 }
 
 void OpenPath(Session& session, const std::string& path) {
-    if (MayDiscardChanges(session)) {
+    if (ConfirmDiscard(session)) {
         ResetWindow(session);
         ReadAndShow(session, path);
     }
@@ -114,11 +114,11 @@ void OpenPath(Session& session, const std::string& path) {
 void Save(Session& session) {
     ClearWhyError(session);
     SaveDistrictFile(session.desktop);
-    bChanged = false;
+    bChanged = false; // also where nothing was saved; ConfirmDiscard knows of that
 }
 
-bool MayClose(Session& session) {
-    if (!MayDiscardChanges(session)) {
+bool ConfirmClose(Session& session) {
+    if (!ConfirmDiscard(session)) {
         return false;
     }
     if (bChanged) {

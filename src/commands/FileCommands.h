@@ -27,8 +27,8 @@ void OpenPath(Session& session, const std::string& path);
 // Asks for a name and writes the table there. Unsaved changes count as saved whatever came of it.
 void Save(Session& session);
 
-// Whether the window may be closed; unsaved changes are given up then.
-[[nodiscard]] bool MayClose(Session& session);
+// Asks, where there are unsaved changes, whether the window may be closed. They are given up then.
+[[nodiscard]] bool ConfirmClose(Session& session);
 
 // Keeps the folder of a chosen file for the next dialogue.
 void RememberFolder(Session& session, const std::string& path, std::string_view key);

@@ -22,9 +22,7 @@ namespace Commands {
 namespace {
 
 void SetTick(Session& session, int row, bool ticked) {
-    ListView<Proposal>& list = session.view.proposals;
-    (*list.rows)[static_cast<std::size_t>(row)].ticked = ticked;
-    ++list.touched;
+    session.view.proposals.Change(row).ticked = ticked;
 }
 
 void UpdateChangeSelection(Session& session) {
@@ -55,13 +53,17 @@ std::optional<ProposalList> ReadChangeFile(Desktop& desktop, const std::string& 
     return list;
 }
 
-void Apply(Session& session, bool selectedOnly, bool asSpelling) {
+enum class Which { All, Ticked };
+enum class As { Proposed, SpellingMistake };
+
+void Apply(Session& session, Which which, As as) {
     // The buttons stay enabled when opening a file is cancelled, which leaves no district chosen.
     if (!IsDistrict(lCurrentDistrict)) {
         return;
     }
     WindowView& view = session.view;
-    const auto applied = ApplyChanges(*view.proposals.rows, selectedOnly, asSpelling, session.desktop);
+    const auto applied =
+        ApplyChanges(*view.proposals.rows, which == Which::Ticked, as == As::SpellingMistake, session.desktop);
     if (!applied) {
         return;
     }
@@ -97,19 +99,19 @@ void ProcessFile(Session& session) {
 }
 
 void ApplyAll(Session& session) {
-    Apply(session, false, false);
+    Apply(session, Which::All, As::Proposed);
 }
 
 void ApplyAllAsSpelling(Session& session) {
-    Apply(session, false, true);
+    Apply(session, Which::All, As::SpellingMistake);
 }
 
 void ApplySelected(Session& session) {
-    Apply(session, true, false);
+    Apply(session, Which::Ticked, As::Proposed);
 }
 
 void ApplySelectedAsSpelling(Session& session) {
-    Apply(session, true, true);
+    Apply(session, Which::Ticked, As::SpellingMistake);
 }
 
 void EditTicked(Session& session) {

@@ -21,6 +21,7 @@ void ApplySelectedAsSpelling(Session& session);
 // The first ticked proposal is taken into the edit box.
 void EditTicked(Session& session);
 
+// Takes all ticks away; the buttons for all proposals are enabled then whatever the mode.
 void UntickAll(Session& session);
 
 // The user ticks a proposal or takes its tick away. Only a valid one may be ticked.
@@ -32,6 +33,7 @@ void ClickProposal(Session& session, int row);
 // The user has moved the highlight, which counts when the mode is next applied.
 void HighlightProposals(Session& session, const std::vector<int>& rows);
 
+// Fills the list with these proposals, of which none is ticked.
 void ShowProposals(Session& session, std::vector<CommonRoutines::Proposal> proposals);
 
 } // namespace Commands

@@ -17,6 +17,7 @@ std::string ReasonFor(const VariationRecord& variation) {
     if (verdict.IsValid() && verdict.Warns()) {
         return *verdict.warning;
     }
+    // The colour names a duplicate first, the reason the capitals: users know it so.
     if (verdict.IsValid() && CapitalsAreUnusual(variation.Text)) {
         sInvalidReason = "Unusual Capitals";
     } else if (verdict.IsValid() && variation.bDuplicate) {

@@ -3,7 +3,6 @@
 #include "recovery/UnsavedChanges.h"
 
 #include <new>
-#include <utility>
 
 using namespace CommonRoutines;
 

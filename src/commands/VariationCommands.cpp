@@ -22,10 +22,9 @@ namespace {
 void RefreshSelectedRows(Session& session) {
     ListView<VariationRow>& list = session.view.variations;
     for (const int row : list.selected) {
-        VariationRow& shown = (*list.rows)[static_cast<std::size_t>(row)];
+        VariationRow& shown = list.Change(row);
         shown.state = StateOfVariation(VariationOf(session.view.variationsOf, shown.slot));
     }
-    ++list.touched;
 }
 
 void ChangeSelectedMarkers(Session& session, MarkerCommand command) {
@@ -82,7 +81,7 @@ void GiveUpSelection(Session& session) {
 }
 
 void Delete(Session& session) {
-    session.view.whyError.text.clear();
+    EmptyWhyError(session);
     iLastAction = VariationDeleted;
     const std::vector<VariationRow> rows = SelectedVariations(session);
     const bool confirmed = !rows.empty() && session.desktop.MsgBox(DeleteQuestion(rows), BoxIcon::Question,
@@ -108,7 +107,7 @@ void Undo(Session& session) {
         return;
     }
     WindowView& view = session.view;
-    view.whyError.text.clear();
+    EmptyWhyError(session);
     const UndoneItem undone = CurrentUndoStep().LastItem();
     if (undone.lDistrict != lCurrentDistrict && !GoToDistrict(session, undone.lDistrict)) {
         ReportLostDistrict(session, undone.lDistrict);
@@ -131,7 +130,7 @@ void RefreshVariationList(Session& session) {
     VariationList list = ListVariations(lCurrentDistrict);
     const bool hasRows = !list.rows.empty();
     ShowVariations(session, lCurrentDistrict, std::move(list.rows));
-    ++session.view.districts.touched;
+    ++session.view.districts.touched; // its record has been counted anew
     if (hasRows) {
         EnterMode(session, DistrictIdle);
     }
@@ -157,6 +156,10 @@ std::vector<VariationRow> SelectedVariations(const Session& session) {
 void ShowWhyError(Session& session, std::string_view text, VariationState ink) {
     session.view.whyError.text = text;
     session.view.whyError.ink = ink;
+}
+
+void EmptyWhyError(Session& session) {
+    session.view.whyError.text.clear();
 }
 
 void ClearWhyError(Session& session) {

@@ -27,14 +27,18 @@ void ChangeDate(Session& session);
 // Takes the last change back, in whichever district it was made.
 void Undo(Session& session);
 
-// Lists the variations of lCurrentDistrict anew, with the summary of their problems.
+// Lists the variations of lCurrentDistrict anew; none is selected or edited then. Where there are some, enters
+// the idle mode; where they have problems, their summary takes the place of what the label showed.
 void RefreshVariationList(Session& session);
 
+// Fills the list with these rows of a district.
 void ShowVariations(Session& session, std::int32_t district, std::vector<CommonRoutines::VariationRow> rows);
+// The selected rows, in list order.
 [[nodiscard]] std::vector<CommonRoutines::VariationRow> SelectedVariations(const Session& session);
 
-// The label of problems.
+// The label of problems. Emptied, it keeps its ground, on which the warning of the last "Ok" is seen.
 void ShowWhyError(Session& session, std::string_view text, CommonRoutines::VariationState ink);
+void EmptyWhyError(Session& session);
 void ClearWhyError(Session& session);
 
 } // namespace Commands

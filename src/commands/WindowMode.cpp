@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::int16_t FirstMode = 1;
 constexpr std::int16_t LastMode = 10;
+constexpr std::int16_t ModeNeverSet = 7; // has its column all the same
 
 bool IsMode(std::int16_t mode) {
     return mode >= FirstMode && mode <= LastMode;
@@ -66,7 +67,7 @@ std::optional<bool> EnabledInMode(Control control, std::int16_t mode, bool chang
 }
 
 bool ModeClearsStatus(std::int16_t mode) {
-    return IsMode(mode) && mode != 7 && mode != AddingUnacceptable;
+    return IsMode(mode) && mode != ModeNeverSet && mode != AddingUnacceptable;
 }
 
 bool ModeClearsApplyTo(std::int16_t mode) {

@@ -18,8 +18,8 @@
 
 namespace Commands {
 
-// A list. Other rows are a list that was filled anew, and is shown from its beginning. Rows that have
-// changed in their places raise `touched`.
+// A list. Other rows are a list that was filled anew, and is shown from its beginning. Rows that have changed
+// in their places raise `touched`. Copies of a list share its rows, so that a million of them cost nothing.
 template <typename Row>
 struct ListView {
     std::shared_ptr<std::vector<Row>> rows = std::make_shared<std::vector<Row>>();
@@ -29,6 +29,10 @@ struct ListView {
     void Fill(std::vector<Row> newRows) {
         rows = std::make_shared<std::vector<Row>>(std::move(newRows));
         selected.clear();
+    }
+    [[nodiscard]] Row& Change(int row) {
+        ++touched;
+        return (*rows)[static_cast<std::size_t>(row)];
     }
     [[nodiscard]] bool IsEmpty() const { return rows->empty(); }
     [[nodiscard]] const Row& At(int row) const { return (*rows)[static_cast<std::size_t>(row)]; }
@@ -77,8 +81,8 @@ struct HintsView {
 enum class Focus { Stays, Districts, Proposals, EditBox, WholeText, OpenButton };
 
 struct WindowView {
-    std::int16_t mode = CommonRoutines::NothingOpen;
-    std::array<bool, ControlCount> enabled{}; // by Control
+    std::int16_t mode = CommonRoutines::NothingOpen; // iEditMode as the command has left it
+    std::array<bool, ControlCount> enabled{};        // by Control
 
     ListView<std::int32_t> districts; // lines of the table
     ListView<CommonRoutines::VariationRow> variations;

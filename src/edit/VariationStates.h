@@ -1,7 +1,8 @@
 #pragma once
 
 // The states of a variation, and all that is said and shown of each: one table, which the lists, their
-// colours and the summary read. A new state is a value here and an entry in the table.
+// colours and the summary read. A new state is a value here and an entry in the table; when a variation has it is said
+// in edit/VariationList.
 
 #include "core/Records.h"
 

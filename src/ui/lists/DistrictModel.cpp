@@ -22,7 +22,7 @@ void DistrictModel::Show(const Commands::ListView<std::int32_t>& list, std::int3
         beginResetModel();
         m_districts.Take(list);
         endResetModel();
-    } else if (m_districts.HaveChanged(list)) {
+    } else if (m_districts.TakeTouched(list)) {
         PaintAnew(changed);
     }
 }

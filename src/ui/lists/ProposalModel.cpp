@@ -40,7 +40,7 @@ void ProposalModel::Show(const Commands::ListView<Proposal>& list) {
         beginResetModel();
         m_rows.Take(list);
         endResetModel();
-    } else if (m_rows.HaveChanged(list) && m_rows.Count() > 0) {
+    } else if (m_rows.TakeTouched(list) && m_rows.Count() > 0) {
         Q_EMIT dataChanged(index(0), index(m_rows.Count() - 1), {Qt::CheckStateRole});
     }
 }

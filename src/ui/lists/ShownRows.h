@@ -2,7 +2,9 @@
 
 #include "commands/WindowView.h"
 
+#include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace Ui {
@@ -15,7 +17,7 @@ public:
     [[nodiscard]] bool AreOthersThan(const Commands::ListView<Row>& list) const { return m_rows != list.rows; }
 
     // Whether rows have changed in their places since the last time; asked once.
-    [[nodiscard]] bool HaveChanged(const Commands::ListView<Row>& list) {
+    [[nodiscard]] bool TakeTouched(const Commands::ListView<Row>& list) {
         return std::exchange(m_touched, list.touched) != list.touched;
     }
     void Take(const Commands::ListView<Row>& list) {

@@ -17,7 +17,7 @@ void VariationModel::Show(const Commands::ListView<VariationRow>& list, std::int
         m_district = district;
         m_rows.Take(list);
         endResetModel();
-    } else if (m_rows.HaveChanged(list) && m_rows.Count() > 0) {
+    } else if (m_rows.TakeTouched(list) && m_rows.Count() > 0) {
         Q_EMIT dataChanged(index(0), index(m_rows.Count() - 1));
     }
 }

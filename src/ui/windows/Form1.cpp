@@ -5,6 +5,7 @@
 #include "commands/FileCommands.h"
 #include "commands/ProposalCommands.h"
 #include "commands/VariationCommands.h"
+#include "core/State.h"
 #include "ui/Text.h"
 #include "ui/lists/CommentModels.h"
 #include "ui/lists/DistrictColumns.h"
@@ -25,6 +26,8 @@
 #include <QShortcut>
 #include <QStyle>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace Ui {
 
@@ -118,7 +121,8 @@ void Form1::ConnectEditPanel() {
 
     EditBox* edit = m_controls.tbEdit;
     connect(edit, &QLineEdit::textChanged, this, [=, this] {
-        if (!bIgnoreEvents) { // what the signal brings may have been replaced since
+        if (!bIgnoreEvents) {
+            // The text that the signal brings may have been replaced since.
             Run([=](Session& session) { Commands::TypeText(session, Text::FromQt(edit->text())); });
         }
     });
@@ -172,7 +176,7 @@ void Form1::showEvent(QShowEvent* event) {
 
 void Form1::closeEvent(QCloseEvent* event) {
     bool mayClose = false;
-    Run([&](Session& session) { mayClose = Commands::MayClose(session); });
+    Run([&](Session& session) { mayClose = Commands::ConfirmClose(session); });
     event->setAccepted(mayClose);
 }
 

@@ -45,7 +45,7 @@ private:
     void ConnectLists();
     void ConnectProposals();
 
-    // What a command has ended with.
+    // What a command has ended with, or what stands behind its question.
     void Show(const Commands::WindowView& view) override;
     void ShowLists(const Commands::WindowView& view);
     void WrapComments(std::int32_t district);

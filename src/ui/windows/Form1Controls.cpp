@@ -4,17 +4,15 @@
 #include "ui/lists/RowList.h"
 #include "ui/lists/StateColours.h"
 #include "ui/widgets/EditBox.h"
-#include "ui/widgets/EqualGapLayout.h"
 #include "ui/widgets/PlainLabel.h"
 
 #include <QCheckBox>
-#include <QFrame>
-#include <QGridLayout>
 #include <QHeaderView>
 #include <QPushButton>
-#include <QVBoxLayout>
 
-#include <array>
+#include <algorithm>
+#include <span>
+#include <vector>
 
 namespace Ui {
 

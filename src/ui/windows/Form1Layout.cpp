@@ -172,10 +172,10 @@ void Form1Controls::SetTabOrder() {
     QWidget* before = nullptr;
     const auto next = [&](std::initializer_list<QWidget*> controls) {
         for (QWidget* control : controls) {
-            if (before != nullptr) {
+            if (before != nullptr && control != nullptr) {
                 QWidget::setTabOrder(before, control);
             }
-            before = control;
+            before = control != nullptr ? control : before;
         }
     };
     for (const Commands::Command& command : Commands::AllCommands()) {

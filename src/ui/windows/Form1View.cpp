@@ -73,7 +73,9 @@ void Form1::WrapComments(std::int32_t district) {
 
 void Form1::ShowEnabled(const Commands::WindowView& view) {
     for (const Commands::Command& command : Commands::AllCommands()) {
-        m_controls.Widget(command.control)->setEnabled(view.IsEnabled(command.control));
+        if (QWidget* control = m_controls.Widget(command.control)) { // a command may have a key alone
+            control->setEnabled(view.IsEnabled(command.control));
+        }
     }
 }
 
