@@ -54,17 +54,17 @@ enum class KeyScope { Window, Variations, EditBox };
 
 struct Command {
     Control control = Control::Count;
-    std::string_view name = ""; // of the control
+    std::string_view name = {}; // of the control
     Place place;
-    std::string_view caption = "";
-    std::string_view otherCaption = ""; // for which there has to be room as well
-    std::string_view spokenName = "";   // for a screen reader, where the caption does not tell enough
-    std::string_view hint = "";
-    std::string_view key = ""; // as the toolkit and the page of keys name it
+    std::string_view caption = {};
+    std::string_view otherCaption = {}; // for which there has to be room as well
+    std::string_view spokenName = {};   // for a screen reader, where the caption does not tell enough
+    std::string_view hint = {};
+    std::string_view key = {}; // as the toolkit and the page of keys name it
     KeyScope scope = KeyScope::Window;
     // A character for each of the modes 1 to 10: "E" enabled, "-" disabled, "D" enabled while there are unsaved
     // changes, "C" decided from the proposals, a blank: left as it is.
-    std::string_view modes = "";
+    std::string_view modes = {};
     void (*run)(Session&) = nullptr; // nothing where the control has events of its own
 };
 

@@ -33,7 +33,8 @@ void WithinMemory(Desktop& desktop, const std::function<void()>& work) {
 }
 
 Session::Session(Desktop& machine, Screen& window)
-    : desktop(m_presenting), screen(window), m_machine(machine), m_presenting(machine, [this] { Present(); }) {}
+    : desktop(m_presenting), screen(window), m_machine(machine), m_presenting(machine, [this] { Present(); }),
+      m_showing(machine, [this] { screen.Show(view); }) {}
 
 void Session::Run(const std::function<void(Session&)>& command) {
     const bool isDone = HasMemoryFor([&] { command(*this); });
@@ -44,7 +45,7 @@ void Session::Run(const std::function<void(Session&)>& command) {
 }
 
 void Session::Present() {
-    Unsaved.Write(m_machine);
+    Unsaved.Write(m_showing);
     view.mode = iEditMode;
     screen.Show(view);
     view.focus = Focus::Stays;

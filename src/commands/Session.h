@@ -46,6 +46,7 @@ private:
 
     CommonRoutines::Desktop& m_machine;
     PresentingDesktop m_presenting;
+    PresentingDesktop m_showing; // for what there is to say while changes are being written
 };
 
 // Does something that may need more memory than there is, which then ends with a message.

@@ -84,6 +84,29 @@ TEST_F(SessionTest, ACommandWithoutMemoryEndsWithAMessageBehindWhatItHasDone) {
     EXPECT_FALSE(desktop.busy);
 }
 
+TEST_F(SessionTest, WhatCannotBeWrittenIsSaidBeforeAWindowThatShowsIt) {
+    desktop.state.canWrite = false;
+    session.Run(Change);
+    ASSERT_EQ(desktop.boxes.size(), 1u);
+    EXPECT_TRUE(desktop.boxes[0].starts_with("Your changes cannot be written")) << desktop.boxes[0];
+    EXPECT_EQ(desktop.statusBehind, "changed");
+}
+
+TEST_F(SessionTest, AModeThatIsNoneChangesNoControlAndNoLabel) {
+    session.Run([](Session& now) {
+        EnterMode(now, AddingUnacceptable);
+        now.view.status = "status";
+        now.view.applyTo = 1;
+    });
+    const WindowView before = desktop.screen.shown;
+    for (const std::int16_t mode : std::initializer_list<std::int16_t>{0, 11, -1}) {
+        session.Run([=](Session& now) { EnterMode(now, mode); });
+        EXPECT_EQ(desktop.screen.shown.enabled, before.enabled) << mode;
+        EXPECT_EQ(desktop.screen.shown.status, "status") << mode;
+        EXPECT_EQ(desktop.screen.shown.applyTo, 1) << mode;
+    }
+}
+
 TEST_F(SessionTest, TheFocusIsLedOnce) {
     session.Run([](Session& now) { now.view.focus = Focus::EditBox; });
     EXPECT_EQ(desktop.screen.shown.focus, Focus::EditBox);

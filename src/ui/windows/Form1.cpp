@@ -101,6 +101,9 @@ void Form1::ConnectKey(const Commands::Command& command) {
     auto* parent = isOfList ? static_cast<QWidget*>(m_controls.lvVariations) : this;
     auto* key = new QShortcut(QKeySequence(Text::ToQt(command.key)), parent);
     key->setContext(isOfList ? Qt::WidgetShortcut : Qt::WindowShortcut);
+    if (key->key() == QKeySequence(QKeySequence::Delete)) {
+        key->setKeys(QKeySequence::Delete); // with what else a desktop takes for it
+    }
     if (QPushButton* button = m_controls.Button(command.control)) {
         connect(key, &QShortcut::activated, button, &QPushButton::click);
     } else {
