@@ -59,8 +59,11 @@ void Form1::ShowLists(const Commands::WindowView& view) {
     if (view.comments.filled != m_shown.comments.filled) {
         WrapComments(view.comments.district);
     }
-    m_commentTypes->Show(view.commentTypes);
-    m_controls.lbComments->ShowSelection(view.commentTypes.selected);
+    const Commands::CommentTypesView& types = view.commentTypes;
+    m_commentTypes->Show(types);
+    if (types.filled != m_shown.commentTypes.filled || types.selected != m_shown.commentTypes.selected) {
+        m_controls.lbComments->ShowSelection(types.selected);
+    }
 }
 
 void Form1::WrapComments(std::int32_t district) {
@@ -89,7 +92,9 @@ void Form1::ShowTexts(const Commands::WindowView& view) {
     if (view.applyTo != m_shown.applyTo) {
         m_controls.lbApplyTo->ShowText(view.applyTo > 0 ? Text::ForList(RecordOf(view.applyTo).Name) : QString());
     }
-    m_controls.lbSelectCount->ShowText(Text::ToQt(view.selectCount));
+    if (view.selectCount != m_shown.selectCount) {
+        m_controls.lbSelectCount->ShowText(Text::ToQt(view.selectCount));
+    }
     if (view.whyError != m_shown.whyError) {
         m_controls.lbWhyError->SetTextColour(StateColours::OnLight(view.whyError.ink));
         m_controls.lbWhyError->SetBackground(view.whyError.warns ? StateColours::BlueGreen : StateColours::LightGrey);
