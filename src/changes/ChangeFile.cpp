@@ -59,6 +59,12 @@ std::string ChangeLineParser::ParseChangeLine(std::string_view line) {
     return m_isInHead || aboveHead ? std::string() : std::string(line);
 }
 
+std::string ReasonOf(const Proposal& proposal) {
+    const Verdict verdict = CheckVariation(Ansi::Trim(proposal.text));
+    const std::string warning = verdict.warning.value_or("");
+    return verdict.reason.empty() || warning.empty() ? verdict.reason + warning : verdict.reason + "; " + warning;
+}
+
 std::string ProposalList::Summary() const {
     std::string summary;
     if (invalidCount > 0) {

@@ -15,4 +15,7 @@ struct Proposal {
     bool ticked = false;
 };
 
+// Why a proposal is invalid or suspicious; empty where there is nothing to say.
+[[nodiscard]] std::string ReasonOf(const Proposal& proposal);
+
 } // namespace CommonRoutines

@@ -3,7 +3,6 @@
 #include "core/State.h"
 #include "edit/Variations.h"
 #include "rules/Capitals.h"
-#include "rules/Validation.h"
 
 using namespace CommonRoutines;
 
@@ -11,19 +10,10 @@ namespace Commands {
 
 namespace {
 
-std::string ReasonFor(const VariationRecord& variation) {
-    const Verdict verdict = CheckVariation(variation.Text);
-    sInvalidReason = verdict.reason;
-    if (verdict.IsValid() && verdict.Warns()) {
-        return *verdict.warning;
-    }
-    // The colour names a duplicate first, the reason the capitals: users know it so.
-    if (verdict.IsValid() && CapitalsAreUnusual(variation.Text)) {
-        sInvalidReason = "Unusual Capitals";
-    } else if (verdict.IsValid() && variation.bDuplicate) {
-        sInvalidReason = "Duplicates " + VariationOf(lCurrentDistrict, variation.lDuplicateOf).Text;
-    }
-    return sInvalidReason;
+// The colour names a duplicate before the capitals, the reason the capitals before a duplicate: users know it so.
+VariationState StateToExplain(VariationState state, const VariationRecord& variation) {
+    return state == VariationState::Duplicate && CapitalsAreUnusual(variation.Text) ? VariationState::UnusualCaps
+                                                                                    : state;
 }
 
 } // namespace
@@ -41,8 +31,10 @@ SelectionView DescribeSelection(std::span<const VariationRow> selected) {
     }
     SelectionView view;
     if (!selected.empty()) {
-        view.reason = ReasonFor(VariationOf(lCurrentDistrict, selected.back().slot));
+        const VariationRecord& last = VariationOf(lCurrentDistrict, selected.back().slot);
         view.reasonState = selected.back().state;
+        view.reason = ReasonOf(StateToExplain(view.reasonState, last), lCurrentDistrict, last);
+        sInvalidReason = view.reasonState == VariationState::Warning ? std::string() : view.reason;
     }
     if (spelling && other) {
         view.reason = "Warning - You've selected a mixture of Spelling and Non-Spelling Variations";

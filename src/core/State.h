@@ -64,7 +64,7 @@ extern std::vector<DupePair> DupePairs;
 extern std::int32_t lDupePairCount;
 
 // Why a variation is invalid; a valid one leaves the last reason there. Written by ValidateVariation and
-// CheckQuestionMark. DescribeSelection writes it too, and alone reads it, at once.
+// CheckQuestionMark. DescribeSelection writes it too; kept for their callers, nothing reads it.
 extern std::string sInvalidReason;
 
 // What the last check warns of. Written by ValidateVariation.

@@ -2,6 +2,7 @@
 
 #include "core/State.h"
 #include "core/UpperCase.h"
+#include "edit/Variations.h"
 #include "rules/Capitals.h"
 #include "rules/Validation.h"
 
@@ -31,6 +32,21 @@ void StoreCounts(DistrictRecord& record, const CountsOfStates& counts) {
 }
 
 } // namespace
+
+std::string ReasonOf(VariationState state, std::int32_t lDistrict, const VariationRecord& variation) {
+    switch (state) {
+    case VariationState::Invalid:
+        return CheckVariation(variation.Text).reason;
+    case VariationState::Warning:
+        return CheckVariation(variation.Text).warning.value_or("");
+    case VariationState::Duplicate:
+        return "Duplicates " + VariationOf(lDistrict, variation.lDuplicateOf).Text;
+    case VariationState::UnusualCaps:
+        return "Unusual Capitals";
+    default:
+        return {};
+    }
+}
 
 VariationState StateOfVariation(const VariationRecord& variation) {
     const Verdict verdict = CheckVariation(variation.Text);

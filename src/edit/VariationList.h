@@ -21,6 +21,10 @@ struct VariationList {
     std::string summary;            // the counts of problems, a line each; empty when there are none
 };
 
+// Why a variation of a district has a state: what is invalid or suspicious, or of which other one it is a
+// duplicate; empty for a plain one.
+[[nodiscard]] std::string ReasonOf(VariationState state, std::int32_t lDistrict, const VariationRecord& variation);
+
 // Runs the checks of a variation.
 [[nodiscard]] VariationState StateOfVariation(const VariationRecord& variation);
 

@@ -23,15 +23,10 @@ int CommentModel::columnCount(const QModelIndex& parent) const {
 
 QVariant CommentModel::data(const QModelIndex& index, int role) const {
     const CommentRow& row = m_rows[static_cast<std::size_t>(index.row())];
-    const QString text = Text::ForList(index.column() == 0 ? row.type : row.comment);
-    switch (role) {
-    case Qt::DisplayRole:
-        return text;
-    case Qt::ToolTipRole:
-        return Text::ForToolTip(text);
-    default:
+    if (role != Qt::DisplayRole) {
         return {};
     }
+    return Text::ForList(index.column() == 0 ? row.type : row.comment);
 }
 
 QVariant CommentModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -60,7 +55,7 @@ QVariant CommentTypeModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return Text::ForList(item.type);
     case Qt::ToolTipRole:
-        return Text::ForToolTip(Text::ForList(item.type));
+        return Text::ToQt(Commands::CommandOf(Commands::Control::lbComments).hint);
     case Qt::UserRole:
         return item.itemData;
     default:

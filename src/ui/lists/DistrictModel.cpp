@@ -62,7 +62,7 @@ QVariant DistrictModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole:
         return problem ? text + QStringLiteral(", has problems") : text;
     case Qt::ToolTipRole:
-        return Text::ForToolTip(problem ? text + QStringLiteral(" - this district has problems") : text);
+        return problem ? QStringLiteral("This district has problems: choose it to see them") : QString();
     default:
         return {};
     }

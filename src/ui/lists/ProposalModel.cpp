@@ -59,10 +59,13 @@ QVariant ProposalModel::data(const QModelIndex& index, int role) const {
     case Qt::CheckStateRole:
         return proposal.ticked ? Qt::Checked : Qt::Unchecked;
     case Qt::AccessibleTextRole:
-    case Qt::ToolTipRole: {
-        const QString words = Text::ForList(proposal.text) + KindInWords(proposal);
-        return role == Qt::ToolTipRole ? Text::ForToolTip(words) : words;
-    }
+        return Text::ForList(proposal.text) + KindInWords(proposal);
+    case Qt::ToolTipRole:
+        if (proposal.tag == Proposal::Heading) {
+            return QStringLiteral("a heading, which is never applied");
+        }
+        return ReasonInWords(proposal.tag == Proposal::Invalid ? VariationState::Invalid : StateOf(proposal),
+                             ReasonOf(proposal));
     default:
         return {};
     }

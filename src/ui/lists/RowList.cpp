@@ -1,17 +1,20 @@
 #include "ui/lists/RowList.h"
 
+#include "ui/Text.h"
 #include "ui/lists/StateColours.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -247,13 +250,62 @@ bool RowList::event(QEvent* event) {
     return handled;
 }
 
+// Whether the next letter goes on with a name that is being typed.
+bool RowList::IsLookingFor() const {
+    return m_lastTyped.isValid() && !m_lastTyped.hasExpired(QApplication::keyboardInputInterval());
+}
+
+// Space ticks a row that can be ticked. Otherwise Space and Enter select the current row where none is
+// selected, and take up what is. No blank begins a search, which would lead somewhere else.
+bool RowList::HandleChoosingKey(QKeyEvent& event) {
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const QModelIndex current = currentIndex();
+    const bool ticks = event.key() == Qt::Key_Space && current.flags().testFlag(Qt::ItemIsUserCheckable);
+    const bool isSpace = ticks || (event.key() == Qt::Key_Space && !IsLookingFor());
+    const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (!isPlain || !current.isValid() || (!isEnter && !isSpace)) {
+        return false;
+    }
+    if (ticks) {
+        edit(current, AnyKeyPressed, &event);
+    } else if (selectionModel()->hasSelection()) {
+        Q_EMIT TakenUp();
+    } else {
+        selectionModel()->setCurrentIndex(current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+    event.setAccepted(isSpace); // Enter also presses the default button of a box that the list stands in
+    return true;
+}
+
+QString RowList::ToolTipOf(const QModelIndex& index) const {
+    const QString said = index.data(Qt::ToolTipRole).toString();
+    const QRect seen = visualRect(index).intersected(viewport()->rect());
+    const bool isCutOff = sizeHintForIndex(index).width() > seen.width();
+    const QString text = isCutOff ? index.data().toString() : QString();
+    return text.isEmpty() || said.isEmpty() ? text + said : text + QLatin1Char('\n') + said;
+}
+
+bool RowList::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QTreeView::viewportEvent(event);
+    }
+    const auto* help = dynamic_cast<QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString text = index.isValid() ? ToolTipOf(index) : QString();
+    if (index.isValid() && !text.isEmpty()) {
+        QToolTip::showText(help->globalPos(), Text::ForToolTip(text), viewport(), visualRect(index));
+    } else {
+        QToolTip::showText(help->globalPos(), toolTip(), viewport()); // its own, or none
+    }
+    return true;
+}
+
 // The toolkit's own search looks at one row after the other; here the model may know better.
 void RowList::keyboardSearch(const QString& search) {
     if (search.isEmpty() || model()->rowCount() == 0) {
         return;
     }
-    const bool goesOn = m_lastTyped.isValid() && !m_lastTyped.hasExpired(QApplication::keyboardInputInterval());
-    m_typed = goesOn ? m_typed + search : search;
+    m_typed = IsLookingFor() ? m_typed + search : search;
     m_lastTyped.start();
     const bool isOneLetter = m_typed.count(m_typed.front()) == m_typed.size();
     int start = 0;
@@ -274,7 +326,7 @@ void RowList::keyPressEvent(QKeyEvent* event) {
         CopySelection();
         return;
     }
-    if (HandleColumnKey(*event)) {
+    if (HandleColumnKey(*event) || HandleChoosingKey(*event)) {
         return;
     }
     // A list that has just got its rows or the focus has a current row but no selected one: the first

@@ -35,18 +35,24 @@ public:
     // Selects the next row whose first cell begins with what is typed.
     void keyboardSearch(const QString& search) override;
 
+    // What is to be said of a row, and the text of a cell that is not seen whole. What can be read is not repeated.
+    [[nodiscard]] QString ToolTipOf(const QModelIndex& index) const;
+
     // Copies the selected rows as lines, their cells separated by tabs.
     void CopySelection() const;
 
 Q_SIGNALS:
     // The user has changed the selection, or has clicked on a row that was selected already.
     void Chosen();
+    // Space or Enter was pressed on what is selected already.
+    void TakenUp();
     void Resized();
 
 protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -57,6 +63,8 @@ protected:
 private:
     void Announce();
     [[nodiscard]] bool HandleColumnKey(const QKeyEvent& event);
+    [[nodiscard]] bool HandleChoosingKey(QKeyEvent& event);
+    [[nodiscard]] bool IsLookingFor() const;
     void MarkColumn(int column);
     void UpdateFocusMarks();
     void DescribeEmptiness();

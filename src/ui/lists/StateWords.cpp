@@ -9,4 +9,13 @@ QString StateInWords(CommonRoutines::VariationState state) {
     return words.empty() ? QString() : QStringLiteral(" - ") + Text::ToQt(words);
 }
 
+QString ReasonInWords(CommonRoutines::VariationState state, std::string_view reason) {
+    const QString words = Text::ToQt(FactsOf(state).words);
+    const QString found = Text::ForList(reason);
+    if (words.isEmpty() || found.isEmpty() || words.compare(found, Qt::CaseInsensitive) == 0) {
+        return words;
+    }
+    return words + QStringLiteral(": ") + found;
+}
+
 } // namespace Ui

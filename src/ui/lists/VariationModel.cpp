@@ -39,10 +39,9 @@ QVariant VariationModel::data(const QModelIndex& index, int role) const {
     case Qt::ForegroundRole:
         return StateColours::InList(state, QGuiApplication::palette());
     case Qt::AccessibleTextRole:
-    case Qt::ToolTipRole: {
-        const QString words = Text::ForList(VariationAt(index.row()).Text) + StateInWords(state);
-        return role == Qt::ToolTipRole ? Text::ForToolTip(words) : words;
-    }
+        return Text::ForList(VariationAt(index.row()).Text) + StateInWords(state);
+    case Qt::ToolTipRole:
+        return ReasonInWords(state, ReasonOf(state, m_district, VariationAt(index.row())));
     default:
         return {};
     }

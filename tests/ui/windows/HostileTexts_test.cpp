@@ -9,6 +9,7 @@
 #include "ui/widgets/EditBox.h"
 #include "ui/windows/VarCheck.h"
 
+#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPixmap>
@@ -108,6 +109,7 @@ TEST_F(HostileTexts, ALongProposalIsAddedWholeButNotByWayOfTheEditBox) {
     EXPECT_TRUE(EditText().endsWith(Ellipsis));
     EXPECT_EQ(TextOf("lbStatus"), QStringLiteral("This text is too long to be edited here."));
     EXPECT_FALSE(Enabled("cbOk"));
+    Click("cbCancel");
     desktop.ExpectBox("1 New variations added.", BoxIcon::Information);
     Click("cbApplySelected");
     EXPECT_EQ(DistrictAt(1).lVariationCount, 2);
@@ -141,10 +143,13 @@ TEST_F(HostileTexts, ControlCharactersAreVisibleInEveryList) {
         {"lvComments", 1, QStringLiteral("c\uFFFDd")},   {"lvAlpha", 0, QStringLiteral("e\uFFFDf")},
         {"lvVariations", 0, QStringLiteral("g\u21E5h")}, {"LvChanges", 0, QStringLiteral("i\uFFFDj")}};
     for (const auto& [list, column, shown] : cells) {
-        const QAbstractItemModel& model = *Find<RowList>(list).model();
-        const QModelIndex index = model.index(model.rowCount() - 1, column);
+        auto& rows = Find<RowList>(list);
+        const QModelIndex index = rows.model()->index(rows.model()->rowCount() - 1, column);
         EXPECT_EQ(index.data().toString(), shown) << list;
-        EXPECT_TRUE(index.data(Qt::ToolTipRole).toString().contains(shown)) << list;
+        rows.setColumnWidth(column, 1);
+        if (!rows.isHeaderHidden() || !rows.header()->stretchLastSection()) {
+            EXPECT_TRUE(rows.ToolTipOf(index).startsWith(shown)) << list;
+        }
         if (const QString spoken = index.data(Qt::AccessibleTextRole).toString(); !spoken.isEmpty()) {
             EXPECT_TRUE(spoken.startsWith(shown)) << list;
         }

@@ -4,10 +4,12 @@
 
 #include "ui/Text.h"
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
 #include <QTextDocument>
+#include <QToolTip>
 
 using namespace CommonRoutines;
 using namespace Ui;
@@ -54,13 +56,14 @@ TEST_F(PlainTextTest, TooltipsShowTheTextsAsTheyAre) {
         Key("lvAlpha", Qt::Key_Home);
         Process(text + "\r\n");
         const QString shown = QString::fromStdString(text);
-        for (const char* name : {"lvAlpha", "lvVariations", "LvChanges"}) {
-            const QModelIndex index = Find<RowList>(name).model()->index(0, 0);
-            const QString toolTip = Rendered(index.data(Qt::ToolTipRole).toString());
+        for (const auto& [name, column] :
+             {std::pair{"lvAlpha", 0}, {"lvVariations", 0}, {"LvChanges", 0}, {"lvComments", 1}}) {
+            auto& list = Find<RowList>(name);
+            list.setColumnWidth(column, 1);
+            const QString toolTip = list.ToolTipOf(list.model()->index(0, column));
             EXPECT_TRUE(toolTip.startsWith(shown)) << name << ": " << toolTip.toStdString();
+            EXPECT_EQ(Rendered(Text::ForToolTip(toolTip)), toolTip) << name;
         }
-        const QModelIndex comment = Find<RowList>("lvComments").model()->index(0, 1);
-        EXPECT_EQ(Rendered(comment.data(Qt::ToolTipRole).toString()), shown);
     }
 }
 
@@ -68,22 +71,67 @@ TEST_F(FormTest, TooltipsAndScreenReadersSayTheStateThatTheColourShows) {
     OpenContent(HeaderOf("Alpha") + "|Inva lid |War_n|Dup|dup|unUsual\r\n" + HeaderOf("Beta") + "|Betta\r\n");
     ClickRow("lvAlpha", QStringLiteral("Alpha"));
     const auto toolTip = [this](const char* list, int row) {
-        return Rendered(Find<RowList>(list).model()->index(row, 0).data(Qt::ToolTipRole).toString());
+        const auto& rows = Find<RowList>(list);
+        return rows.ToolTipOf(rows.model()->index(row, 0));
     };
     const auto spoken = [this](const char* list, int row) {
         return Find<RowList>(list).model()->index(row, 0).data(Qt::AccessibleTextRole).toString();
     };
-    EXPECT_EQ(toolTip("lvAlpha", 0), QStringLiteral("Alpha - this district has problems"));
+    EXPECT_EQ(toolTip("lvAlpha", 0), QStringLiteral("This district has problems: choose it to see them"));
     EXPECT_EQ(spoken("lvAlpha", 0), QStringLiteral("Alpha, has problems"));
-    EXPECT_EQ(toolTip("lvAlpha", 1), QStringLiteral("Beta"));
+    EXPECT_EQ(toolTip("lvAlpha", 1), QString()); // it can be read
     EXPECT_EQ(spoken("lvAlpha", 1), QStringLiteral("Beta"));
     const QStringList words{QStringLiteral("Dup - duplicate"), QStringLiteral("dup - duplicate"),
                             QStringLiteral("Inva lid  - invalid"), QStringLiteral("unUsual - unusual capitals"),
                             QStringLiteral("War_n - warning")};
     for (int row = 0; row < 5; ++row) {
-        EXPECT_EQ(toolTip("lvVariations", row), words[row]);
         EXPECT_EQ(spoken("lvVariations", row), words[row]);
     }
+    const QStringList reasons{QStringLiteral("duplicate: Duplicates dup"), QStringLiteral("duplicate: Duplicates Dup"),
+                              QStringLiteral("invalid: Trailing space"), QStringLiteral("unusual capitals"),
+                              QStringLiteral("warning: Should have !")};
+    for (int row = 0; row < 5; ++row) {
+        EXPECT_EQ(toolTip("lvVariations", row).toStdString(), reasons[row].toStdString());
+    }
+}
+
+TEST_F(FormTest, TheToolTipOfAProposalSaysWhy) {
+    OpenContent(HeaderOf("Alpha") + "|Alfa\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    desktop.files["/changes/new.txt"] = "<TR><TD>Names</TD>\n<TR><TD class=x>Elm</TD>\n<TR><TD class=x>Smi?h</TD>\n"
+                                        "<TR><TD class=x>Sm_th</TD>\n<TR><TD class=x>Sm_ t?h</TD>\n";
+    desktop.ExpectOpen("/changes/new.txt");
+    Click("btnProcess");
+    const QStringList reasons{QStringLiteral("a heading, which is never applied"), QString(),
+                              QStringLiteral("invalid: Question Mark"), QStringLiteral("warning: Should have !"),
+                              QStringLiteral("invalid: Question Mark; Should have !")};
+    const auto& list = Find<RowList>("LvChanges");
+    for (int row = 0; row < 5; ++row) {
+        EXPECT_EQ(list.ToolTipOf(list.model()->index(row, 0)), reasons[row]) << row;
+    }
+}
+
+TEST_F(FormTest, TheToolTipOfACommentTypeSaysWhatItIsFor) {
+    OpenContent("#QX_NOTE text\r\n" + HeaderOf("Alpha") + "\r\n");
+    const auto& list = Find<RowList>("lbComments");
+    EXPECT_EQ(list.ToolTipOf(list.model()->index(0, 0)),
+              QStringLiteral("Lists only the districts that have a comment of the chosen type"));
+}
+
+TEST_F(FormTest, AToolTipComesUpOverARowThatHasSomethingToSayAndOverNoOther) {
+    OpenContent(HeaderOf("Alpha") + "|Inva lid |Sound\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    auto& list = Find<RowList>("lvVariations");
+    const auto hover = [&](int row) {
+        const QPoint place = list.visualRect(list.model()->index(row, 0)).topLeft() + QPoint(8, 8);
+        QHelpEvent help(QEvent::ToolTip, place, list.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(list.viewport(), &help);
+    };
+    hover(0);
+    ASSERT_TRUE(QToolTip::isVisible());
+    EXPECT_EQ(Rendered(QToolTip::text()), QStringLiteral("invalid: Trailing space"));
+    hover(1);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
 
 TEST(TextTest, ATooltipKeepsEveryBlank) {
