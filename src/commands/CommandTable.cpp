@@ -78,7 +78,7 @@ constexpr std::array<Command, ControlCount> Table{{
      .modes = "---CE-----", .run = UntickAll},
 
     {.control = Control::lbComments, .name = "lbComments", .place = {}, .caption = "",
-     .spokenName = "Comment types", .hint = "",
+     .spokenName = "Comment types", .hint = "Lists only the districts that have a comment of the chosen type",
      .modes = "--EEE----E"},
 }};
 // clang-format on

@@ -49,6 +49,7 @@ void FollowEditText(Session& session) {
     if (view.edit.text.size() > LongestEditableText) {
         ApplyWindowMode(session);
         view.status = "This text is too long to be edited here.";
+        view.edit.refusal = view.status;
         return;
     }
     // Without a district the controls stay as they are: a file whose reopening was cancelled can still be saved.
@@ -57,9 +58,15 @@ void FollowEditText(Session& session) {
         if (change.status) {
             view.status = std::move(*change.status);
         }
+        view.edit.refusal = std::move(change.refusal);
         EnterMode(session, change.editMode);
     }
     UpdateMarkerOptions(session);
+}
+
+void RefuseKey(Session& session, std::string_view reason) {
+    session.desktop.Beep();
+    session.view.edit.keyRefusal = reason;
 }
 
 void Accept(Session& session) {
@@ -82,6 +89,7 @@ void Accept(Session& session) {
 
 void Cancel(Session& session) {
     EmptyWhyError(session);
+    session.view.variations.selected.clear(); // what is given up must not look chosen
     ReturnToIdle(session);
 }
 
@@ -120,6 +128,7 @@ void ClickVolume(Session& session, bool ticked) {
 void PutIntoEditBox(Session& session, std::string_view text) {
     EditView& edit = session.view.edit;
     edit.text = text.substr(0, LongestEditableText + 1);
+    edit.refusal.clear();
     ++edit.filled;
     UpdateMarkerOptions(session);
 }
@@ -129,6 +138,7 @@ void ResetEditPanel(Session& session) {
 }
 
 void ReturnToIdle(Session& session) {
+    lEditIndex = 0;
     ResetEditPanel(session);
     EnterMode(session, DistrictIdle);
     session.view.focus = Focus::Districts; // the button is disabled now; the focus must not fall just anywhere

@@ -13,6 +13,9 @@ void StartAdding(Session& session);
 // The user has typed: this is the text now.
 void TypeText(Session& session, std::string_view text);
 
+// A key was refused in the box, for this reason.
+void RefuseKey(Session& session, std::string_view reason);
+
 // "Ok": stores what is in the box as the mode says.
 void Accept(Session& session);
 

@@ -30,7 +30,7 @@ void UpdateChangeSelection(Session& session) {
     ClearWhyError(session);
     ProposalSelection selection = DescribeProposalSelection(*view.proposals.rows);
     view.selectCount = std::move(selection.count);
-    if (view.proposals.IsEmpty() || !IsDistrict(lCurrentDistrict)) {
+    if (view.proposals.IsEmpty()) {
         return;
     }
     view.Enable(Control::cbClearSel, true);
@@ -53,11 +53,26 @@ std::optional<ProposalList> ReadChangeFile(Desktop& desktop, const std::string& 
     return list;
 }
 
+void ReadAndShow(Session& session, const std::string& path) {
+    RememberFolder(session, path, Settings::ChangeFolder);
+    auto list = ReadChangeFile(session.desktop, path);
+    if (!list) {
+        return;
+    }
+    const std::string summary = list->Summary();
+    ShowProposals(session, std::move(list->proposals));
+    EnterMode(session, DistrictIdle);
+    if (!summary.empty()) {
+        ShowWhyError(session, summary, VariationState::Plain);
+    }
+    session.view.focus = Focus::Proposals;
+}
+
 enum class Which { All, Ticked };
 enum class As { Proposed, SpellingMistake };
 
 void Apply(Session& session, Which which, As as) {
-    // The buttons stay enabled when opening a file is cancelled, which leaves no district chosen.
+    // The buttons are disabled then; what is stored nowhere must hold whoever calls.
     if (!IsDistrict(lCurrentDistrict)) {
         return;
     }
@@ -80,22 +95,16 @@ void ProcessFile(Session& session) {
     ClearWhyError(session);
     FileRequest request;
     request.folder = session.desktop.GetSetting(Settings::Section, Settings::ChangeFolder);
-    const auto path = session.desktop.ChooseFileToOpen(request);
-    if (!path) {
-        return;
+    if (const auto path = session.desktop.ChooseFileToOpen(request)) {
+        ReadAndShow(session, *path);
     }
-    RememberFolder(session, *path, Settings::ChangeFolder);
-    auto list = ReadChangeFile(session.desktop, *path);
-    if (!list) {
-        return;
+}
+
+void ProcessPath(Session& session, const std::string& path) {
+    if (session.view.IsEnabled(Control::btnProcess)) {
+        ClearWhyError(session);
+        ReadAndShow(session, path);
     }
-    const std::string summary = list->Summary();
-    ShowProposals(session, std::move(list->proposals));
-    EnterMode(session, DistrictIdle);
-    if (!summary.empty()) {
-        ShowWhyError(session, summary, VariationState::Plain);
-    }
-    session.view.focus = Focus::Proposals;
 }
 
 void ApplyAll(Session& session) {
@@ -154,12 +163,12 @@ void ClickProposal(Session& session, int row) {
     const Proposal& proposal = session.view.proposals.At(row);
     SetTick(session, row, proposal.tag == Proposal::Valid);
     session.view.proposals.selected.clear();
+    UpdateChangeSelection(session);
     if (IsDistrict(lCurrentDistrict)) {
         SetMode(AddingUnacceptable);
         PutIntoEditBox(session, proposal.text);
         FollowEditText(session);
     }
-    UpdateChangeSelection(session);
 }
 
 void HighlightProposals(Session& session, const std::vector<int>& rows) {

@@ -2,6 +2,7 @@
 
 #include "changes/Proposal.h"
 
+#include <string>
 #include <vector>
 
 // The commands for change files and their proposals.
@@ -11,6 +12,9 @@ struct Session;
 
 // Asks for a change file and lists its proposals.
 void ProcessFile(Session& session);
+
+// The same for a file that is known already.
+void ProcessPath(Session& session, const std::string& path);
 
 // Adds proposals to the current district: all or the ticked ones, as they are or as spelling mistakes.
 void ApplyAll(Session& session);

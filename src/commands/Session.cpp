@@ -1,5 +1,8 @@
 #include "commands/Session.h"
 
+#include "commands/Guidance.h"
+#include "commands/WindowMode.h"
+#include "core/State.h"
 #include "recovery/UnsavedChanges.h"
 
 #include <new>
@@ -37,6 +40,7 @@ Session::Session(Desktop& machine, Screen& window)
       m_showing(machine, [this] { screen.Show(view); }) {}
 
 void Session::Run(const std::function<void(Session&)>& command) {
+    view.edit.keyRefusal.clear();
     const bool isDone = HasMemoryFor([&] { command(*this); });
     const bool isShown = HasMemoryFor([this] { Present(); }); // also what a command did that has failed
     if (!isDone || !isShown) {
@@ -45,8 +49,10 @@ void Session::Run(const std::function<void(Session&)>& command) {
 }
 
 void Session::Present() {
-    Unsaved.Write(m_showing);
     view.mode = iEditMode;
+    WithholdFromNoDistrict(view);
+    ShowGuidance(*this);
+    Unsaved.Write(m_showing);
     screen.Show(view);
     view.focus = Focus::Stays;
 }

@@ -40,6 +40,7 @@ struct Session {
     Screen& screen;
     WindowView view;
     std::vector<std::int32_t> districtsByName; // all of the file; the filter chooses from them
+    bool isReading = false;                    // a data file
 
 private:
     void Present();

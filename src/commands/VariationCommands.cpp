@@ -31,9 +31,8 @@ void ChangeSelectedMarkers(Session& session, MarkerCommand command) {
     ChangeMarkers(command, SelectedVariations(session), session.desktop);
     session.view.nextUndo = CurrentUndoStep().WhatAmI();
     RefreshSelectedRows(session);
-    if (lEditIndex > 0) {
-        PutIntoEditBox(session, VariationOf(lCurrentDistrict, lEditIndex).Text);
-    }
+    lEditIndex = 0;
+    ResetEditPanel(session); // what is typed from now on is a new variation
     EnterMode(session, DistrictIdle);
 }
 
@@ -75,8 +74,16 @@ void SelectVariations(Session& session, const std::vector<int>& rows) {
 }
 
 void GiveUpSelection(Session& session) {
-    if (iEditMode == OneSelected || iEditMode == SeveralSelected) {
+    const bool isMarked = iEditMode == DistrictIdle && !session.view.variations.selected.empty();
+    if (iEditMode == OneSelected || iEditMode == SeveralSelected || isMarked) {
         Cancel(session);
+    }
+}
+
+void TakeUpSelection(Session& session) {
+    const std::vector<int> marked = session.view.variations.selected;
+    if (iEditMode == DistrictIdle && !marked.empty()) {
+        SelectVariations(session, marked);
     }
 }
 
@@ -114,9 +121,10 @@ void Undo(Session& session) {
         view.nextUndo = DescribeNextUndo();
         return;
     }
-    const bool boxShowsSelection = iEditMode == OneSelected || (iEditMode == DistrictIdle && lEditIndex > 0);
+    const bool boxShowsSelection = iEditMode == OneSelected;
     if (view.variations.IsEmpty()) {
-        RefreshVariationList(session); // a filter may have cleared the list, in which the change is looked for
+        // A filter may have cleared the list, in which the change is looked for.
+        ShowVariations(session, lCurrentDistrict, ListVariations(lCurrentDistrict).rows);
     }
     TakeBack(undone.item, *view.variations.rows);
     view.nextUndo = DescribeNextUndo();

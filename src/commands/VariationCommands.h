@@ -17,6 +17,9 @@ void SelectVariations(Session& session, const std::vector<int>& rows);
 // The choice of variations is given up, as by "Cancel", which is disabled while there are several.
 void GiveUpSelection(Session& session);
 
+// Rows that stayed selected after a command are taken up again, exactly they.
+void TakeUpSelection(Session& session);
+
 // Asks, and deletes the selected variations.
 void Delete(Session& session);
 

@@ -32,20 +32,6 @@ ProposalListState StateOfProposals(const WindowView& view) {
     return {!proposals.empty(), anyTicked || !view.proposals.selected.empty()};
 }
 
-// What to do next, where a list is empty.
-HintsView HintsNow(const Session& session) {
-    const bool hasDistricts = !session.districtsByName.empty() && iEditMode != NothingOpen;
-    const bool isChosen = IsDistrict(lCurrentDistrict);
-    return {
-        .districts = hasDistricts ? "No district has a comment of this type"
-                                  : "Open a file, or drop one here, to see its districts",
-        .variations = isChosen ? "This district has no variations: press Add to enter one"
-                               : "Choose a district to see its variations",
-        .proposals = "Process File shows proposals here",
-        .comments = isChosen ? "This district has no comments" : "Choose a district to see its comments",
-    };
-}
-
 } // namespace
 
 std::optional<bool> EnabledInMode(Control control, std::int16_t mode, bool changed, ProposalListState proposals) {
@@ -86,12 +72,21 @@ void ApplyWindowMode(Session& session) {
             view.Enable(command.control, *enabled);
         }
     }
-    view.hints = HintsNow(session);
     if (ModeClearsStatus(iEditMode)) {
         view.status.clear();
     }
     if (ModeClearsApplyTo(iEditMode)) {
         view.applyTo = 0;
+    }
+}
+
+void WithholdFromNoDistrict(WindowView& view) {
+    if (IsDistrict(lCurrentDistrict)) {
+        return;
+    }
+    for (const Control control : {Control::cbApplySelected, Control::cbApplySelSpell, Control::cbApplyAll,
+                                  Control::cbApplyAllSpell, Control::cbEditSel}) {
+        view.Enable(control, false);
     }
 }
 

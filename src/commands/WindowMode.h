@@ -7,6 +7,8 @@
 
 namespace Commands {
 
+struct WindowView;
+
 // What the modes ask of the proposals.
 struct ProposalListState {
     bool hasAny = false;
@@ -25,8 +27,11 @@ struct ProposalListState {
 // Writes iEditMode; nothing else does.
 void SetMode(std::int16_t mode);
 
-// Shows what iEditMode means: enabled controls, cleared labels, the hints of empty lists.
+// Shows what iEditMode means: enabled controls and cleared labels.
 void ApplyWindowMode(Session& session);
+
+// Without a chosen district nothing can be applied to it, whatever enabled the buttons before.
+void WithholdFromNoDistrict(WindowView& view);
 
 // SetMode, then ApplyWindowMode.
 void EnterMode(Session& session, std::int16_t mode);

@@ -55,6 +55,8 @@ struct CommentTypesView {
 struct EditView {
     std::string text; // of one that is too long to be edited, so much that this is seen
     CommonRoutines::MarkerOptions options;
+    std::string refusal;     // why the text cannot be stored, while it is being added; empty where it can
+    std::string keyRefusal;  // why the key just pressed was refused
     std::int32_t filled = 0; // how often by the program: what was typed before cannot be taken back
 };
 
@@ -77,6 +79,9 @@ struct HintsView {
     bool operator==(const HintsView&) const = default;
 };
 
+// What would enable a control that is disabled; empty for one that is enabled.
+using ObstaclesView = std::array<std::string_view, ControlCount>; // by Control
+
 // Where a command leads the focus.
 enum class Focus { Stays, Districts, Proposals, EditBox, WholeText, OpenButton };
 
@@ -91,6 +96,8 @@ struct WindowView {
     CommentsView comments;
     CommentTypesView commentTypes;
     HintsView hints;
+    ObstaclesView obstacles{};
+    std::string doing; // what the edit panel is used for at the moment
 
     EditView edit;
     ProblemView whyError;
@@ -105,6 +112,22 @@ struct WindowView {
 
     [[nodiscard]] bool IsEnabled(Control control) const { return enabled[static_cast<std::size_t>(control)]; }
     void Enable(Control control, bool isEnabled) { enabled[static_cast<std::size_t>(control)] = isEnabled; }
+
+    // What stands in the way of a disabled control.
+    [[nodiscard]] std::string_view ObstacleTo(Control control) const {
+        const std::string_view usual = obstacles[static_cast<std::size_t>(control)];
+        const bool isRefused = control == Control::cbOk && !usual.empty() && !edit.refusal.empty();
+        return isRefused ? edit.refusal : usual;
+    }
+
+    // The status, and while there is none, why a key was refused.
+    [[nodiscard]] const std::string& StatusLine() const { return status.empty() ? edit.keyRefusal : status; }
+
+    // Whether the selected variations are those that commands work on. Others are only marked, to be found again.
+    [[nodiscard]] bool AreVariationsInHand() const {
+        return mode == CommonRoutines::OneSelected || mode == CommonRoutines::EditingVariation ||
+               mode == CommonRoutines::SeveralSelected;
+    }
 };
 
 } // namespace Commands

@@ -20,55 +20,80 @@ char CharacterBefore(std::string_view text, std::size_t caret) {
     return caret > 0 ? text[caret - 1] : '\0';
 }
 
-bool MayTypeBlank(std::string_view text, std::size_t caret) {
-    const char before = CharacterBefore(text, caret);
-    return caret > 0 && before != '!' && before != '%';
-}
-
-bool MayTypePercent(std::string_view text, std::size_t caret) {
-    if (CharacterBefore(text, caret) == ' ') {
-        return false;
+std::string_view WhyBlankIsRefused(std::string_view text, std::size_t caret) {
+    if (caret == 0) {
+        return "A variation cannot begin with a blank.";
     }
-    return caret >= text.size() || text[caret] != '!';
+    const char before = CharacterBefore(text, caret);
+    return before == '!' || before == '%' ? "No blank can follow a marker." : "";
 }
 
-// A question mark has a place only in the volume behind the last "%".
-bool MayTypeQuestionMark(std::string_view text, std::size_t caret) {
+std::string_view WhyShriekIsRefused(std::string_view text, std::size_t caret) {
+    if (text.find('!') != None) {
+        return "There is a \"!\" already.";
+    }
+    return caret > 0 ? "\"!\" can only stand first." : "";
+}
+
+std::string_view WhyPercentIsRefused(std::string_view text, std::size_t caret) {
+    if (CharacterBefore(text, caret) == ' ') {
+        return "\"%\" cannot follow a blank.";
+    }
+    return caret < text.size() && text[caret] == '!' ? "\"%\" cannot stand before \"!\"." : "";
+}
+
+std::string_view WhyQuestionMarkIsRefused(std::string_view text, std::size_t caret) {
     const auto lastPercent = text.rfind('%');
-    return !SplitMarkers(text).suffix.empty() && (lastPercent == None || caret > lastPercent);
+    const bool isInVolume = !SplitMarkers(text).suffix.empty() && (lastPercent == None || caret > lastPercent);
+    return isInVolume ? "" : "\"?\" can only stand in the volume behind the last \"%\".";
+}
+
+// The markers are looked at first: of a text that is still to be typed, they say more than the rules.
+std::string WhyTextIsRefused(std::string_view trimmed, const Verdict& verdict, const std::string& repeated) {
+    if (trimmed == "!" || trimmed == "%" || trimmed == "!%") {
+        return "a marker alone is no variation";
+    }
+    if (trimmed.ends_with('%')) {
+        return "a variation cannot end in \"%\"";
+    }
+    return verdict.IsValid() ? repeated : verdict.reason;
 }
 
 TextChange FollowAddedText(std::string_view text) {
     if (text.empty()) {
-        return {AddingUnacceptable, std::nullopt};
+        return {AddingUnacceptable, std::nullopt, "type a variation first"};
     }
     TextChange change{AddingAcceptable, ""};
     if (const auto repeated = RepeatedText(lCurrentDistrict, text)) {
         change = {AddingUnacceptable, "Duplicates " + std::string(*repeated)};
     }
     const std::string_view trimmed = Ansi::Trim(text);
-    if (!CheckVariation(text).IsValid() || trimmed == "!" || trimmed.ends_with('%')) {
+    const Verdict verdict = CheckVariation(text);
+    if (!verdict.IsValid() || trimmed == "!" || trimmed.ends_with('%')) {
         change.editMode = AddingUnacceptable;
+    }
+    if (change.editMode == AddingUnacceptable) {
+        change.refusal = WhyTextIsRefused(trimmed, verdict, *change.status);
     }
     return change;
 }
 
 } // namespace
 
-bool MayType(char key, std::string_view text, std::size_t caret) {
+std::string_view WhyKeyIsRefused(char key, std::string_view text, std::size_t caret) {
     switch (key) {
     case ' ':
-        return MayTypeBlank(text, caret);
+        return WhyBlankIsRefused(text, caret);
     case '!':
-        return caret == 0 && text.find('!') == None;
+        return WhyShriekIsRefused(text, caret);
     case '%':
-        return MayTypePercent(text, caret);
+        return WhyPercentIsRefused(text, caret);
     case '?':
-        return MayTypeQuestionMark(text, caret);
+        return WhyQuestionMarkIsRefused(text, caret);
     case '|':
-        return false;
+        return "\"|\" separates variations and cannot be part of one.";
     default:
-        return true;
+        return "";
     }
 }
 

@@ -18,14 +18,19 @@ class Desktop;
 // A longer text can only be looked at: each key would lay it out anew.
 inline constexpr std::size_t LongestEditableText = 200'000;
 
-// Whether a character may be typed into the text behind `caret` characters. Markers are kept where
-// the rules for variations want them; other characters than blank to "|" always pass.
-[[nodiscard]] bool MayType(char key, std::string_view text, std::size_t caret);
+// Why a character may not be typed into the text behind `caret` characters, for the user; empty where it may.
+// Markers are kept where the rules for variations want them; other characters than blank to "|" always pass.
+[[nodiscard]] std::string_view WhyKeyIsRefused(char key, std::string_view text, std::size_t caret);
+
+[[nodiscard]] inline bool MayType(char key, std::string_view text, std::size_t caret) {
+    return WhyKeyIsRefused(key, text, caret).empty();
+}
 
 // What a change of the text in the edit box leads to.
 struct TextChange {
     std::int16_t editMode = 0;
     std::optional<std::string> status; // for lbStatus; nothing leaves it as it is
+    std::string refusal = {};          // why the text cannot be added, for the user; empty where it can
 };
 
 // Follows the text from the present iEditMode. While a variation is added, the text is acceptable when it is

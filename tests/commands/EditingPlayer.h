@@ -10,6 +10,7 @@
 #include "support/Table.h"
 
 #include <algorithm>
+#include <functional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -36,7 +37,10 @@ struct ShownWindow {
     std::string box;
     std::string options; // those that are ticked
     std::string enabled; // the controls that are
-    std::string focus;   // where the command has led it; empty where it stays
+    std::vector<std::string> hints;
+    std::vector<std::string> obstacles; // what would enable each control
+    bool variationsInHand = false;
+    std::string focus; // where the command has led it; empty where it stays
 
     bool operator==(const ShownWindow&) const = default;
 
@@ -52,8 +56,10 @@ struct ShownWindow {
         list("variations", shown.variations);
         list("chosen", shown.chosenVariations);
         list("labels", shown.labels);
+        list("hints", shown.hints);
+        list("obstacles", shown.obstacles);
         return out << "\nbox [" << shown.box << "] options " << shown.options << "\nenabled " << shown.enabled
-                   << "\nfocus " << shown.focus;
+                   << "\nin hand " << shown.variationsInHand << "\nfocus " << shown.focus;
     }
 };
 
@@ -67,6 +73,8 @@ public:
 
     virtual void ChooseDistrict(std::int32_t line) = 0;
     virtual void Select(const std::vector<int>& rows) = 0;
+    // The variations that are selected already are taken up again.
+    virtual void TakeUp() = 0;
     // The box holds this text from now on, which it did not before.
     virtual void Enter(const std::string& text) = 0;
     virtual void Press(Commands::Control button) = 0;
@@ -104,10 +112,14 @@ public:
     void Select(const std::vector<int>& rows) override {
         m_session.Run([&](Commands::Session& session) { Commands::SelectVariations(session, rows); });
     }
+    void TakeUp() override { m_session.Run(Commands::TakeUpSelection); }
     void Enter(const std::string& text) override {
         m_session.Run([&](Commands::Session& session) { Commands::TypeText(session, text); });
     }
     void Press(Commands::Control button) override { m_session.Run(Commands::CommandOf(button).run); }
+
+    // A command without a button.
+    void Do(const std::function<void(Commands::Session&)>& command) { m_session.Run(command); }
 
     [[nodiscard]] const Commands::WindowView& View() const { return m_screen.shown; }
     [[nodiscard]] bool IsEnabled(Commands::Control control) const override { return View().IsEnabled(control); }
@@ -124,20 +136,27 @@ public:
                                        std::to_string(static_cast<int>(row.state)));
         }
         shown.chosenVariations = view.variations.selected;
-        shown.labels = {view.status,
+        shown.labels = {view.StatusLine(),
                         view.nextUndo,
                         view.whyError.text,
                         view.whyError.warns ? "warns" : "",
                         std::to_string(static_cast<int>(view.whyError.ink)),
                         view.applyTo > 0 ? std::string(DistrictAt(view.applyTo).Name) : "",
                         std::string(view.shriekCaption),
-                        std::string(view.dateCaption)};
+                        std::string(view.dateCaption),
+                        view.doing};
+        for (const std::string_view hint :
+             {view.hints.districts, view.hints.variations, view.hints.proposals, view.hints.comments}) {
+            shown.hints.emplace_back(hint);
+        }
+        shown.variationsInHand = view.AreVariationsInHand();
         shown.box = view.edit.text;
         shown.options = std::string(view.edit.options.spelling ? "spelling " : "") +
                         (view.edit.options.variation ? "variation " : "") +
                         (view.edit.options.validInYears ? "years " : "") + (view.edit.options.volume ? "volume " : "");
         for (const Commands::Command& command : Commands::AllCommands()) {
             shown.enabled += view.IsEnabled(command.control) ? std::string(command.name) + ' ' : "";
+            shown.obstacles.emplace_back(view.ObstacleTo(command.control));
         }
         shown.focus = NameOf(view.focus);
         return shown;

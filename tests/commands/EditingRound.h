@@ -36,7 +36,7 @@ public:
         if (m_hasty && UpTo(1) == 0) {
             return AddSomewhere();
         }
-        switch (UpTo(22)) {
+        switch (UpTo(23)) {
         case 0:
         case 1:
             return Choose();
@@ -68,6 +68,8 @@ public:
             return Both(Control::cbUndo, [](auto& slow) { slow.Undo(); });
         case 18:
             return Save();
+        case 19:
+            return TakeUp();
         default:
             return Both(Control::cbOk, [](auto& slow) { slow.Ok(); });
         }
@@ -80,7 +82,8 @@ public:
         shown << "district " << CommonRoutines::lCurrentDistrict << " mode " << CommonRoutines::iEditMode << " editing "
               << CommonRoutines::lEditIndex << " changed " << CommonRoutines::bChanged << "\nbox [" << window.box
               << "] status [" << window.labels[0] << "] undo [" << window.labels[1] << "] warns [" << window.labels[3]
-              << "] captions [" << window.labels[6] << "] [" << window.labels[7] << "]\nrows";
+              << "] doing [" << window.labels[8] << "] captions [" << window.labels[6] << "] [" << window.labels[7]
+              << "]\nrows";
         for (const std::string& variation : window.variations) {
             shown << " [" << variation.substr(0, variation.rfind(' ')) << ']';
         }
@@ -101,9 +104,9 @@ public:
         std::ostringstream shown;
         shown << "district " << m_slow.line << " mode " << m_slow.mode << " editing " << m_slow.editSlot << " changed "
               << m_slow.changed << "\nbox [" << m_slow.box << "] status [" << m_slow.status << "] undo ["
-              << m_slow.NextUndo() << "] warns [" << (m_slow.warned ? "warns" : "") << "] captions ["
-              << (m_slow.shriekAdds ? "Add !" : "Remove !") << "] [" << (m_slow.dateAdds ? "Add Date%" : "Remove Date%")
-              << "]\nrows";
+              << m_slow.NextUndo() << "] warns [" << (m_slow.warned ? "warns" : "") << "] doing [" << m_slow.Doing()
+              << "] captions [" << (m_slow.shriekAdds ? "Add !" : "Remove !") << "] ["
+              << (m_slow.dateAdds ? "Add Date%" : "Remove Date%") << "]\nrows";
         for (const int slot : m_slow.listed) {
             shown << " [" << m_slow.Slot(slot) << ']';
         }
@@ -286,6 +289,14 @@ private:
         if (!rows.empty() || !m_slow.selected.empty()) {
             m_player.Select(rows);
             m_slow.Select(slots);
+        }
+    }
+
+    // Space in a list that has nothing selected would select.
+    void TakeUp() {
+        if (!m_slow.selected.empty()) {
+            m_player.TakeUp();
+            m_slow.TakeUp();
         }
     }
 

@@ -147,8 +147,25 @@ public:
     }
 
     void Cancel() {
-        box = "";
-        SetMode(4);
+        selected.clear();
+        BecomeIdle();
+    }
+
+    // What was marked stays selected, to be taken up again.
+    void TakeUp() {
+        if (mode == 4 && !selected.empty()) {
+            Select(std::vector<int>(selected));
+        }
+    }
+
+    [[nodiscard]] std::string Doing() {
+        if (mode == 8 || mode == 9) {
+            return "Adding to " + Here().name;
+        }
+        if (mode == 10) {
+            return std::to_string(selected.size()) + " variations chosen";
+        }
+        return (mode == 2 || mode == 6) && editSlot > 0 ? "Editing " + Slot(editSlot) : "";
     }
 
     [[nodiscard]] std::string Question() {
@@ -166,7 +183,7 @@ public:
             changed = true;
             List();
         }
-        Cancel();
+        BecomeIdle();
     }
 
     void Shriek() {
@@ -180,7 +197,7 @@ public:
             }
             Mark(slot, text);
         }
-        EndMarking();
+        BecomeIdle();
     }
 
     void Date() {
@@ -196,7 +213,7 @@ public:
             }
             Mark(slot, text);
         }
-        EndMarking();
+        BecomeIdle();
     }
 
     void Save() {
@@ -214,8 +231,7 @@ public:
             Choose(Now().line);
             met["undo in another district"] += 1;
         }
-        // What was selected is shown in the box, also when a marker has just been changed.
-        const bool boxShowsSelection = mode == 2 || (mode == 4 && editSlot > 0);
+        const bool boxShowsSelection = mode == 2;
         Now().items.pop_back();
         const std::vector<std::string> before = Here().slots;
         TakeBack(item);
@@ -308,10 +324,9 @@ private:
         changed = true;
     }
 
-    void EndMarking() {
-        if (editSlot > 0) {
-            box = Slot(editSlot);
-        }
+    void BecomeIdle() {
+        editSlot = 0;
+        box = "";
         SetMode(4);
     }
 

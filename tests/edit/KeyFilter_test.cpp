@@ -176,3 +176,15 @@ TEST_F(KeyFilterTest, JudgingAKeyChangesNeitherTheModeNorTheFile) {
     EXPECT_EQ(iEditMode, AddingAcceptable);
     EXPECT_FALSE(bChanged);
 }
+
+TEST_F(KeyFilterTest, ARefusalSaysWhy) {
+    EXPECT_EQ(WhyKeyIsRefused(' ', "", 0), "A variation cannot begin with a blank.");
+    EXPECT_EQ(WhyKeyIsRefused(' ', "!", 1), "No blank can follow a marker.");
+    EXPECT_EQ(WhyKeyIsRefused('!', "Ash", 1), "\"!\" can only stand first.");
+    EXPECT_EQ(WhyKeyIsRefused('!', "!Ash", 0), "There is a \"!\" already.");
+    EXPECT_EQ(WhyKeyIsRefused('%', "Ash ", 4), "\"%\" cannot follow a blank.");
+    EXPECT_EQ(WhyKeyIsRefused('%', "!Ash", 0), "\"%\" cannot stand before \"!\".");
+    EXPECT_EQ(WhyKeyIsRefused('?', "Ash", 3), "\"?\" can only stand in the volume behind the last \"%\".");
+    EXPECT_EQ(WhyKeyIsRefused('|', "Ash", 3), "\"|\" separates variations and cannot be part of one.");
+    EXPECT_EQ(WhyKeyIsRefused('A', "Ash", 3), "");
+}

@@ -23,7 +23,8 @@ QString Allowed(QString text) {
 
 EditBox::EditBox(QWidget* parent) : QLineEdit(parent) {
     setMaxLength(static_cast<int>(CommonRoutines::LongestEditableText));
-    connect(this, &QLineEdit::inputRejected, this, &EditBox::KeyRefused);
+    connect(this, &QLineEdit::inputRejected, this,
+            [this] { Q_EMIT KeyRefused(QStringLiteral("The text is longer than what can be edited here.")); });
     connect(this, &QLineEdit::textEdited, this, &EditBox::ReplaceForeignCharacters);
     connect(this, &QLineEdit::textChanged, this, [this] { m_lastText = text(); });
 }
@@ -43,13 +44,14 @@ void EditBox::dragEnterEvent(QDragEnterEvent* event) {
     }
 }
 
-bool EditBox::MayInsert(const QString& typed) const {
+QString EditBox::WhyRefused(const QString& typed) const {
     const char16_t code = typed.size() == 1 ? typed.at(0).unicode() : u'\0';
     if (code < u' ' || code > u'|') {
-        return true;
+        return {};
     }
     const int caret = hasSelectedText() ? selectionStart() : cursorPosition();
-    return CommonRoutines::MayType(static_cast<char>(code), Text::FromQt(text()), static_cast<std::size_t>(caret));
+    return Text::ToQt(CommonRoutines::WhyKeyIsRefused(static_cast<char>(code), Text::FromQt(text()),
+                                                      static_cast<std::size_t>(caret)));
 }
 
 void EditBox::keyPressEvent(QKeyEvent* event) {
@@ -59,8 +61,8 @@ void EditBox::keyPressEvent(QKeyEvent* event) {
         Q_EMIT Entered();
     } else if (event->key() == Qt::Key_Escape) {
         Q_EMIT Escaped();
-    } else if (!MayInsert(event->text())) {
-        Q_EMIT KeyRefused();
+    } else if (const QString reason = WhyRefused(event->text()); !reason.isEmpty()) {
+        Q_EMIT KeyRefused(reason);
     } else {
         QLineEdit::keyPressEvent(event);
     }

@@ -20,17 +20,17 @@ public:
     [[nodiscard]] bool IsCutOff() const { return isReadOnly(); }
 
 Q_SIGNALS:
-    void KeyRefused();    // a key, or the end of an inserted text that is too long
-    void Entered();       // Enter was pressed
-    void Escaped();       // Esc was pressed
-    void NothingToUndo(); // undo was asked for, but there is no typing to take back
+    void KeyRefused(const QString& reason); // also of the end of an inserted text that is too long
+    void Entered();                         // Enter was pressed
+    void Escaped();                         // Esc was pressed
+    void NothingToUndo();                   // undo was asked for, but there is no typing to take back
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    [[nodiscard]] bool MayInsert(const QString& typed) const;
+    [[nodiscard]] QString WhyRefused(const QString& typed) const;
     void ReplaceForeignCharacters();
 
     QString m_lastText; // the text before the edit being handled

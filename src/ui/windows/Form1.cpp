@@ -129,7 +129,9 @@ void Form1::ConnectEditPanel() {
             Run([=](Session& session) { Commands::TypeText(session, Text::FromQt(edit->text())); });
         }
     });
-    connect(edit, &EditBox::KeyRefused, this, [this] { m_session.desktop.Beep(); });
+    connect(edit, &EditBox::KeyRefused, this, [this](const QString& reason) {
+        Run([&](Session& session) { Commands::RefuseKey(session, Text::FromQt(reason)); });
+    });
     connect(edit, &EditBox::Entered, m_controls.Button(Commands::Control::cbOk), &QPushButton::click);
     connect(edit, &EditBox::Escaped, m_controls.Button(Commands::Control::cbCancel), &QPushButton::click);
     connect(edit, &EditBox::NothingToUndo, m_controls.Button(Commands::Control::cbUndo), &QPushButton::click);
@@ -145,6 +147,9 @@ void Form1::ConnectLists() {
     onChoice(m_controls.lvVariations, Commands::SelectVariations);
     onChoice(m_controls.LvChanges, Commands::HighlightProposals);
     onChoice(m_controls.lbComments, Commands::ChooseCommentType);
+    connect(m_controls.lvVariations, &RowList::TakenUp, this, [this] { Run(Commands::TakeUpSelection); });
+    // Lists that a cancelled command has emptied are filled again by the type that is chosen already.
+    connect(m_controls.lbComments, &RowList::TakenUp, m_controls.lbComments, &RowList::Chosen);
     connect(m_controls.lvVariations, &RowList::Resized, this, &Form1::SizeWideColumns);
     connect(m_controls.LvChanges, &RowList::Resized, this, &Form1::SizeWideColumns);
     connect(m_controls.lvComments, &RowList::Resized, this, [this] {
@@ -193,20 +198,41 @@ bool Form1::focusNextPrevChild(bool next) {
     return QWidget::focusNextPrevChild(next);
 }
 
-// One file that is dropped on the window is opened, wherever "Open File" could be pressed.
+// One file that is dropped on the list of proposals is processed, elsewhere it is opened, wherever the button
+// for that could be pressed.
+Commands::Control Form1::ButtonForDropAt(const QPoint& position) const {
+    const RowList& list = *m_controls.LvChanges;
+    const bool isOnProposals = list.rect().contains(list.mapFrom(this, position));
+    return isOnProposals ? Commands::Control::btnProcess : Commands::Control::cbOpen;
+}
+
+bool Form1::MayPress(Commands::Control button) const {
+    return m_controls.Widget(button)->isEnabled() && !LongWork::IsPainting();
+}
+
+// On its way a file may pass over places where it cannot be dropped.
 void Form1::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.constFirst().isLocalFile() &&
-        m_controls.Widget(Commands::Control::cbOpen)->isEnabled() && !LongWork::IsPainting()) {
+    const bool isOneFile = urls.size() == 1 && urls.constFirst().isLocalFile();
+    if (isOneFile && (MayPress(Commands::Control::cbOpen) || MayPress(Commands::Control::btnProcess))) {
         event->acceptProposedAction();
     }
 }
 
+void Form1::dragMoveEvent(QDragMoveEvent* event) {
+    event->setAccepted(MayPress(ButtonForDropAt(event->position().toPoint())));
+}
+
 void Form1::dropEvent(QDropEvent* event) {
-    const std::string path = Text::PathFromQt(event->mimeData()->urls().constFirst().toLocalFile());
+    if (!MayPress(ButtonForDropAt(event->position().toPoint()))) {
+        return event->ignore();
+    }
     event->acceptProposedAction();
+    const std::string path = Text::PathFromQt(event->mimeData()->urls().constFirst().toLocalFile());
+    const bool isProcessed = ButtonForDropAt(event->position().toPoint()) == Commands::Control::btnProcess;
+    const auto command = isProcessed ? Commands::ProcessPath : Commands::OpenPath;
     // Questions come up only when the program that the file was dragged from has been answered.
-    QTimer::singleShot(0, this, [=, this] { Run([&](Session& session) { Commands::OpenPath(session, path); }); });
+    QTimer::singleShot(0, this, [=, this] { Run([&](Session& session) { command(session, path); }); });
 }
 
 void Form1::StartColumnWidths() {

@@ -31,12 +31,16 @@ protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
     // Runs a command, unless the window is only being painted in the middle of another one.
     void Run(const std::function<void(Commands::Session&)>& command);
+
+    [[nodiscard]] Commands::Control ButtonForDropAt(const QPoint& position) const;
+    [[nodiscard]] bool MayPress(Commands::Control button) const;
 
     void SetModels();
     void ConnectCommands();
@@ -50,6 +54,7 @@ private:
     void ShowLists(const Commands::WindowView& view);
     void WrapComments(std::int32_t district);
     void ShowEnabled(const Commands::WindowView& view);
+    void ShowObstacles(const Commands::WindowView& view);
     void ShowTexts(const Commands::WindowView& view);
     void ShowCaptions(const Commands::WindowView& view);
     void ShowEditPanel(const Commands::EditView& edit);

@@ -98,6 +98,7 @@ void Form1Controls::CreateLists() {
     LvChanges = List("LvChanges", QStringLiteral("Change File"));
     lvComments = List("lvComments", QStringLiteral("Comments"));
     lbComments = List("lbComments", QStringLiteral("Comment types"));
+    Describe(*lbComments, Commands::CommandOf(Commands::Control::lbComments));
     lvVariations->setSelectionMode(QAbstractItemView::ExtendedSelection);
     for (RowList* list : {lvVariations, LvChanges, lbComments}) {
         list->setHeaderHidden(true);
@@ -110,29 +111,31 @@ void Form1Controls::CreateLists() {
 
 void Form1Controls::CreateEditRow() {
     cbVariation =
-        OptionBox("cbVariation", QStringLiteral("Variation"), QStringLiteral("A plain variation, without markers"));
-    cbSpelling = OptionBox("cbSpelling", QStringLiteral("Spelling Mistake"), QStringLiteral("Begins with \"!\""));
-    cbValidinyears = OptionBox("cbValidinyears", QStringLiteral("Only valid in year"),
-                               QStringLiteral("Begins with \"%\" or \"!%\""));
+        OptionBox("cbVariation", QStringLiteral("Variation"),
+                  QStringLiteral("Ticked while the text has no marker in front. To change it, change the text."));
+    cbSpelling = OptionBox("cbSpelling", QStringLiteral("Spelling Mistake"),
+                           QStringLiteral("Ticked while the text begins with \"!\". To change it, change the text."));
+    cbValidinyears =
+        OptionBox("cbValidinyears", QStringLiteral("Only valid in year"),
+                  QStringLiteral("Ticked while the text begins with \"%\" or \"!%\". To change it, change the text."));
     cbVNF =
-        OptionBox("cbVNF", QStringLiteral("Only if Volume matches"), QStringLiteral("Ends with \"%\" and a volume"));
+        OptionBox("cbVNF", QStringLiteral("Only if Volume matches"),
+                  QStringLiteral("Ticked while the text ends with \"%\" and a volume. To change it, change the text."));
     tbEdit = new EditBox(m_form);
     const Commands::Command& edit = Commands::CommandOf(Commands::Control::tbEdit);
     tbEdit->setObjectName(Text::ToQt(edit.name));
     tbEdit->setAccessibleName(Text::ToQt(edit.spokenName));
-    tbEdit->setToolTip(HintOf(edit));
+    Describe(*tbEdit, edit);
     Outline(tbEdit);
     lbStatus = Status("lbStatus", QStringLiteral("Status of the text"), 3);
 }
 
 void Form1Controls::CreateButton(const Commands::Command& command) {
     auto* button = new QPushButton(Text::ToQt(command.caption), m_form);
-    const QString hint = HintOf(command);
     button->setObjectName(Text::ToQt(command.name));
     // Two buttons have the same caption; a screen reader needs to tell them apart.
     button->setAccessibleName(Text::ToQt(command.spokenName.empty() ? command.caption : command.spokenName));
-    button->setAccessibleDescription(hint);
-    button->setToolTip(hint);
+    Describe(*button, command);
     m_buttons[static_cast<std::size_t>(command.control)] = button;
 }
 
@@ -150,6 +153,14 @@ void Form1Controls::CreateLabels() {
     lbWhyError->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     lbSelectCount = Status("lbSelectCount", QStringLiteral("Ticked proposals"), 1);
     lbSelectCount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void Form1Controls::Describe(QWidget& control, const Commands::Command& command, const QString& obstacle) const {
+    const QString hint = obstacle.isEmpty() ? HintOf(command) : HintOf(command) + QStringLiteral(" - ") + obstacle;
+    control.setToolTip(Text::ForToolTip(hint));
+    if (qobject_cast<RowList*>(&control) == nullptr) { // an empty list has a description of its own
+        control.setAccessibleDescription(hint);
+    }
 }
 
 QPushButton* Form1Controls::Button(Commands::Control control) const {

@@ -45,6 +45,7 @@ void Form1::Show(const Commands::WindowView& view) {
         ShowHints(view.hints);
     }
     ShowEnabled(view);
+    ShowObstacles(view);
     ShowFocus(view.focus);
     m_shown = view;
 }
@@ -82,9 +83,20 @@ void Form1::ShowEnabled(const Commands::WindowView& view) {
     }
 }
 
+// The tooltip of a control that is disabled ends with what would enable it.
+void Form1::ShowObstacles(const Commands::WindowView& view) {
+    for (const Commands::Command& command : Commands::AllCommands()) {
+        const std::string_view obstacle = view.ObstacleTo(command.control);
+        QWidget* control = m_controls.Widget(command.control);
+        if (control != nullptr && obstacle != m_shown.ObstacleTo(command.control)) {
+            m_controls.Describe(*control, command, Text::ForBox(obstacle));
+        }
+    }
+}
+
 void Form1::ShowTexts(const Commands::WindowView& view) {
-    if (view.status != m_shown.status) {
-        m_controls.lbStatus->ShowText(Text::ForBox(view.status));
+    if (view.StatusLine() != m_shown.StatusLine()) {
+        m_controls.lbStatus->ShowText(Text::ForBox(view.StatusLine()));
     }
     if (view.nextUndo != m_shown.nextUndo) {
         m_controls.lbUndo->ShowText(Text::ForList(view.nextUndo));

@@ -27,6 +27,11 @@ protected:
         if (!enter.isAccepted()) {
             return false;
         }
+        QDragMoveEvent move(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&on, &move);
+        if (!move.isAccepted()) {
+            return false;
+        }
         QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&on, &drop);
         QApplication::processEvents();
@@ -79,13 +84,41 @@ TEST_F(DroppingTest, NothingIsTakenWhileNothingCanBeOpened) {
     EXPECT_FALSE(Drop({path}, *form));
 }
 
-TEST_F(DroppingTest, EmptyListsSayWhatToDo) {
+TEST_F(DroppingTest, OnTheProposalsAFileIsProcessed) {
+    OpenContent(HeaderOf("Beta") + "|Ash\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Beta"));
+    desktop.files["/changes/new.txt"] = "Elm\r\nSmi?h\r\n";
+    EXPECT_TRUE(Drop({QStringLiteral("/changes/new.txt")}, *Find<RowList>("LvChanges").viewport()));
+    EXPECT_EQ(Column("LvChanges"), (QStringList{QStringLiteral("Elm"), QStringLiteral("Smi?h")}));
+    EXPECT_EQ(TextOf("lbWhyError"), QStringLiteral("1 invalid variations (red). "));
+    EXPECT_EQ(desktop.settings["Paths/ProcessFile"], "/changes");
+    EXPECT_EQ(Column("lvAlpha"), QStringList{QStringLiteral("Beta")});
+    EXPECT_EQ(sDataFileName, DataFilePath);
+}
+
+TEST_F(DroppingTest, OnTheProposalsNothingIsTakenWhileNothingCanBeProcessed) {
+    OpenContent(HeaderOf("Beta") + "|Ash\r\n");
+    ASSERT_TRUE(Enabled("cbOpen"));
+    EXPECT_FALSE(Drop({path}, *Find<RowList>("LvChanges").viewport()));
+    EXPECT_EQ(Column("LvChanges"), QStringList());
+}
+
+TEST_F(DroppingTest, AChangeFileThatCannotBeReadIsNamed) {
+    OpenContent(HeaderOf("Beta") + "|Ash\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Beta"));
+    desktop.ExpectBox("The file cannot be read:\r\n/changes/none.txt", BoxIcon::Exclamation);
+    EXPECT_TRUE(Drop({QStringLiteral("/changes/none.txt")}, Find<RowList>("LvChanges")));
+    EXPECT_EQ(Column("LvChanges"), QStringList());
+}
+
+TEST_F(DroppingTest, EmptyListsShowTheHints) {
     EXPECT_EQ(Find<RowList>("lvAlpha").Hint(), QStringLiteral("Open a file, or drop one here, to see its districts"));
-    EXPECT_EQ(Find<RowList>("lvVariations").Hint(), QStringLiteral("Choose a district to see its variations"));
     OpenContent(HeaderOf("Beta") + "\r\n");
     ClickRow("lvAlpha", QStringLiteral("Beta"));
     EXPECT_EQ(Find<RowList>("lvVariations").Hint(),
               QStringLiteral("This district has no variations: press Add to enter one"));
+    EXPECT_EQ(Find<RowList>("lvComments").Hint(), QStringLiteral("This district has no comments"));
+    EXPECT_EQ(Find<RowList>("LvChanges").Hint(), QStringLiteral("Process File shows proposals here"));
 }
 
 TEST_F(DroppingTest, AHintIsPaintedOnlyInAnEmptyList) {

@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QTest>
+#include <QTextDocumentFragment>
 
 using namespace CommonRoutines;
 using namespace Ui;
@@ -56,6 +57,7 @@ public:
             ClickRow("lvVariations", row, row == rows.front() ? Qt::NoModifier : Qt::ControlModifier);
         }
     }
+    void TakeUp() override { QTest::keyClick(&List("lvVariations"), Qt::Key_Space); }
     void Enter(const std::string& text) override {
         auto& box = Find<QLineEdit>("tbEdit");
         box.selectAll();
@@ -90,6 +92,12 @@ public:
         for (const Commands::Command& command : Commands::AllCommands()) {
             shown.enabled += IsEnabled(command.control) ? std::string(command.name) + ' ' : "";
         }
+        for (const char* list : {"lvAlpha", "lvVariations", "LvChanges", "lvComments"}) {
+            shown.hints.push_back(self.List(list).Hint().toStdString());
+        }
+        for (const Commands::Command& command : Commands::AllCommands()) {
+            shown.obstacles.push_back(self.ObstacleTo(std::string(command.name).c_str()));
+        }
         const QWidget* focus = m_form.focusWidget();
         shown.focus = focus == nullptr ? "nowhere" : focus->objectName().toStdString();
         return shown;
@@ -111,6 +119,13 @@ private:
                 Back(TextOf("lbApplyTo")),
                 CaptionOf("cbShriek").toStdString(),
                 CaptionOf("cbDate").toStdString()};
+    }
+    // What the tooltip says behind what the control does.
+    std::string ObstacleTo(const char* name) {
+        const QString hint = QTextDocumentFragment::fromHtml(Find<QWidget>(name).toolTip()).toPlainText();
+        const QString behind = QStringLiteral(" - ");
+        const qsizetype at = hint.lastIndexOf(behind);
+        return at < 0 ? std::string() : Back(hint.mid(at + behind.size()));
     }
     std::string Options() {
         std::string ticked;

@@ -18,13 +18,99 @@ TEST_F(EditingTest, AddShriekMarksTheVariationAtOnceAndLeavesItInPlace) {
     EXPECT_EQ(Column("lvVariations"), (QStringList{QStringLiteral("!Ze_ta"), QStringLiteral("Alfa")}));
 }
 
-TEST_F(EditingTest, TheEditBoxFollowsTheMarkedVariation) {
+TEST_F(EditingTest, AMarkedVariationLeavesTheEditPanelEmptyAndStaysSelected) {
     OpenDistrict();
     Select(QStringLiteral("Alfa"));
     Click("cbDate");
-    EXPECT_EQ(EditText(), QStringLiteral("%Alfa"));
-    EXPECT_TRUE(BoxTicked("cbValidinyears"));
+    EXPECT_EQ(EditText(), QString());
+    EXPECT_FALSE(BoxTicked("cbValidinyears"));
     EXPECT_FALSE(BoxTicked("cbVariation"));
+    EXPECT_EQ(Selected("lvVariations"), QStringList{QStringLiteral("%Alfa")});
+    EXPECT_EQ(Focus(), "lvVariations");
+}
+
+TEST_F(EditingTest, WhatIsTypedAfterAMarkIsANewVariation) {
+    OpenDistrict();
+    Select(QStringLiteral("Alfa"));
+    Click("cbDate");
+    Type(QStringLiteral("Gamma"));
+    EXPECT_EQ(iEditMode, AddingAcceptable);
+    Click("cbOk");
+    EXPECT_EQ(Slots(), "|%Alfa|Betta|Gamma");
+}
+
+TEST_F(EditingTest, SpaceAndEnterTakeExactlyTheMarkedRowsUpAgain) {
+    OpenDistrict();
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        Key("lvVariations", Qt::Key_A, Qt::ControlModifier);
+        const QStringList all = Selected("lvVariations");
+        ASSERT_EQ(all.size(), 2);
+        Click("cbShriek");
+        ASSERT_EQ(iEditMode, DistrictIdle);
+        Key("lvVariations", key);
+        EXPECT_EQ(iEditMode, SeveralSelected);
+        EXPECT_EQ(Selected("lvVariations").size(), 2);
+        Click("cbDate");
+        Key("lvVariations", key);
+        ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    }
+    EXPECT_EQ(Slots(), "|!%Alfa|!%Betta");
+}
+
+TEST_F(EditingTest, ARefusedKeySaysWhyBelowTheButtons) {
+    OpenDistrict();
+    Click("cbAdd");
+    Type(QStringLiteral("Ash|"));
+    EXPECT_EQ(desktop.beeps, 1);
+    EXPECT_EQ(EditText(), QStringLiteral("Ash"));
+    EXPECT_EQ(TextOf("lbStatus"), QStringLiteral("\"|\" separates variations and cannot be part of one."));
+    Type(QStringLiteral("e"));
+    EXPECT_EQ(TextOf("lbStatus"), QString());
+}
+
+TEST_F(EditingTest, SpaceDoesNotTakeUpWhatIsBeingEdited) {
+    OpenDistrict();
+    Select(QStringLiteral("Alfa"));
+    Type(QStringLiteral("x"));
+    ASSERT_EQ(iEditMode, EditingVariation);
+    Key("lvVariations", Qt::Key_Space);
+    EXPECT_EQ(iEditMode, EditingVariation);
+    EXPECT_EQ(EditText(), QStringLiteral("Alfax"));
+}
+
+TEST_F(EditingTest, EscInTheListGivesUpWhatWasMarked) {
+    OpenDistrict();
+    Select(QStringLiteral("Alfa"));
+    Click("cbDate");
+    Key("lvVariations", Qt::Key_Escape);
+    EXPECT_EQ(Selected("lvVariations"), QStringList());
+    EXPECT_EQ(iEditMode, DistrictIdle);
+}
+
+TEST_F(EditingTest, GivingAChoiceUpLeavesNoRowSelected) {
+    OpenDistrict();
+    Select(QStringLiteral("Alfa"));
+    Click("cbCancel");
+    EXPECT_EQ(Selected("lvVariations"), QStringList());
+    Find<QWidget>("lvVariations").setFocus();
+    Key("lvVariations", Qt::Key_A, Qt::ControlModifier);
+    ASSERT_EQ(iEditMode, SeveralSelected);
+    Key("lvVariations", Qt::Key_Escape);
+    EXPECT_EQ(Selected("lvVariations"), QStringList());
+    EXPECT_EQ(iEditMode, DistrictIdle);
+}
+
+TEST_F(EditingTest, AnOnlyVariationThatWasGivenUpIsChosenAgainByAnyOfTheKeys) {
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_Space, Qt::Key_Return}) {
+        OpenDistrict("|Alfa");
+        Select(QStringLiteral("Alfa"));
+        Click("cbCancel");
+        Key("lvVariations", key);
+        EXPECT_EQ(Selected("lvVariations"), QStringList{QStringLiteral("Alfa")}) << key;
+        EXPECT_EQ(iEditMode, OneSelected) << key;
+        Click("cbCancel");
+        bChanged = false;
+    }
 }
 
 TEST_F(EditingTest, WithSeveralMarkedTheEditBoxStaysEmpty) {

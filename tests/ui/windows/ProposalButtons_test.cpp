@@ -105,6 +105,8 @@ TEST_F(ProposalButtonsTest, ClearUnticksAllProposals) {
 
 TEST_F(ProposalButtonsTest, ClearLeavesTheTextBeingAddedAlone) {
     ClickText(Elm);
+    ASSERT_FALSE(Enabled("cbClearSel"));
+    ClickBox(QStringLiteral("!Oak"));
     Click("cbClearSel");
     EXPECT_EQ(EditText(), Elm);
     EXPECT_EQ(iEditMode, AddingAcceptable);
@@ -163,8 +165,12 @@ TEST_F(ProposalButtonsTest, WhileAProposalIsAddedSpellingMayBeTickedBesideVariat
 TEST_F(NoDistrictTest, InANewFileRowsCanOnlyBeTicked) {
     OpenContent(HeaderOf("Gamma") + "\r\n");
     ASSERT_EQ(Column("LvChanges"), (QStringList{Elm, Oak}));
-    ExpectNothingButTicks("cbOpen cbCompleteCheck lbComments");
+    ExpectNothingButTicks("cbOpen cbClearSel cbCompleteCheck lbComments");
     EXPECT_EQ(iEditMode, FileOpen);
+    ClickBox(Elm);
+    Click("cbClearSel");
+    EXPECT_EQ(Ticked(), QStringList());
+    ExpectEnabled("cbOpen cbCompleteCheck lbComments");
 }
 
 TEST_F(NoDistrictTest, TicksAreThereForTheNextDistrict) {
@@ -181,9 +187,10 @@ TEST_F(NoDistrictTest, AfterACancelledOpeningThereIsNothingToApplyTo) {
     desktop.ExpectOpen(std::nullopt);
     Click("cbOpen");
     ASSERT_EQ(lCurrentDistrict, 0);
-    ASSERT_TRUE(Enabled("cbApplyAll"));
-    Click("cbApplyAll");
-    Click("cbApplyAllSpell");
+    for (const char* button :
+         {"cbApplyAll", "cbApplyAllSpell", "cbApplySelected", "cbApplySelSpell", "cbEditSel", "cbDelete"}) {
+        EXPECT_FALSE(Enabled(button)) << button;
+    }
     EXPECT_FALSE(bChanged);
     EXPECT_EQ(Districts[0].lVariationCount, 0);
     EXPECT_EQ(Column("lvVariations"), QStringList());

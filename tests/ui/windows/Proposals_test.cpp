@@ -210,7 +210,18 @@ TEST_F(ListedProposalsTest, AClickOnTheTextTicksTheRowAndTakesItIntoTheEditBox) 
     EXPECT_TRUE(BoxTicked("cbVariation"));
     EXPECT_EQ(TextOf("lbSelectCount"), QStringLiteral("Selected=1"));
     EXPECT_EQ(TextOf("lbWhyError"), QString());
-    ExpectEnabled("cbCancel cbOk tbEdit cbApplySelected cbApplySelSpell cbClearSel cbEditSel");
+    ExpectEnabled("cbCancel cbOk tbEdit");
+}
+
+TEST_F(ListedProposalsTest, SpaceOnAnInvalidProposalIsRefusedThere) {
+    auto& list = List("LvChanges");
+    const int row = RowOf("LvChanges", Invalid);
+    list.setCurrentIndex(list.model()->index(row, 0));
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_EQ(Ticked(), QStringList());
+    EXPECT_EQ(desktop.beeps, 1);
+    EXPECT_EQ(list.currentIndex().row(), row);
 }
 
 TEST_F(ListedProposalsTest, ASecondClickOnTheTextKeepsTheTick) {
@@ -230,7 +241,7 @@ TEST_F(ListedProposalsTest, AClickOnAnInvalidTextTakesItIntoTheEditBoxUnticked) 
     EXPECT_EQ(EditText(), Invalid);
     EXPECT_EQ(iEditMode, AddingUnacceptable);
     EXPECT_EQ(TextOf("lbSelectCount"), QString());
-    ExpectEnabled("cbCancel tbEdit cbApplyAll cbApplyAllSpell cbClearSel");
+    ExpectEnabled("cbCancel tbEdit");
 }
 
 TEST_F(ProposalsTest, AClickOnASpellingOfTheDistrictSaysSo) {

@@ -179,11 +179,21 @@ TEST_F(UndoTest, AChangeIsTakenBackAlsoWhenAFilterHasClearedTheList) {
     EXPECT_FALSE(Column("lvVariations").contains(QStringLiteral("Alpho")));
 }
 
-TEST_F(UndoTest, TheBoxForgetsAMarkedVariationWhenTheMarkIsTakenBack) {
+TEST_F(UndoTest, BehindAFilterTheSummaryIsThatOfWhatIsThereNow) {
+    Add(QStringLiteral("Sm_th"));
+    ASSERT_EQ(TextOf("lbWhyError"), QStringLiteral("1 warnings (Brown)."));
+    ClickRow("lbComments", QStringLiteral(" All"));
+    Click("cbUndo");
+    EXPECT_FALSE(Column("lvVariations").contains(QStringLiteral("Sm_th")));
+    EXPECT_EQ(TextOf("lbWhyError"), QString());
+}
+
+TEST_F(UndoTest, AMarkedVariationIsSelectedNoMoreWhenTheMarkIsTakenBack) {
     Select(QStringLiteral("Alfa"));
     Click("cbShriek");
-    ASSERT_EQ(Box().text(), QStringLiteral("!Alfa"));
+    ASSERT_EQ(Selected("lvVariations"), QStringList{QStringLiteral("!Alfa")});
     Click("cbUndo");
+    EXPECT_EQ(Selected("lvVariations"), QStringList());
     EXPECT_EQ(Box().text(), QString());
     EXPECT_EQ(lEditIndex, 0);
 }
