@@ -12,10 +12,12 @@ std::string Day(const QDate& day) {
 
 std::string ShortTime(const QTime& time) {
     constexpr QChar narrowNoBreakSpace(0x202F);
+    const QString format = QLocale().timeFormat(QLocale::ShortFormat);
     const std::string text =
-        Text::FromQt(QLocale().toString(time, QLocale::ShortFormat).replace(narrowNoBreakSpace, QLatin1Char(' ')));
-    // Not every country's time can be written in the code page.
-    return text.find('?') == std::string::npos ? text : Text::FromQt(time.toString(QStringLiteral("HH:mm")));
+        Text::FromQt(QLocale().toString(time, format).replace(narrowNoBreakSpace, QLatin1Char(' ')));
+    // Where no country is set the format has seconds, and not every country's can be written in the code page.
+    const bool isShort = !format.contains(QLatin1Char('s')) && text.find('?') == std::string::npos;
+    return isShort ? text : Text::FromQt(time.toString(QStringLiteral("HH:mm")));
 }
 
 } // namespace DateTimeText

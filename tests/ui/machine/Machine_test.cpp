@@ -2,6 +2,8 @@
 
 #include "ui/machine/QtDesktop.h"
 
+#include "ui/machine/DateTimeText.h"
+
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
@@ -167,10 +169,25 @@ TEST_F(MachineTest, TodayIsDayMonthAndYear) {
 
 TEST_F(MachineTest, TheTimeIsHoursAndMinutes) {
     const QLocale before;
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
-    const QString now = QString::fromStdString(desktop.ShortTime());
-    EXPECT_TRUE(QRegularExpression(QStringLiteral("^[0-2][0-9]:[0-5][0-9]$")).match(now).hasMatch())
-        << now.toStdString();
+    for (const QLocale& locale : {QLocale(QLocale::English, QLocale::UnitedKingdom), QLocale::c()}) {
+        QLocale::setDefault(locale);
+        const QString now = QString::fromStdString(desktop.ShortTime());
+        EXPECT_TRUE(QRegularExpression(QStringLiteral("^[0-2][0-9]:[0-5][0-9]$")).match(now).hasMatch())
+            << now.toStdString();
+    }
+    QLocale::setDefault(before);
+}
+
+TEST_F(MachineTest, NoCountryWritesSecondsInAShortTime) {
+    const QLocale before;
+    const QList<QLocale> all = QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+    EXPECT_GT(all.size(), 100);
+    for (const QLocale& locale : all) {
+        QLocale::setDefault(locale);
+        const std::string time = DateTimeText::ShortTime(QTime(14, 7, 39));
+        EXPECT_NE(time.find('7'), std::string::npos) << locale.name().toStdString() << ": " << time;
+        EXPECT_EQ(time.find("39"), std::string::npos) << locale.name().toStdString() << ": " << time;
+    }
     QLocale::setDefault(before);
 }
 
