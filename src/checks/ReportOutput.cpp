@@ -25,7 +25,8 @@ void PrintReport(const Report& report, const std::string& dataFile, Desktop& des
     const bool isPrinted = desktop.Print(ReportLines(report, dataFile, desktop));
     desktop.ShowBusy(false);
     if (!isPrinted) {
-        desktop.MsgBox("The list cannot be printed: there is no printer, or it did not accept the job.",
+        desktop.MsgBox("The list cannot be printed: there is no printer, or it did not accept the job.  "
+                       "Save List keeps it in a file.",
                        BoxIcon::Exclamation);
     }
 }

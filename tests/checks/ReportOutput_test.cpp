@@ -167,7 +167,8 @@ TEST(ReportOutputTest, PrintingPrintsTheSameLinesAndSaysNothing) {
 TEST(ReportOutputTest, PrintingIsSeenToBeWorkUntilTheMessage) {
     WatchedDesktop desktop;
     desktop.hasPrinter = false;
-    desktop.ExpectBox("The list cannot be printed: there is no printer, or it did not accept the job.",
+    desktop.ExpectBox("The list cannot be printed: there is no printer, or it did not accept the job.  "
+                      "Save List keeps it in a file.",
                       BoxIcon::Exclamation);
     PrintReport(TwoFindings, "/data/north.txt", desktop);
     EXPECT_EQ(desktop.seen, (Texts{"busy", "printed", "free", "box"}));
@@ -176,7 +177,8 @@ TEST(ReportOutputTest, PrintingIsSeenToBeWorkUntilTheMessage) {
 TEST(ReportOutputTest, WithoutAPrinterAMessageSaysSo) {
     ScriptedDesktop desktop;
     desktop.hasPrinter = false;
-    desktop.ExpectBox("The list cannot be printed: there is no printer, or it did not accept the job.",
+    desktop.ExpectBox("The list cannot be printed: there is no printer, or it did not accept the job.  "
+                      "Save List keeps it in a file.",
                       BoxIcon::Exclamation);
     PrintReport(TwoFindings, "/data/north.txt", desktop);
     EXPECT_TRUE(desktop.printed.empty());

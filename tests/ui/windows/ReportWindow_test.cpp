@@ -95,7 +95,8 @@ TEST_F(ReportWindowTest, PrintPrintsTheHeadingAndTheLines) {
 
 TEST_F(ReportWindowTest, WithoutAPrinterAMessageSaysSo) {
     desktop.hasPrinter = false;
-    desktop.ExpectBox("The list cannot be printed: there is no printer, or it did not accept the job.",
+    desktop.ExpectBox("The list cannot be printed: there is no printer, or it did not accept the job.  "
+                      "Save List keeps it in a file.",
                       BoxIcon::Exclamation);
     Show();
     Click("cbPrint");
