@@ -27,7 +27,7 @@ bool ConfirmDiscard(Session& session) {
     }
     bChanged = true; // the save that cleared it has saved nothing
     return session.desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
-                                  BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+                                  BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
 }
 
 void ShowCommentTypes(Session& session) {

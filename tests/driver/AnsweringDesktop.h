@@ -25,8 +25,8 @@ public:
     CommonRoutines::BoxAnswer MsgBox(std::string_view text, CommonRoutines::BoxIcon /*icon*/,
                                      CommonRoutines::BoxButtons buttons) override {
         Tell(text);
-        return buttons == CommonRoutines::BoxButtons::YesNo ? CommonRoutines::BoxAnswer::Yes
-                                                            : CommonRoutines::BoxAnswer::Ok;
+        const bool hasOk = buttons == CommonRoutines::BoxButtons::Ok || buttons == CommonRoutines::BoxButtons::OkCancel;
+        return hasOk ? CommonRoutines::BoxAnswer::Ok : CommonRoutines::BoxAnswer::Yes;
     }
     std::string MyMsgBox(const std::string& Prompt, std::int32_t /*Img*/, const std::string& /*Title*/,
                          std::span<const std::string> /*ButtonCaptions*/) override {

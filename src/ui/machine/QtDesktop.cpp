@@ -56,6 +56,7 @@ QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
     case BoxButtons::OkCancel:
         return QMessageBox::Ok | QMessageBox::Cancel;
     case BoxButtons::YesNo:
+    case BoxButtons::YesNoDefaultNo:
         return QMessageBox::Yes | QMessageBox::No;
     case BoxButtons::Ok:
         break;
@@ -109,6 +110,9 @@ BoxAnswer QtDesktop::ShowBox(const QString& title, std::string_view text, BoxIco
     QMessageBox box(IconOf(icon), title, Text::ForBox(text), ButtonsOf(buttons), m_window);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    if (buttons == BoxButtons::YesNoDefaultNo) {
+        box.setDefaultButton(QMessageBox::No);
+    }
     const int answer = box.exec();
     m_work.GoOn();
     switch (answer) {

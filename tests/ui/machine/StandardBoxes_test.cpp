@@ -70,6 +70,8 @@ TEST_F(StandardBoxesTest, HaveTheirButtons) {
     EXPECT_EQ(boxButtons, QMessageBox::Ok | QMessageBox::Cancel);
     Look("Text", BoxIcon::None, BoxButtons::YesNo, "Yes");
     EXPECT_EQ(boxButtons, QMessageBox::Yes | QMessageBox::No);
+    Look("Text", BoxIcon::None, BoxButtons::YesNoDefaultNo, "No");
+    EXPECT_EQ(boxButtons, QMessageBox::Yes | QMessageBox::No);
 }
 
 TEST_F(StandardBoxesTest, AnswerWithTheButtonPressed) {
@@ -94,6 +96,18 @@ TEST_F(StandardBoxesTest, EscNeverMeansYesAndEnterTakesTheFirstButton) {
     EXPECT_EQ(answer(BoxButtons::YesNo, Qt::Key_Escape), BoxAnswer::No);
     EXPECT_EQ(answer(BoxButtons::OkCancel, Qt::Key_Return), BoxAnswer::Ok);
     EXPECT_EQ(answer(BoxButtons::YesNo, Qt::Key_Return), BoxAnswer::Yes);
+}
+
+TEST_F(StandardBoxesTest, WhereNoIsTheDefaultOnlyItsButtonMeansYes) {
+    const auto answer = [this](Qt::Key key) {
+        KeyNext(key);
+        return desktop.MsgBox("Text", BoxIcon::Question, BoxButtons::YesNoDefaultNo);
+    };
+    EXPECT_EQ(answer(Qt::Key_Return), BoxAnswer::No);
+    EXPECT_EQ(answer(Qt::Key_Enter), BoxAnswer::No);
+    EXPECT_EQ(answer(Qt::Key_Escape), BoxAnswer::No);
+    PressNext("Yes");
+    EXPECT_EQ(desktop.MsgBox("Text", BoxIcon::Question, BoxButtons::YesNoDefaultNo), BoxAnswer::Yes);
 }
 
 TEST_F(StandardBoxesTest, AnEndlessTextStillLeavesTheButtonsOnTheScreen) {

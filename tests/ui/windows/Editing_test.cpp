@@ -72,8 +72,7 @@ TEST_F(EditingTest, TypingWhileNothingIsSelectedAnyMoreStartsAnAdd) {
 TEST_F(EditingTest, WithoutADistrictTypingStartsNothing) {
     OpenDistrict();
     Add(QStringLiteral("Gamma"));
-    desktop.ExpectBox("This will loose your changes.\r\nAre you sure you want to do this?", BoxIcon::Question,
-                      BoxButtons::YesNo, BoxAnswer::Yes);
+    ExpectLooseChanges(BoxAnswer::Yes);
     desktop.ExpectOpen(std::nullopt);
     Click("cbOpen");
     ASSERT_EQ(lCurrentDistrict, 0);

@@ -44,5 +44,5 @@ void FormTest::OpenNullVariation(const std::string& answer) {
 
 void FormTest::ExpectLooseChanges(BoxAnswer answer) {
     desktop.ExpectBox("This will loose your changes.\r\nAre you sure you want to do this?", BoxIcon::Question,
-                      BoxButtons::YesNo, answer);
+                      BoxButtons::YesNoDefaultNo, answer);
 }
