@@ -6,7 +6,7 @@
 #include "edit/VariationList.h"
 #include "edit/Variations.h"
 #include "recovery/LeftOvers.h"
-#include "recovery/OpenMark.h"
+#include "recovery/OpenFile.h"
 #include "recovery/UnsavedChanges.h"
 #include "rules/Duplicates.h"
 
@@ -168,9 +168,8 @@ std::vector<const LeftOver*> AskFor(Desktop& desktop, std::span<const LeftOver> 
 } // namespace
 
 void RestoreChanges(Desktop& desktop) {
-    if (DataFileMark.Set(desktop, sDataFileName)) {
-        desktop.MsgBox("Another editor has this file open.  What is saved last replaces what was saved before.",
-                       BoxIcon::Exclamation);
+    if (TheOpenFile.Mark(desktop)) {
+        TellOfAnotherEditor(desktop);
     }
     const std::vector<LeftOver> leftOvers = LeftOversOfFile(desktop.State());
     if (const std::vector<const LeftOver*> wanted = AskFor(desktop, leftOvers); !wanted.empty()) {

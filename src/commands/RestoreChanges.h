@@ -11,7 +11,7 @@ namespace Commands {
 // makes them, counts the problems of their districts anew and sets bChanged.
 //
 // Recovery files of the file that do not fit it, or are damaged, are set aside with a message. None is
-// ever made in part. Expects sDataFileName to be open.
+// ever made in part. Expects the open file to be the one that was read.
 void RestoreChanges(CommonRoutines::Desktop& desktop);
 
 } // namespace Commands

@@ -3,6 +3,7 @@
 #include "commands/Guidance.h"
 #include "commands/WindowMode.h"
 #include "core/State.h"
+#include "recovery/OpenFile.h"
 #include "recovery/UnsavedChanges.h"
 
 #include <new>
@@ -50,6 +51,7 @@ void Session::Run(const std::function<void(Session&)>& command) {
 
 void Session::Present() {
     view.mode = iEditMode;
+    view.openFile = TheOpenFile.Path();
     WithholdFromNoDistrict(view);
     ShowGuidance(*this);
     Unsaved.Write(m_showing);

@@ -98,6 +98,7 @@ struct WindowView {
     HintsView hints;
     ObstaclesView obstacles{};
     std::string doing; // what the edit panel is used for at the moment
+    std::string openFile; // its path, in the machine's own encoding; empty when there is none
 
     EditView edit;
     ProblemView whyError;

@@ -25,8 +25,9 @@ extern std::int32_t lTableNumber;
 // that was ended by Quit. Read by whatever goes through the table.
 extern std::int32_t lLineCount;
 
-// Full path of the data file, in the machine's own encoding. Written by the opening of a file, emptied by
-// ReadDistrictFile when it cannot be read. Read by both, SaveDistrictFile, RestoreChanges and VarCheck.
+// Full path of the data file that was opened, in the machine's own encoding. Written by the opening of a file,
+// emptied by ReadDistrictFile when it cannot be read. Read by both and VarCheck; a save leaves it as it is
+// (recovery/OpenFile has the file that was saved).
 extern std::string sDataFileName;
 
 // Encoding of that file. Written by ReadDistrictFile, read by SaveDistrictFile.

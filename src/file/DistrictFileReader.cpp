@@ -8,7 +8,7 @@
 #include "edit/Variations.h"
 #include "file/CommentTypes.h"
 #include "file/DistrictLine.h"
-#include "recovery/OpenMark.h"
+#include "recovery/OpenFile.h"
 #include "recovery/UnsavedChanges.h"
 #include "repair/RepairNullVariation.h"
 #include "rules/Capitals.h"
@@ -285,13 +285,12 @@ void ForgetTable() {
 // Returns false when the file cannot be read.
 bool ReadTable(Desktop& desktop) {
     ForgetTable(); // before the file is read, so that two files are never in memory at once
-    DataFileMark.Clear(desktop);
-    Unsaved.Release(desktop);
+    TheOpenFile.Close(desktop);
     auto content = desktop.ReadFile(sDataFileName);
     if (!content) {
         return false;
     }
-    Unsaved.Begin(desktop, sDataFileName, *content, Numbering::AsRead);
+    TheOpenFile.BeginReading(desktop, sDataFileName, *content);
     eFileEncoding = EncodingOf(*content);
     content = Decoded(std::move(*content), eFileEncoding);
     const auto lineCount = static_cast<std::size_t>(std::count(content->begin(), content->end(), '\n')) + 1;
@@ -317,7 +316,7 @@ void ReadDistrictFile(Desktop& desktop) {
         problem = "There is not enough memory for the file:\r\n";
     }
     if (!problem.empty()) {
-        Unsaved.Release(desktop);
+        TheOpenFile.Close(desktop);
         desktop.ShowBusy(false);
         desktop.MsgBox(std::string(problem) + Ansi::FromUtf8(sDataFileName), BoxIcon::Exclamation);
         sDataFileName.clear();

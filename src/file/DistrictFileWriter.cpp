@@ -4,6 +4,7 @@
 #include "core/Desktop.h"
 #include "core/Paths.h"
 #include "core/State.h"
+#include "recovery/OpenFile.h"
 #include "recovery/UnsavedChanges.h"
 
 namespace CommonRoutines {
@@ -43,8 +44,8 @@ std::string DistrictFileContent() {
 
 void SaveDistrictFile(Desktop& desktop) {
     FileRequest request;
-    request.folder = Paths::FolderOf(sDataFileName);
-    request.fileName = Paths::NameOf(sDataFileName);
+    request.folder = Paths::FolderOf(TheOpenFile.Path());
+    request.fileName = Paths::NameOf(TheOpenFile.Path());
     const auto path = desktop.ChooseFileToSave(request);
     if (!path) {
         return;
@@ -53,10 +54,8 @@ void SaveDistrictFile(Desktop& desktop) {
     const std::string content = Encoded(DistrictFileContent(), eFileEncoding);
     Unsaved.NoteSaving(desktop, *path, content);
     const bool saved = desktop.ReplaceFile(*path, content);
-    if (saved) {
-        Unsaved.Remove(desktop);
-        Unsaved.Begin(desktop, *path, content, Numbering::AsSaved);
-    } else if (desktop.ReadFile(*path) == content) {
+    const bool isOpenElsewhere = saved && TheOpenFile.MoveTo(desktop, *path, content);
+    if (!saved && OpenFile::IsAt(desktop, *path) && desktop.ReadFile(*path) == content) {
         // It is there, but perhaps not to stay. What is changed from now on belongs to it; what was
         // changed before stays left over in case the old file comes back.
         Unsaved.Begin(desktop, *path, content, Numbering::AsSaved);
@@ -64,6 +63,9 @@ void SaveDistrictFile(Desktop& desktop) {
     desktop.ShowBusy(false);
     if (saved) {
         desktop.MsgBox("File Saved to " + Ansi::FromUtf8(*path), BoxIcon::Information);
+    }
+    if (isOpenElsewhere) {
+        TellOfAnotherEditor(desktop);
     }
 }
 

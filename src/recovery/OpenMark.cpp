@@ -5,8 +5,6 @@
 
 namespace CommonRoutines {
 
-OpenMark DataFileMark;
-
 namespace {
 
 constexpr std::string_view Ending = ".open";

@@ -17,6 +17,4 @@ private:
     std::string m_name; // of the lock that is the mark
 };
 
-extern OpenMark DataFileMark;
-
 } // namespace CommonRoutines

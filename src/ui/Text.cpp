@@ -6,6 +6,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <utility>
 
 namespace Text {
 
@@ -20,6 +21,17 @@ constexpr QChar ControlSymbol(0xFFFD);
 
 QString Shortened(std::string_view text) {
     return text.size() <= LongestShown ? ToQt(text) : ToQt(text.substr(0, LongestShown)) + Ellipsis;
+}
+
+QString WithVisibleControls(QString text) {
+    for (QChar& c : text) {
+        if (c == QLatin1Char('\t')) {
+            c = TabSymbol;
+        } else if (c.unicode() < 0x20 || c.unicode() == 0x7F) {
+            c = ControlSymbol;
+        }
+    }
+    return text;
 }
 
 } // namespace
@@ -55,14 +67,7 @@ QString ForList(std::string_view text) {
     if (result.contains(QLatin1Char('\r'))) {
         result.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
     }
-    for (QChar& c : result) {
-        if (c == QLatin1Char('\t')) {
-            c = TabSymbol;
-        } else if (c.unicode() < 0x20 || c.unicode() == 0x7F) {
-            c = ControlSymbol;
-        }
-    }
-    return result;
+    return WithVisibleControls(std::move(result));
 }
 
 QString ForToolTip(const QString& text) {
@@ -75,6 +80,10 @@ QString PathToQt(const std::string& path) {
 
 std::string PathFromQt(const QString& path) {
     return QFile::encodeName(path).toStdString();
+}
+
+QString ShownPath(const std::string& path) {
+    return WithVisibleControls(PathToQt(path));
 }
 
 } // namespace Text

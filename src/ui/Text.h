@@ -26,8 +26,9 @@ inline constexpr std::size_t LongestShown = 2000;
 // For a tooltip, which would otherwise take markup for what it says.
 [[nodiscard]] QString ForToolTip(const QString& text);
 
-// File names are in the machine's own encoding.
+// File names are in the machine's own encoding. Shown, a control character in one is a visible symbol.
 [[nodiscard]] QString PathToQt(const std::string& path);
 [[nodiscard]] std::string PathFromQt(const QString& path);
+[[nodiscard]] QString ShownPath(const std::string& path);
 
 } // namespace Text

@@ -127,6 +127,63 @@ TEST_F(RecoveryTest, BehindASaveThatFailedAtAnyCallTheNextEditComesBackWithAllOt
         });
 }
 
+namespace {
+
+// Saves under another name and goes on with some edits.
+class SavedElsewhereTest : public RecoveryTest {
+protected:
+    [[nodiscard]] Steps SaveElsewhereAndEdit() {
+        place.file = opened;
+        Steps steps = EditAndSave(other);
+        const Steps more{"edits", std::to_string(Edits + 1), std::to_string(AllEdits)};
+        steps.insert(steps.end(), more.begin(), more.end());
+        return steps;
+    }
+    void PrepareBoth() {
+        place.file = opened;
+        PrepareDisk();
+    }
+    // All edits come back in the file that is the open one, which is the other one once it was saved.
+    void ExpectRecoveredIn(const std::filesystem::path& file, const Session& session) {
+        const bool isOther = file == other;
+        place.file = file;
+        ExpectRecovered(std::max(session.LastEdit(), isOther ? Edits : 0),
+                        std::min(session.LastEdit() + 1, isOther ? AllEdits : Edits));
+        if (isOther) {
+            ExpectContent(opened, OldContent());
+        }
+    }
+
+    static constexpr int AllEdits = Edits + 3;
+    const std::filesystem::path opened = place.file;
+    const std::filesystem::path other = disk / "other.txt";
+};
+
+} // namespace
+
+TEST_F(SavedElsewhereTest, KilledAtAnyCallTheFileThatWasSavedGetsAllEditsBack) {
+    for (const char* action : {"kill-before", "kill-after"}) {
+        AtEveryCall(
+            {action}, SaveElsewhereAndEdit(), [&] { PrepareBoth(); },
+            [&](const Session& session) {
+                ExpectContent(opened, OldContent());
+                ExpectOldOrNew(session, other, std::nullopt, ContentAfter(Edits));
+                ExpectRecoveredIn(ContentOf(other) ? other : opened, session);
+            });
+    }
+}
+
+TEST_F(SavedElsewhereTest, BehindASaveThatFailedAtAnyCallTheOpenedFileGetsAllEditsBack) {
+    place.watched = {disk};
+    AtEveryCall(
+        {"fail", 0, EIO}, SaveElsewhereAndEdit(), [&] { PrepareBoth(); },
+        [&](const Session& session) {
+            EXPECT_TRUE(session.Finished());
+            place.file = session.Reached("saved") ? other : opened;
+            ExpectRecovered(AllEdits);
+        });
+}
+
 TEST_F(RecoveryTest, ACallOfARecoveryThatFailsLosesNoEdit) {
     for (const char* action : {"fail", "fail-on"}) {
         AtEveryCall(

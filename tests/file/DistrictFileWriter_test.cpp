@@ -1,5 +1,6 @@
 #include "file/DistrictFileWriter.h"
 
+#include "recovery/OpenFile.h"
 #include "support/Reading.h"
 #include "support/Table.h"
 
@@ -74,7 +75,7 @@ TEST_F(DistrictFileWriterTest, AFileReadComesBackTrimmedAndWithoutBlankVariation
 }
 
 TEST_F(DistrictFileWriterTest, SavingProposesTheOpenFileAndSaysWhereItWent) {
-    sDataFileName = "/data/north/districts.txt";
+    TheOpenFile.BeginReading(m_desktop, "/data/north/districts.txt", "");
     AddRetained("# note");
     m_desktop.ExpectSave("/data/caf\xC3\xA9/new.txt");
     m_desktop.ExpectBox("File Saved to /data/caf\xE9/new.txt", BoxIcon::Information);
@@ -85,7 +86,7 @@ TEST_F(DistrictFileWriterTest, SavingProposesTheOpenFileAndSaysWhereItWent) {
 }
 
 TEST_F(DistrictFileWriterTest, SavingReplacesTheOldContent) {
-    sDataFileName = "C:\\data\\old.txt";
+    TheOpenFile.BeginReading(m_desktop, "C:\\data\\old.txt", "");
     m_desktop.files["C:\\data\\old.txt"] = "a much longer old content";
     AddRetained("# new");
     m_desktop.ExpectSave("C:\\data\\old.txt");

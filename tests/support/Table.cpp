@@ -2,7 +2,7 @@
 
 #include "edit/UndoJournal.h"
 #include "file/CommentTypes.h"
-#include "recovery/OpenMark.h"
+#include "recovery/OpenFile.h"
 #include "recovery/UnsavedChanges.h"
 #include "rules/Capitals.h"
 
@@ -25,7 +25,7 @@ void ResetEverything() {
     ClearUndoRing();
     iUndoStep = 1;
     Unsaved = {};
-    DataFileMark = {};
+    TheOpenFile = {};
 }
 
 std::int32_t AddDistrict(const std::string& name, const std::vector<std::string>& variations) {

@@ -346,20 +346,25 @@ void RowList::keyPressEvent(QKeyEvent* event) {
 void RowList::SetHint(const QString& hint) {
     if (hint != m_hint) {
         m_hint = hint;
-        DescribeEmptiness();
+        Describe();
         viewport()->update();
     }
 }
 
 void RowList::setModel(QAbstractItemModel* newModel) {
     QTreeView::setModel(newModel);
-    connect(newModel, &QAbstractItemModel::modelReset, this, &RowList::DescribeEmptiness);
-    DescribeEmptiness();
+    connect(newModel, &QAbstractItemModel::modelReset, this, &RowList::Describe);
+    Describe();
+}
+
+void RowList::SetDescription(const QString& description) {
+    m_description = description;
+    Describe();
 }
 
 // What is painted in an empty list is also what a screen reader says of it, and only then.
-void RowList::DescribeEmptiness() {
-    setAccessibleDescription(model() != nullptr && model()->rowCount() == 0 ? m_hint : QString());
+void RowList::Describe() {
+    setAccessibleDescription(model() != nullptr && model()->rowCount() == 0 ? m_hint : m_description);
 }
 
 void RowList::paintEvent(QPaintEvent* event) {

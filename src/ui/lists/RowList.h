@@ -28,6 +28,8 @@ public:
     // What an empty list says, in grey: what to do next.
     void SetHint(const QString& hint);
     [[nodiscard]] const QString& Hint() const { return m_hint; }
+    // What a screen reader says of a list that is not empty.
+    void SetDescription(const QString& description);
 
     // Where an index is shown, also outside of what is visible.
     [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
@@ -67,7 +69,7 @@ private:
     [[nodiscard]] bool IsLookingFor() const;
     void MarkColumn(int column);
     void UpdateFocusMarks();
-    void DescribeEmptiness();
+    void Describe();
 
     class Header;
 
@@ -76,6 +78,7 @@ private:
     QString m_typed;  // of the row that is looked for, as long as the next letter comes in time
     QElapsedTimer m_lastTyped;
     QString m_hint;
+    QString m_description;
     bool m_announced = false; // since the mouse was pressed
     bool m_quiet = false;
 };

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 namespace Ui {
 
@@ -59,6 +60,7 @@ private:
     void ShowCaptions(const Commands::WindowView& view);
     void ShowEditPanel(const Commands::EditView& edit);
     void ShowHints(const Commands::HintsView& hints);
+    void ShowOpenFile(const std::string& path);
     void ShowFocus(Commands::Focus focus);
 
     void StartColumnWidths() override;

@@ -54,6 +54,7 @@ public:
     PlainLabel* lbSelectCount = nullptr;
     PlainLabel* lbWhyError = nullptr;
     PlainLabel* lbApplyTo = nullptr;
+    QLabel* Label1 = nullptr; // the heading of the districts
 
 private:
     static constexpr int Space = 8; // between controls, in pixels

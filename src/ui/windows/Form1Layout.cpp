@@ -135,7 +135,8 @@ QBoxLayout* Form1Controls::ListBand() {
 
     auto* band = Inner<QHBoxLayout>(Space);
     band->setSpacing(Space + Space / 2);
-    band->addLayout(column(Heading("Label1", QStringLiteral("Districts"), lvAlpha), lvAlpha, nullptr), 8);
+    Label1 = Heading("Label1", QStringLiteral("Districts"), lvAlpha);
+    band->addLayout(column(Label1, lvAlpha, nullptr), 8);
     band->addLayout(
         column(Heading("Label2", QStringLiteral("Variations"), lvVariations), lvVariations,
                ButtonFrame("Frame5", QStringLiteral("Commands for variations"), Commands::Frame::Variations)),

@@ -15,6 +15,7 @@
 #include "ui/windows/WindowFit.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
 
@@ -43,6 +44,9 @@ void Form1::Show(const Commands::WindowView& view) {
     ShowEditPanel(view.edit);
     if (view.hints != m_shown.hints) {
         ShowHints(view.hints);
+    }
+    if (view.openFile != m_shown.openFile) {
+        ShowOpenFile(view.openFile);
     }
     ShowEnabled(view);
     ShowObstacles(view);
@@ -142,6 +146,16 @@ void Form1::ShowHints(const Commands::HintsView& hints) {
     m_controls.lvVariations->SetHint(Text::ToQt(hints.variations));
     m_controls.LvChanges->SetHint(Text::ToQt(hints.proposals));
     m_controls.lvComments->SetHint(Text::ToQt(hints.comments));
+}
+
+void Form1::ShowOpenFile(const std::string& path) {
+    const QString shown = Text::ShownPath(path);
+    for (QWidget* widget : {static_cast<QWidget*>(m_controls.Label1), static_cast<QWidget*>(m_controls.lvAlpha)}) {
+        widget->setToolTip(shown.isEmpty() ? QString() : Text::ForToolTip(shown));
+    }
+    // Otherwise the tooltips would be read out, with their mark-up.
+    m_controls.Label1->setAccessibleDescription(shown);
+    m_controls.lvAlpha->SetDescription(shown);
 }
 
 void Form1::ShowFocus(Commands::Focus focus) {

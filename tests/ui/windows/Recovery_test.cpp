@@ -2,7 +2,7 @@
 
 #include "ui/windows/EditingTest.h"
 
-#include "recovery/OpenMark.h"
+#include "recovery/OpenFile.h"
 #include "recovery/RecoveryFile.h"
 #include "recovery/UnsavedChanges.h"
 
@@ -273,7 +273,7 @@ TEST_F(RecoveryTest, TheSecondEditorOfAFileIsTold) {
     other.ExpectOpen(DataFilePath);
     other.ExpectBox("Another editor has this file open.  What is saved last replaces what was saved before.",
                     BoxIcon::Exclamation);
-    DataFileMark = {}; // that of the first editor stays where it is
+    TheOpenFile = {}; // that of the first editor stays where it is
     QTest::mouseClick(second.findChild<QPushButton*>(QStringLiteral("cbOpen")), Qt::LeftButton);
     EXPECT_EQ(lLineCount, 2);
 }

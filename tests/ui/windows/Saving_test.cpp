@@ -4,6 +4,8 @@
 
 #include "ui/lists/StateColours.h"
 
+#include <QTextDocument>
+
 using namespace CommonRoutines;
 
 namespace {
@@ -35,6 +37,48 @@ TEST_F(SavingTest, TheOpenFileIsProposed) {
     Click("cbSave");
     EXPECT_EQ(desktop.lastRequest.folder, "/data");
     EXPECT_EQ(desktop.lastRequest.fileName, "all.txt");
+}
+
+TEST_F(SavingTest, AfterASaveUnderAnotherNameThatNameIsProposed) {
+    desktop.ExpectSave("/copies/copy.txt");
+    desktop.ExpectBox("File Saved to /copies/copy.txt", BoxIcon::Information);
+    Click("cbSave");
+    bChanged = true;
+    ClickRow("lvAlpha", QStringLiteral("Beta"));
+    desktop.ExpectSave(std::nullopt);
+    Click("cbSave");
+    EXPECT_EQ(desktop.lastRequest.folder, "/copies");
+    EXPECT_EQ(desktop.lastRequest.fileName, "copy.txt");
+}
+
+TEST_F(SavingTest, TheDistrictsSayWhichFileIsOpen) {
+    const auto expectSaid = [&](const QString& path) {
+        for (const char* name : {"Label1", "lvAlpha"}) {
+            EXPECT_EQ(Find(name).accessibleDescription(), path) << name;
+            EXPECT_TRUE(Find(name).toolTip().contains(path)) << Find(name).toolTip().toStdString();
+        }
+    };
+    expectSaid(QStringLiteral("/data/all.txt"));
+    desktop.ExpectSave("/copies/\xC4\x8D\n<b>.txt");
+    desktop.ExpectBox("File Saved to /copies/?\n<b>.txt", BoxIcon::Information);
+    Click("cbSave");
+    for (const char* name : {"Label1", "lvAlpha"}) {
+        EXPECT_EQ(Find(name).accessibleDescription(), QStringLiteral("/copies/\u010D\uFFFD<b>.txt")) << name;
+        QTextDocument document;
+        document.setHtml(Find(name).toolTip());
+        EXPECT_EQ(document.toPlainText(), QStringLiteral("/copies/\u010D\uFFFD<b>.txt")) << name;
+    }
+}
+
+TEST_F(SavingTest, WithoutAFileTheDistrictsSayWhatToDo) {
+    bChanged = false;
+    desktop.ExpectOpen("/data/missing.txt");
+    desktop.ExpectBox("The file cannot be read:\r\n/data/missing.txt", BoxIcon::Exclamation);
+    Click("cbOpen");
+    EXPECT_EQ(Find("Label1").toolTip(), QString());
+    EXPECT_EQ(Find("lvAlpha").toolTip(), QString());
+    EXPECT_EQ(Find("Label1").accessibleDescription(), QString());
+    EXPECT_EQ(Find("lvAlpha").accessibleDescription(), List("lvAlpha").Hint());
 }
 
 TEST_F(SavingTest, SavingClearsTheProblemsOnAGreyGround) {

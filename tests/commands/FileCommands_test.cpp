@@ -1,0 +1,197 @@
+#include "commands/FileCommands.h"
+
+#include "commands/EditingPlayer.h"
+#include "edit/Variations.h"
+#include "recovery/OpenMark.h"
+
+#include <functional>
+#include <optional>
+
+using namespace CommonRoutines;
+using namespace Commands;
+
+namespace {
+
+const std::string CopyPath = "/copies/copy.txt";
+
+// Opens a data file, changes it, and saves it here or there.
+class FileCommandsTest : public StateTest {
+protected:
+    FileCommandsTest() {
+        desktop.recordReports = true;
+        other.state.storage = desktop.state.storage;
+        desktop.files[DataFilePath] = HeaderOf("Alpha") + "|Ash|Elm\r\n";
+        OpenFile();
+    }
+    void OpenFile(
+        const std::string& path = DataFilePath, const std::function<void()>& expectPrompts = [] {}) {
+        desktop.ExpectOpen(path);
+        expectPrompts();
+        session.Run(Open);
+    }
+    void Change(const std::string& text) {
+        session.Run([&](Session&) {
+            StoreText(1, 1, text);
+            bChanged = true;
+        });
+    }
+    void SaveTo(const std::optional<std::string>& path) {
+        desktop.ExpectSave(path);
+        if (path && desktop.canWrite && !desktop.failsAfterWriting) {
+            desktop.ExpectBox("File Saved to " + *path, BoxIcon::Information);
+        }
+        session.Run(Save);
+    }
+    // The path that a save would propose.
+    std::string Proposed() {
+        SaveTo(std::nullopt);
+        return desktop.lastRequest.folder + '/' + desktop.lastRequest.fileName;
+    }
+    // Whether another editor that opens a file now is told.
+    bool IsMarked(const std::string& path) {
+        OpenMark theirs;
+        const bool isMarked = theirs.Set(other, path);
+        theirs.Clear(other);
+        return isMarked;
+    }
+    // Proposal, mark and what the window shows belong to one file.
+    void ExpectOpen(const std::string& path, const std::string& closed) {
+        EXPECT_EQ(screen.shown.openFile, path);
+        EXPECT_EQ(Proposed(), path);
+        EXPECT_TRUE(IsMarked(path));
+        EXPECT_FALSE(IsMarked(closed));
+    }
+    // The editor is killed, and another one opens a file.
+    void DieAndOpen(
+        const std::string& path, const std::function<void()>& expectPrompts = [] {}) {
+        desktop.state.Die();
+        ResetEverything();
+        OpenFile(path, expectPrompts);
+    }
+    void ExpectOfferedAfterDeath(const std::string& path) {
+        DieAndOpen(path, [this] {
+            desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
+                              BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
+        });
+    }
+
+    ScriptedDesktop desktop;
+    ScriptedDesktop other;
+    QuietScreen screen;
+    Session session{desktop, screen};
+};
+
+} // namespace
+
+TEST_F(FileCommandsTest, TheFileThatWasReadIsOpen) {
+    ExpectOpen(DataFilePath, CopyPath);
+}
+
+TEST_F(FileCommandsTest, TheFileThatWasSavedUnderAnotherNameIsOpenFromThenOn) {
+    Change("Fir");
+    SaveTo(CopyPath);
+    ExpectOpen(CopyPath, DataFilePath);
+    Change("Oak");
+    SaveTo(CopyPath); // asks nothing of another editor
+    ExpectOpen(CopyPath, DataFilePath);
+}
+
+TEST_F(FileCommandsTest, ReportsStayAboutTheFileThatWasOpened) {
+    SaveTo(CopyPath);
+    EXPECT_EQ(sDataFileName, DataFilePath);
+}
+
+TEST_F(FileCommandsTest, BehindTheMessageOfASaveTheNewFileIsOpenAlready) {
+    class Watching : public ScriptedDesktop {
+    public:
+        std::function<void()> look;
+        BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override {
+            look();
+            return ScriptedDesktop::MsgBox(text, icon, buttons);
+        }
+    } watching;
+    watching.state.storage = desktop.state.storage;
+    Session watched{watching, screen};
+    watching.look = [&] {
+        EXPECT_EQ(screen.shown.openFile, CopyPath);
+        EXPECT_TRUE(IsMarked(CopyPath));
+    };
+    watching.ExpectSave(CopyPath);
+    watching.ExpectBox("File Saved to " + CopyPath, BoxIcon::Information);
+    watched.Run(Save);
+}
+
+TEST_F(FileCommandsTest, ACancelledSaveLeavesTheOpenFileAsItWas) {
+    Change("Fir");
+    SaveTo(std::nullopt);
+    ExpectOpen(DataFilePath, CopyPath);
+}
+
+TEST_F(FileCommandsTest, AFailedSaveUnderAnotherNameLeavesTheOpenFileAsItWas) {
+    Change("Fir");
+    desktop.canWrite = false;
+    SaveTo(CopyPath);
+    ExpectOpen(DataFilePath, CopyPath);
+    Change("Oak");
+    ExpectOfferedAfterDeath(DataFilePath);
+    EXPECT_EQ(VariationAt(1, 1).Text, "Oak");
+}
+
+TEST_F(FileCommandsTest, SoDoesOneThatFailsWithItsFileInPlace) {
+    Change("Fir");
+    desktop.failsAfterWriting = true;
+    SaveTo(CopyPath);
+    ExpectOpen(DataFilePath, CopyPath);
+    Change("Oak");
+    EXPECT_EQ(desktop.state.Kept(".changes").size(), 1U);
+    ExpectOfferedAfterDeath(DataFilePath);
+    EXPECT_EQ(VariationAt(1, 1).Text, "Oak");
+}
+
+TEST_F(FileCommandsTest, ChangesAfterASaveUnderAnotherNameAreOfferedForThatFileAlone) {
+    Change("Fir");
+    SaveTo(CopyPath);
+    Change("Oak");
+    DieAndOpen(DataFilePath); // where nothing is asked
+    EXPECT_EQ(VariationAt(1, 1).Text, "Ash");
+    ExpectOfferedAfterDeath(CopyPath);
+    EXPECT_EQ(VariationAt(1, 1).Text, "Oak");
+}
+
+TEST_F(FileCommandsTest, OneWhoSavesOverTheFileOfAnotherEditorIsTold) {
+    OpenMark theirs;
+    ASSERT_FALSE(theirs.Set(other, CopyPath));
+    desktop.ExpectSave(CopyPath);
+    desktop.ExpectBox("File Saved to " + CopyPath, BoxIcon::Information);
+    desktop.ExpectBox("Another editor has this file open.  What is saved last replaces what was saved before.",
+                      BoxIcon::Exclamation);
+    session.Run(Save);
+}
+
+TEST_F(FileCommandsTest, WhereAFileCannotBeReadNoneIsOpen) {
+    OpenFile("/data/missing.txt",
+             [this] { desktop.ExpectBox("The file cannot be read:\r\n/data/missing.txt", BoxIcon::Exclamation); });
+    EXPECT_EQ(screen.shown.openFile, "");
+    EXPECT_TRUE(desktop.state.Names().empty());
+}
+
+TEST_F(FileCommandsTest, AFileThatIsNotChosenLeavesTheOpenOneAsItWas) {
+    desktop.ExpectOpen(std::nullopt);
+    session.Run(Open);
+    ExpectOpen(DataFilePath, CopyPath);
+}
+
+TEST_F(FileCommandsTest, BeforeChangesAreLostNoIsTheDefault) {
+    const auto expectQuestion = [&] {
+        desktop.ExpectBox("This will loose your changes.\r\nAre you sure you want to do this?", BoxIcon::Question,
+                          BoxButtons::YesNoDefaultNo, BoxAnswer::No);
+    };
+    Change("Fir");
+    expectQuestion();
+    session.Run(Open);
+    expectQuestion();
+    session.Run([](Session& now) { OpenPath(now, CopyPath); });
+    expectQuestion();
+    EXPECT_FALSE(ConfirmClose(session));
+    EXPECT_EQ(VariationAt(1, 1).Text, "Fir");
+}
