@@ -1,7 +1,7 @@
 # shellcheck shell=bash disable=SC2034
 # What ./run, ./test and .ci/run share: saying what happens, and installing what is missing.
 
-BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev libxxhash-dev libgl-dev fonts-dejavu-core"
+BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev libxxhash-dev libgl-dev fonts-dejavu-core cmark-gfm"
 TEST_PACKAGES="libgtest-dev xvfb xauth xdotool openbox"
 FAULT_PACKAGES="e2fsprogs mount"
 PACKAGE_PACKAGES="dpkg-dev file"

@@ -3,6 +3,7 @@
 #include "commands/CheckCommands.h"
 #include "commands/EditCommands.h"
 #include "commands/FileCommands.h"
+#include "commands/Guide.h"
 #include "commands/ProposalCommands.h"
 #include "commands/VariationCommands.h"
 
@@ -80,6 +81,9 @@ constexpr std::array<Command, ControlCount> Table{{
     {.control = Control::lbComments, .name = "lbComments", .place = {}, .caption = "",
      .spokenName = "Comment types", .hint = "Lists only the districts that have a comment of the chosen type",
      .modes = "--EEE----E"},
+    {.control = Control::guide, .name = "guide", .place = {}, .caption = "",
+     .spokenName = "User guide", .hint = "Show the user guide", .key = "F1",
+     .modes = "EEEEEEEEEE", .run = ShowGuide},
 }};
 // clang-format on
 

@@ -34,6 +34,7 @@ enum class Control : std::size_t {
     cbEditSel,
     cbClearSel,
     lbComments,
+    guide, // has a key alone
     Count,
 };
 inline constexpr auto ControlCount = static_cast<std::size_t>(Control::Count);

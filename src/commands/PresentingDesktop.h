@@ -39,6 +39,7 @@ public:
     }
     std::string TruePath(const std::string& path) override { return m_machine.TruePath(path); }
     CommonRoutines::StateFolder& State() override { return m_machine.State(); }
+    bool ShowDocument(const std::string& path) override { return m_machine.ShowDocument(path); }
     std::string ProgramFolder() override { return m_machine.ProgramFolder(); }
     void EnterProgramFolder() override { m_machine.EnterProgramFolder(); }
     std::string GetSetting(std::string_view section, std::string_view key) override {

@@ -70,6 +70,9 @@ public:
     // What the program keeps for the next time, should it stop unexpectedly.
     virtual StateFolder& State() = 0;
 
+    // Shows a document in the desktop's own viewer. False when it is not there, or when nothing can show it.
+    virtual bool ShowDocument(const std::string& path) = 0;
+
     // The folder of the program itself, and making it the current folder.
     virtual std::string ProgramFolder() = 0;
     virtual void EnterProgramFolder() = 0;

@@ -33,6 +33,13 @@ bool PageSays(const std::vector<std::string>& rows, std::string_view key, std::s
     return false;
 }
 
+std::string WhatThePageCalls(const Command& command) {
+    if (command.caption.empty()) {
+        return command.control == Control::tbEdit ? "edit box" : "user guide";
+    }
+    return "**" + std::string(command.caption) + "**";
+}
+
 } // namespace
 
 TEST(CommandTable, EveryControlHasItsRow) {
@@ -69,7 +76,7 @@ TEST(CommandTable, EveryButtonSaysWhatItDoesAndDoesIt) {
 TEST(CommandTable, ThePageOfKeysNamesTheKeyOfEveryCommand) {
     const std::vector<std::string> rows = RowsOfThePage();
     for (const Command& command : AllCommands()) {
-        const std::string what = command.caption.empty() ? "edit box" : "**" + std::string(command.caption) + "**";
+        const std::string what = WhatThePageCalls(command);
         EXPECT_TRUE(command.key.empty() || PageSays(rows, command.key, what)) << command.key << " does " << what;
     }
 }

@@ -52,6 +52,7 @@ constexpr ModeRow ModeRows[] = {
     {Control::lbComments,       "lbComments",      "- - E E E - - - - E"},
     {Control::cbEditSel,        "cbEditSel",       "- - - - - - - - - -"},
     {Control::cbUndo,           "cbUndo",          "E E E E E E E E E E"},
+    {Control::guide,            "guide",           "E E E E E E E E E E"},
 };
 // clang-format on
 

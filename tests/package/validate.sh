@@ -25,6 +25,10 @@ appstreamcli validate-tree --no-net --strict "$work/tree" || fail "appstreamcli 
 MANROFFSEQ='' MANWIDTH=80 LC_ALL=C.UTF-8 man --warnings -E UTF-8 -l "$share/man/man1/quexal-editor.1.gz" \
     >"$work/manual.txt" 2>"$work/said.txt" || fail "man cannot show the manual page"
 [ ! -s "$work/said.txt" ] || fail "the manual page: $(cat "$work/said.txt")"
+# Every file that the manual page names is in the package.
+while read -r named; do
+    [ -e "$work/tree$named" ] || fail "the manual page names $named, which is not in the package"
+done < <(grep -o '/\(etc\|usr\)/[a-z/._-]*[a-z]' "$work/manual.txt")
 grep -q "qx_lower.txt" "$work/manual.txt" || fail "the manual page does not tell of the word list"
 scripts/icons.sh --check
 
@@ -35,6 +39,7 @@ mv "$work/there" "$work/here"
     fail "the command leads elsewhere"
 [ "$(readlink -f "$work/here/lib/quexal-editor/qx_lower.txt")" = "$work/here/etc/quexal-editor/qx_lower.txt" ] ||
     fail "the link to the word list leads elsewhere"
+[ -s "$work/here/lib/quexal-editor/guide/user-guide.html" ] || fail "the guide is not beside the program"
 cmp data/qx_lower.txt "$work/here/lib/quexal-editor/qx_lower.txt" || fail "the word list is another one"
 printf 'zzyzx\r\n' >>"$work/here/etc/quexal-editor/qx_lower.txt"
 cp "$work/here/etc/quexal-editor/qx_lower.txt" "$work/changed.txt"

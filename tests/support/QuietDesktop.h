@@ -35,6 +35,7 @@ public:
     bool ReplaceFile(const std::string& /*path*/, std::string_view /*content*/) override { return true; }
     std::string TruePath(const std::string& path) override { return path; }
     CommonRoutines::StateFolder& State() override { return state; }
+    bool ShowDocument(const std::string& /*path*/) override { return true; }
     std::string ProgramFolder() override { return "/program"; }
     void EnterProgramFolder() override {}
     std::string GetSetting(std::string_view /*section*/, std::string_view /*key*/) override { return {}; }

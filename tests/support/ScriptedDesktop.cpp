@@ -126,6 +126,13 @@ bool ScriptedDesktop::ReplaceFile(const std::string& path, std::string_view cont
     return canWrite && !failsAfterWriting;
 }
 
+bool ScriptedDesktop::ShowDocument(const std::string& path) {
+    if (hasViewer) {
+        shownDocuments.push_back(path);
+    }
+    return hasViewer;
+}
+
 std::string ScriptedDesktop::GetSetting(std::string_view section, std::string_view key) {
     const auto setting = settings.find(std::string(section) + '/' + std::string(key));
     return setting == settings.end() ? std::string() : setting->second;

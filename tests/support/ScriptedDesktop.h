@@ -36,6 +36,8 @@ public:
     std::map<std::string, std::string> files;
     std::map<std::string, std::string> settings; // by "section/key"
     std::vector<std::string> printed;
+    std::vector<std::string> shownDocuments;
+    bool hasViewer = true;
     bool hasPrinter = true;
     bool canWrite = true;
     bool failsAfterWriting = false; // says so though the file is in its place
@@ -56,6 +58,7 @@ public:
     std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ReadFile(const std::string& path) override;
     bool ReplaceFile(const std::string& path, std::string_view content) override;
+    bool ShowDocument(const std::string& path) override;
     void EnterProgramFolder() override { ++programFolderEntries; }
     std::string GetSetting(std::string_view section, std::string_view key) override;
     void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override;

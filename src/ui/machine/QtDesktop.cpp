@@ -9,6 +9,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -20,6 +21,7 @@
 #include <QSettings>
 #include <QStyle>
 #include <QTextDocument>
+#include <QUrl>
 
 namespace Ui {
 
@@ -210,6 +212,11 @@ bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
 std::string QtDesktop::TruePath(const std::string& path) {
     const QString truePath = QFileInfo(Text::PathToQt(path)).canonicalFilePath();
     return truePath.isEmpty() ? path : Text::PathFromQt(truePath);
+}
+
+bool QtDesktop::ShowDocument(const std::string& path) {
+    const QString file = Text::PathToQt(path);
+    return QFileInfo::exists(file) && QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }
 
 std::string QtDesktop::ProgramFolder() {

@@ -29,6 +29,7 @@ public:
     bool ReplaceFile(const std::string& path, std::string_view content) override;
     std::string TruePath(const std::string& path) override;
     CommonRoutines::StateFolder& State() override { return m_state; }
+    bool ShowDocument(const std::string& path) override;
     std::string ProgramFolder() override;
     void EnterProgramFolder() override;
     std::string GetSetting(std::string_view section, std::string_view key) override;

@@ -1,6 +1,7 @@
 #include "ui/windows/VarCheck.h"
 
 #include "checks/ReportOutput.h"
+#include "commands/Guide.h"
 #include "commands/Session.h"
 #include "core/State.h"
 #include "ui/Text.h"
@@ -11,6 +12,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace Ui {
@@ -33,6 +35,9 @@ VarCheck::VarCheck(const Report& report, Desktop& desktop, QWidget* parent)
     BuildList();
     BuildButtons();
     List1->setFocus();
+    auto* guideKey = new QShortcut(Qt::Key_F1, this);
+    connect(guideKey, &QShortcut::activated, this,
+            [this] { LongWork::UnlessPainting([this] { Commands::ShowGuide(m_desktop); }); });
 }
 
 void VarCheck::BuildList() {

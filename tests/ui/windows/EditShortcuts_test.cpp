@@ -82,6 +82,32 @@ TEST_F(EditingTest, F2IsIgnoredWhileTheEditBoxIsDisabled) {
     EXPECT_EQ(Focus(), "lvVariations");
 }
 
+TEST_F(EditingTest, F1ShowsTheGuideInEveryModeAndChangesNothing) {
+    const auto expectGuide = [this](std::int16_t mode) {
+        desktop.shownDocuments.clear();
+        Press(Qt::Key_F1);
+        EXPECT_EQ(desktop.shownDocuments, std::vector<std::string>{"/program/guide/user-guide.html"}) << mode;
+        EXPECT_EQ(iEditMode, mode);
+    };
+    expectGuide(NothingOpen);
+    OpenDistrict();
+    expectGuide(DistrictIdle);
+    Press(Qt::Key_Insert);
+    expectGuide(AddingUnacceptable);
+    Type(QStringLiteral("Gamma"));
+    expectGuide(AddingAcceptable);
+    EXPECT_EQ(EditText(), QStringLiteral("Gamma"));
+    Press(Qt::Key_Escape);
+    Select(QStringLiteral("Alfa"));
+    expectGuide(OneSelected);
+    Type(QStringLiteral("x"));
+    expectGuide(EditingVariation);
+    Press(Qt::Key_Escape);
+    Key("lvVariations", Qt::Key_A, Qt::ControlModifier);
+    expectGuide(SeveralSelected);
+    ExpectNothingChanged();
+}
+
 TEST_F(EditingTest, BothEnterKeysStoreTheText) {
     OpenDistrict();
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {

@@ -69,7 +69,8 @@ public:
     }
     void Press(Commands::Control button) override { Click(std::string(Commands::CommandOf(button).name).c_str()); }
     [[nodiscard]] bool IsEnabled(Commands::Control control) const override {
-        return Self().Enabled(std::string(Commands::CommandOf(control).name).c_str());
+        const auto* widget = m_form.findChild<QWidget*>(Text::ToQt(Commands::CommandOf(control).name));
+        return widget == nullptr || widget->isEnabled(); // a key alone is never disabled
     }
 
     [[nodiscard]] ShownWindow Shown() const override {

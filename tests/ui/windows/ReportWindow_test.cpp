@@ -144,6 +144,14 @@ TEST_F(ReportWindowTest, EscAndCloseCloseTheWindow) {
     EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(ReportWindowTest, F1ShowsTheGuideAndLeavesTheReportOpen) {
+    Show();
+    Activate(*window);
+    Key("List1", Qt::Key_F1);
+    EXPECT_EQ(desktop.shownDocuments, std::vector<std::string>{"/program/guide/user-guide.html"});
+    EXPECT_TRUE(window->isVisible());
+}
+
 TEST_F(ReportWindowTest, CtrlCCopiesTheSelectedLines) {
     Show();
     Key("List1", Qt::Key_Home);

@@ -1,0 +1,31 @@
+#include "commands/Guide.h"
+
+#include "support/ScriptedDesktop.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+using namespace CommonRoutines;
+
+TEST(GuideTest, ItIsShownFromWhereTheLinkBesideTheProgramLeads) {
+    class Linked : public ScriptedDesktop {
+    public:
+        std::string TruePath(const std::string& path) override {
+            return path == "/program/guide/user-guide.html" ? "/documents/user-guide.html" : path;
+        }
+    };
+    Linked desktop;
+    Commands::ShowGuide(desktop);
+    EXPECT_EQ(desktop.shownDocuments, std::vector<std::string>{"/documents/user-guide.html"});
+}
+
+TEST(GuideTest, WhereNothingCanShowItAMessageNamesTheFile) {
+    ScriptedDesktop desktop;
+    desktop.hasViewer = false;
+    desktop.ExpectBox("The user guide could not be shown. This is its file:\r\n/program/guide/user-guide.html",
+                      BoxIcon::Exclamation);
+    Commands::ShowGuide(desktop);
+    desktop.CheckDone();
+}
