@@ -54,10 +54,20 @@ while read -r page; do
 done < <(git ls-files '*.md')
 check_tests docs/reliability.md
 
-# Every picture is shown somewhere.
+# Every picture is shown somewhere, and is one that the tour takes.
 while read -r picture; do
-    grep -q "$(basename "$picture")" README.md docs/*.md || complain "$picture is shown nowhere"
+    name=$(basename "$picture" .png)
+    grep -q "/$name\.png)" README.md docs/*.md || complain "$picture is shown nowhere"
+    grep -q "Picture(.*QStringLiteral(\"${name#dark-}\")" tour/main.cpp || complain "the tour does not take $picture"
 done < <(git ls-files docs/images)
+
+# Software centres are told the size of each picture, which stands in the header of its file.
+while read -r width height name; do
+    picture=docs/images/$name
+    [ -f "$picture" ] || { complain "packaging/metainfo.xml.in names $picture, which is not there"; continue; }
+    read -r -a size < <(od -An -j16 -N8 -t u4 --endian=big "$picture")
+    [ "${size[*]}" = "$width $height" ] || complain "packaging/metainfo.xml.in says $width x $height of $picture, which has ${size[*]}"
+done < <(sed -n 's|.*width="\([0-9]*\)" height="\([0-9]*\)">@QUEXAL_SCREENSHOTS@/\(.*\)</image>|\1 \2 \3|p' packaging/metainfo.xml.in)
 
 [ "$failures" = 0 ] || exit 1
 echo "check_docs: links, paths, commands and tests are there"

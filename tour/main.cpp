@@ -1,7 +1,8 @@
 // Drives the real window through the main job on the sample data, as a user would, and leaves a
-// screenshot of every station: quexal-tour FOLDER [dark]. Needs no display (QT_QPA_PLATFORM=offscreen); with
-// QT_SCALE_FACTOR the pictures are those of a finer screen.
+// picture of every station: quexal-tour FOLDER [dark]. Needs no display (QT_QPA_PLATFORM=offscreen); with
+// QT_SCALE_FACTOR the pictures are those of a finer screen. Those of a dark desktop are named so.
 
+#include "Picture.h"
 #include "driver/DialogueGuide.h"
 #include "driver/DrivenForm.h"
 #include "ui/machine/QtDesktop.h"
@@ -13,22 +14,56 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
 #include <cstdio>
+#include <span>
 #include <string_view>
 
 using namespace Ui;
 
 namespace {
 
+using At = NumberedPart::At;
+
+// What the user guide explains by number, in its order.
+const std::array PartsOfWindow{
+    NumberedPart{{QStringLiteral("cbOpen"), QStringLiteral("cbCompleteCheck")}, At::Top},
+    NumberedPart{{QStringLiteral("cbUndo"), QStringLiteral("lbUndo")}, At::Left},
+    NumberedPart{{QStringLiteral("lvAlpha")}},
+    NumberedPart{{QStringLiteral("lvVariations")}},
+    NumberedPart{{QStringLiteral("cbAdd"), QStringLiteral("cbSaveVariations")}},
+    NumberedPart{{QStringLiteral("Frame1")}},
+    NumberedPart{{QStringLiteral("LvChanges")}},
+    NumberedPart{{QStringLiteral("Frame6")}},
+    NumberedPart{{QStringLiteral("lbComments")}},
+    NumberedPart{{QStringLiteral("lvComments")}},
+    NumberedPart{{QStringLiteral("lbApplyTo"), QStringLiteral("lbWhyError")}},
+};
+const std::array PartsOfEditPanel{
+    NumberedPart{{QStringLiteral("cbVariation"), QStringLiteral("cbVNF")}},
+    NumberedPart{{QStringLiteral("tbEdit")}},
+    NumberedPart{{QStringLiteral("cbOk"), QStringLiteral("cbCancel")}},
+    NumberedPart{{QStringLiteral("lbStatus")}},
+};
+const std::array PartsForProposals{
+    NumberedPart{{QStringLiteral("LvChanges")}, At::Left},
+    NumberedPart{{QStringLiteral("lbSelectCount")}, At::Top},
+    NumberedPart{{QStringLiteral("cbApplySelected"), QStringLiteral("cbApplySelSpell")}, At::Left},
+    NumberedPart{{QStringLiteral("cbApplyAll"), QStringLiteral("cbApplyAllSpell")}, At::Left},
+    NumberedPart{{QStringLiteral("cbEditSel")}, At::Left},
+    NumberedPart{{QStringLiteral("cbClearSel")}, At::Left},
+    NumberedPart{{QStringLiteral("lbApplyTo")}},
+};
+
 class Tour : public DrivenForm<QtDesktop> {
 public:
-    explicit Tour(const QString& folder) : m_folder(folder) {}
+    Tour(const QString& folder, const QString& prefix) : m_folder(folder), m_prefix(prefix) {}
 
     // Returns false when a station was not reached.
     bool Play();
 
 private:
-    void Picture(QWidget& widget, const QString& name);
+    void Picture(QWidget& widget, const QString& name, std::span<const NumberedPart> parts = {});
 
     void OpenPracticeFile();
     void ShowDistrict();
@@ -39,15 +74,18 @@ private:
     void Save();
 
     QDir m_folder;
+    QString m_prefix; // of the names of the pictures
     QTemporaryDir m_work;
     DialogueGuide m_guide;
 };
 
-void Tour::Picture(QWidget& widget, const QString& name) {
+void Tour::Picture(QWidget& widget, const QString& name, std::span<const NumberedPart> parts) {
     widget.activateWindow();
     QTest::qWait(50);
-    const QString path = m_folder.filePath(name + QStringLiteral(".png"));
-    widget.grab().save(path);
+    const QString path = m_folder.filePath(m_prefix + name + QStringLiteral(".png"));
+    if (!PictureOf(widget, parts).save(path)) {
+        qFatal("no picture could be written to %s", qUtf8Printable(path));
+    }
     std::printf("  %s\n", qUtf8Printable(path));
 }
 
@@ -78,7 +116,7 @@ void Tour::OpenPracticeFile() {
     if (!inReport) {
         qWarning("the report did not come");
     }
-    Picture(Window(), QStringLiteral("open"));
+    Picture(Window(), QStringLiteral("open"), PartsOfWindow);
 }
 
 void Tour::ShowDistrict() {
@@ -90,7 +128,7 @@ void Tour::EditVariations() {
     ClickRow("lvAlpha", QStringLiteral("Coldharbour Fen"));
     Click("cbAdd");
     Type(QStringLiteral("!Cold harbour fen"));
-    Picture(Window(), QStringLiteral("refused"));
+    Picture(Window(), QStringLiteral("refused"), PartsOfEditPanel);
     Type(QStringLiteral("s"));
     Picture(Window(), QStringLiteral("adding"));
     Key("tbEdit", Qt::Key_Return);
@@ -109,7 +147,7 @@ void Tour::ApplyProposals() {
     m_guide.Next([=](QWidget& dialogue) { DialogueGuide::ChooseFile(dialogue, proposals.toStdString()); });
     Click("btnProcess");
     ClickRow("LvChanges", QStringLiteral("Coldharbor Fen"));
-    Picture(Window(), QStringLiteral("proposals"));
+    Picture(Window(), QStringLiteral("proposals"), PartsForProposals);
     Click("cbClearSel");
     m_guide.Next([](QWidget& dialogue) { DialogueGuide::Press(dialogue, "OK"); });
     m_guide.Next([this](QWidget& dialogue) {
@@ -190,10 +228,11 @@ int main(int argc, char* argv[]) {
         std::fputs("usage: quexal-tour FOLDER [dark]\n", stderr);
         return 2;
     }
+    QApplication::setCursorFlashTime(0); // so that a picture does not depend on the moment
     if (isDark) {
         QApplication::setPalette(DarkPalette());
     }
     // Made absolute before the editor makes its own folder the current one.
-    Tour tour(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());
+    Tour tour(QDir(QString::fromLocal8Bit(argv[1])).absolutePath(), isDark ? QStringLiteral("dark-") : QString());
     return tour.Play() ? 0 : 1;
 }

@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Takes the pictures of the documents anew, into docs/images: plays the tour, once more on a dark desktop at twice the
+# size, and keeps the pictures that a document shows. Needs the build folder of the preset "dev", and no display.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+# One screen on every machine, wide enough for the window at twice its size.
+printf '{"screens": [{"name": "picture", "width": 2880, "height": 1620, "logicalDpi": 96, "dpr": 1}]}\n' >"$work/screen.json"
+export QT_QPA_PLATFORM=offscreen:configfile=$work/screen.json LC_ALL=C.UTF-8
+unset DISPLAY WAYLAND_DISPLAY QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
+
+cmake --build --preset dev --target quexal-tour >"$work/log"
+build/dev/bin/quexal-tour "$work" >>"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
+QT_SCALE_FACTOR=2 build/dev/bin/quexal-tour "$work" dark >>"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
+
+rm -f docs/images/*.png
+grep -ohP 'images/\K[\w-]+\.png' README.md docs/*.md | sort -u | while read -r picture; do
+    cp "$work/$picture" docs/images/
+done
+echo "pictures: $(find docs/images -name '*.png' | wc -l) in docs/images"
