@@ -27,7 +27,7 @@ using At = NumberedPart::At;
 
 // What the user guide explains by number, in its order.
 const std::array PartsOfWindow{
-    NumberedPart{{QStringLiteral("cbOpen"), QStringLiteral("cbCompleteCheck")}, At::Top},
+    NumberedPart{{QStringLiteral("cbOpen"), QStringLiteral("cbCompleteCheck")}},
     NumberedPart{{QStringLiteral("cbUndo"), QStringLiteral("lbUndo")}, At::Left},
     NumberedPart{{QStringLiteral("lvAlpha")}},
     NumberedPart{{QStringLiteral("lvVariations")}},
