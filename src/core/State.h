@@ -99,9 +99,8 @@ extern std::int16_t iEditMode;
 // Set while the program itself fills the edit panel. Written by ui/windows/Form1View, read by Form1.
 extern bool bIgnoreEvents;
 
-// Variation being edited, 0 for none. Written by SelectVariations; cleared by DeleteVariations, by a new list
-// of variations and by the choice of a district, a comment type or a file. Read by edit/EditPanel and
-// commands/VariationCommands.
+// Variation being edited, 0 for none. Written by SelectVariations; cleared by DeleteVariations and by whatever
+// ends the choice (commands/). Read by edit/EditPanel, commands/Guidance and commands/VariationCommands.
 extern std::int32_t lEditIndex;
 
 // What the user did last. Written by SelectVariations, Delete and StartAdding; kept to tell this, nothing

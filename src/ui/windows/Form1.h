@@ -55,7 +55,7 @@ private:
     void ShowLists(const Commands::WindowView& view);
     void WrapComments(std::int32_t district);
     void ShowEnabled(const Commands::WindowView& view);
-    void ShowObstacles(const Commands::WindowView& view);
+    void ShowToolTips(const Commands::WindowView& view);
     void ShowTexts(const Commands::WindowView& view);
     void ShowCaptions(const Commands::WindowView& view);
     void ShowEditPanel(const Commands::EditView& edit);

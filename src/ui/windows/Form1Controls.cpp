@@ -155,8 +155,10 @@ void Form1Controls::CreateLabels() {
     lbSelectCount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
-void Form1Controls::Describe(QWidget& control, const Commands::Command& command, const QString& obstacle) const {
-    const QString hint = obstacle.isEmpty() ? HintOf(command) : HintOf(command) + QStringLiteral(" - ") + obstacle;
+void Form1Controls::Describe(QWidget& control, const Commands::Command& command, const QString& file,
+                             const QString& obstacle) const {
+    const QString hint = HintOf(command) + (file.isEmpty() ? QString() : QStringLiteral(": ") + file) +
+                         (obstacle.isEmpty() ? QString() : QStringLiteral(" - ") + obstacle);
     control.setToolTip(Text::ForToolTip(hint));
     if (qobject_cast<RowList*>(&control) == nullptr) { // an empty list has a description of its own
         control.setAccessibleDescription(hint);

@@ -31,8 +31,9 @@ public:
     [[nodiscard]] QWidget* Widget(Commands::Control control) const;
     [[nodiscard]] QPushButton* Button(Commands::Control control) const;
 
-    // What the control of a command does, by which key, and what stands in its way.
-    void Describe(QWidget& control, const Commands::Command& command, const QString& obstacle = {}) const;
+    // What the control of a command does, by which key, with which file, and what stands in its way.
+    void Describe(QWidget& control, const Commands::Command& command, const QString& file = {},
+                  const QString& obstacle = {}) const;
 
     // The list whose rows a button works on.
     [[nodiscard]] RowList* ListBeside(const QWidget& button) const;

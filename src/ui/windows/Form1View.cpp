@@ -49,7 +49,7 @@ void Form1::Show(const Commands::WindowView& view) {
         ShowOpenFile(view.openFile);
     }
     ShowEnabled(view);
-    ShowObstacles(view);
+    ShowToolTips(view);
     ShowFocus(view.focus);
     m_shown = view;
 }
@@ -87,13 +87,16 @@ void Form1::ShowEnabled(const Commands::WindowView& view) {
     }
 }
 
-// The tooltip of a control that is disabled ends with what would enable it.
-void Form1::ShowObstacles(const Commands::WindowView& view) {
+// The tooltip of "Save" names the open file, and that of a disabled control ends with what would enable it.
+void Form1::ShowToolTips(const Commands::WindowView& view) {
     for (const Commands::Command& command : Commands::AllCommands()) {
-        const std::string_view obstacle = view.ObstacleTo(command.control);
         QWidget* control = m_controls.Widget(command.control);
-        if (control != nullptr && obstacle != m_shown.ObstacleTo(command.control)) {
-            m_controls.Describe(*control, command, Text::ForBox(obstacle));
+        const std::string_view obstacle = view.ObstacleTo(command.control);
+        const bool namesFile = command.control == Control::cbSave;
+        const bool isOther = namesFile && view.openFile != m_shown.openFile;
+        if (control != nullptr && (isOther || obstacle != m_shown.ObstacleTo(command.control))) {
+            const QString file = namesFile ? Text::ShownPath(view.openFile) : QString();
+            m_controls.Describe(*control, command, file, Text::ForBox(obstacle));
         }
     }
 }
