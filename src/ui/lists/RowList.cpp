@@ -1,90 +1,34 @@
 #include "ui/lists/RowList.h"
 
 #include "ui/Text.h"
+#include "ui/lists/RowDrawing.h"
 #include "ui/lists/StateColours.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
-#include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <QToolTip>
 
 #include <algorithm>
 
 namespace Ui {
 
-namespace {
-
-// Room above and below the text of a row, together, in pixels.
-constexpr int RowPadding = 5;
-
-class RoomyDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, RowPadding);
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (option->features.testFlag(QStyleOptionViewItem::HasCheckIndicator)) {
-            option->palette.setColor(QPalette::Window, StateColours::ShadedToOutline);
-        }
-    }
-};
-
-} // namespace
-
-// Column headings, of which one can be underlined.
-class RowList::Header : public QHeaderView {
-public:
-    explicit Header(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
-        setSectionsMovable(true);
-        setStretchLastSection(true);
-        setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    }
-
-    // A column, or -1.
-    void Underline(int column) {
-        m_underlined = column;
-        viewport()->update();
-    }
-
-protected:
-    void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override {
-        painter->save(); // the style leaves a clip behind
-        QHeaderView::paintSection(painter, rect, logicalIndex);
-        painter->restore();
-        if (logicalIndex == m_underlined) {
-            constexpr int thickness = 2;
-            painter->fillRect(rect.adjusted(0, rect.height() - thickness, 0, 0), palette().highlight());
-        }
-    }
-
-private:
-    int m_underlined = -1;
-};
-
-RowList::RowList(QWidget* parent) : QTreeView(parent), m_header(new Header(this)) {
+RowList::RowList(QWidget* parent) : QTreeView(parent), m_header(new RowHeader(this)) {
     setHeader(m_header);
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
-    setAllColumnsShowFocus(true);
     setAlternatingRowColors(false);
     setSelectionBehavior(SelectRows);
     setEditTriggers(NoEditTriggers);
     setHorizontalScrollMode(ScrollPerPixel);
-    setItemDelegate(new RoomyDelegate(this));
+    setItemDelegate(new RowDelegate(this));
     // Tab leads on to the next control, arrow keys lead through the rows.
     setTabKeyNavigation(false);
 }
@@ -131,13 +75,13 @@ QRect RowList::visualRect(const QModelIndex& index) const {
 }
 
 void RowList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    // What the base class adds: it looks for both rows, to paint their frames and to tell a screen reader.
+    // What the class between adds: it looks for both rows, to tell a screen reader.
     if (QAccessible::isActive()) {
         QTreeView::currentChanged(current, previous);
-        return;
+    } else {
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): to leave out its search is the point
+        QAbstractItemView::currentChanged(current, previous);
     }
-    // NOLINTNEXTLINE(bugprone-parent-virtual-call): to leave out the search of the class between is the point
-    QAbstractItemView::currentChanged(current, previous);
     for (const QModelIndex& index : {previous, current}) {
         const QRect row = visualRect(index);
         viewport()->update(0, row.top(), viewport()->width(), row.height());
@@ -375,6 +319,32 @@ void RowList::paintEvent(QPaintEvent* event) {
         painter.setPen(StateColours::Hint(palette()));
         painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
                          Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_hint);
+    }
+}
+
+void RowList::ShowAsInHand(bool inHand) {
+    if (inHand != m_inHand) {
+        m_inHand = inHand;
+        viewport()->update();
+    }
+}
+
+// The style would fill the focus frame with the colour of a choice, whether there is one or not.
+void RowList::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const bool isChosen = selectionModel()->isSelected(index);
+    if (isChosen) {
+        const bool inHand = m_inHand && isEnabled();
+        QStyleOptionViewItem row(option);
+        row.palette = m_chosenLook.Colours(palette(), inHand);
+        painter->fillRect(row.rect, row.palette.highlight());
+        QTreeView::drawRow(painter, row, index);
+        ChosenLook::PaintMark(painter, row.rect, palette(), inHand);
+    } else {
+        QTreeView::drawRow(painter, option, index);
+    }
+    if (hasFocus() && index.row() == currentIndex().row()) {
+        painter->setPen(palette().color(QPalette::Highlight));
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/lists/RowDrawing.h"
+
 #include <QElapsedTimer>
 #include <QTreeView>
 
@@ -24,6 +26,9 @@ public:
     // Selects these rows, as the program's own doing: nothing is announced. A single row is scrolled to. Nothing
     // happens when they are selected already.
     void ShowSelection(const std::vector<int>& rows);
+
+    // Whether commands work on the chosen rows. Otherwise they only stay chosen, and look like it.
+    void ShowAsInHand(bool inHand);
 
     // What an empty list says, in grey: what to do next.
     void SetHint(const QString& hint);
@@ -59,6 +64,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -71,9 +77,8 @@ private:
     void UpdateFocusMarks();
     void Describe();
 
-    class Header;
-
-    Header* m_header;
+    RowHeader* m_header;
+    ChosenLook m_chosenLook;
     int m_column = 0; // at hand
     QString m_typed;  // of the row that is looked for, as long as the next letter comes in time
     QElapsedTimer m_lastTyped;
@@ -81,6 +86,7 @@ private:
     QString m_description;
     bool m_announced = false; // since the mouse was pressed
     bool m_quiet = false;
+    bool m_inHand = true;
 };
 
 } // namespace Ui

@@ -26,4 +26,7 @@ inline constexpr QColor ShadedToOutline(165, 165, 165);
 // The grey of what an empty list says: between the text and the background, but well legible.
 [[nodiscard]] QColor Hint(const QPalette& palette);
 
+// The ground of chosen rows: a tint of the highlight, or a grey while they only stay chosen.
+[[nodiscard]] QColor ChosenGround(const QPalette& palette, bool inHand);
+
 } // namespace StateColours

@@ -2,8 +2,9 @@
 
 #include "ui/lists/RowList.h"
 
+#include "ui/Rendered.h"
+
 #include <QApplication>
-#include <QHeaderView>
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QStandardItemModel>
@@ -203,21 +204,10 @@ TEST_F(ColumnKeys, CtrlMovesWithoutChoosingAndCtrlSpaceChooses) {
     EXPECT_EQ(m_list.SelectedRows(), std::vector<int>{3});
 }
 
-// How many pixels of a picture have a colour.
-int Count(const QImage& image, const QColor& colour) {
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            count += image.pixelColor(x, y) == colour ? 1 : 0;
-        }
-    }
-    return count;
-}
-
 TEST_F(ColumnKeys, TheFocusIsSeenAtTheFrameAndAtTheHeading) {
     const QColor highlight = m_list.palette().color(QPalette::Highlight);
     m_model.removeRows(0, Rows); // a row with the focus would be seen, too
-    const auto frameAndHeading = [&] { return Count(m_list.grab().toImage(), highlight); };
+    const auto frameAndHeading = [&] { return Rendered::Count(Rendered::Of(m_list), highlight); };
     const int border = 2 * (m_list.width() + m_list.height()) - 4;
     EXPECT_GE(frameAndHeading(), border + 2 * 90);
     m_list.clearFocus();

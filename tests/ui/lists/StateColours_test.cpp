@@ -1,11 +1,14 @@
 #include "ui/lists/StateColours.h"
 
+#include "ui/Colours.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
+#include <cstdlib>
 #include <vector>
 
+using Colours::Contrast;
 using CommonRoutines::VariationState;
 using StateColours::InList;
 using StateColours::OnLight;
@@ -24,20 +27,6 @@ std::vector<VariationState> ColouredStates() {
 }
 
 const std::vector<VariationState> Coloured = ColouredStates();
-
-// Contrast as the Web Content Accessibility Guidelines define it.
-double Linear(double channel) {
-    return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double Luminance(const QColor& colour) {
-    return 0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF()) + 0.0722 * Linear(colour.blueF());
-}
-
-double Contrast(const QColor& a, const QColor& b) {
-    const auto [darker, lighter] = std::minmax({Luminance(a), Luminance(b)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 QPalette PaletteOf(const QColor& base, const QColor& text) {
     QPalette palette;
