@@ -4,6 +4,7 @@
 #include "ui/machine/DateTimeText.h"
 #include "ui/machine/DurableFile.h"
 #include "ui/machine/Memory.h"
+#include "ui/widgets/ButtonMarks.h"
 #include "ui/windows/VarCheck.h"
 #include "ui/windows/frmCustomMessageBox.h"
 
@@ -115,6 +116,7 @@ BoxAnswer QtDesktop::ShowBox(const QString& title, std::string_view text, BoxIco
     if (buttons == BoxButtons::YesNoDefaultNo) {
         box.setDefaultButton(QMessageBox::No);
     }
+    MarkButtons(box);
     const int answer = box.exec();
     m_work.GoOn();
     switch (answer) {
@@ -154,6 +156,7 @@ std::optional<std::string> QtDesktop::InputBox(std::string_view prompt) {
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         label->setMinimumWidth(PromptWidth);
     }
+    MarkButtons(dialog);
     const int answer = dialog.exec();
     m_work.GoOn();
     return answer == QDialog::Accepted ? std::optional(Text::FromQt(dialog.textValue())) : std::nullopt;

@@ -7,6 +7,7 @@
 #include "ui/Text.h"
 #include "ui/lists/ReportModel.h"
 #include "ui/lists/RowList.h"
+#include "ui/widgets/ButtonMarks.h"
 #include "ui/windows/LongWork.h"
 
 #include <QDialogButtonBox>
@@ -77,6 +78,7 @@ void VarCheck::BuildButtons() {
     onClick(cbSave, &SaveReport);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout()->addWidget(buttons);
+    MarkButtons(*this);
 }
 
 const std::string& VarCheck::DataFile() {

@@ -2,6 +2,7 @@
 
 #include "core/Ansi.h"
 #include "ui/Text.h"
+#include "ui/widgets/ButtonMarks.h"
 #include "ui/widgets/PlainLabel.h"
 #include "ui/windows/MessageBoxLayout.h"
 
@@ -51,6 +52,7 @@ frmCustomMessageBox::frmCustomMessageBox(const std::string& prompt, QIcon icon, 
     const int iconBottom = m_icon.isNull() ? 0 : Margin + IconSize;
     const int buttonTop = std::max(Margin + labelHeight, iconBottom) + Margin;
     BuildButtons(layout, captions, buttonTop);
+    MarkButtons(*this);
     setFixedSize(layout.innerWidth, buttonTop + layout.buttonHeight + Margin);
 }
 
