@@ -1,5 +1,7 @@
 #include "ui/widgets/EqualGapLayout.h"
 
+#include <algorithm>
+
 namespace Ui {
 
 namespace {
@@ -8,7 +10,8 @@ constexpr int SmallestGap = 6;
 
 }
 
-EqualGapLayout::EqualGapLayout(QWidget* parent, int sideMargin) : QLayout(parent), m_sideMargin(sideMargin) {
+EqualGapLayout::EqualGapLayout(QWidget* parent, int sideMargin, int largestGap)
+    : QLayout(parent), m_sideMargin(sideMargin), m_largestGap(largestGap) {
     setContentsMargins(0, 0, 0, 0);
 }
 
@@ -59,10 +62,12 @@ QSize EqualGapLayout::minimumSize() const {
 
 void EqualGapLayout::setGeometry(const QRect& rectangle) {
     QLayout::setGeometry(rectangle);
-    const int gap = (rectangle.height() - ItemHeights()) / (count() + 1);
+    const int room = rectangle.height() - ItemHeights();
+    const int gap = std::min(room / (count() + 1), m_largestGap);
+    const int tooMuch = gap == m_largestGap ? room - gap * (count() + 1) : 0;
     int top = rectangle.top() + gap;
     for (QLayoutItem* item : m_items) {
-        const int height = item->sizeHint().height();
+        const int height = item->sizeHint().height() + (item == m_items.constLast() ? tooMuch : 0);
         item->setGeometry({rectangle.left() + m_sideMargin, top, rectangle.width() - 2 * m_sideMargin, height});
         top += height + gap;
     }

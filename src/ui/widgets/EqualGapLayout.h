@@ -7,10 +7,10 @@ namespace Ui {
 
 // Stacks its items from top to bottom with the same gap above, between and below them: the height
 // that they leave, divided by one more than their number. Each item has its own height and the whole
-// width between the side margins.
+// width between the side margins. Gaps do not grow without end: what is too much for them the last item gets.
 class EqualGapLayout : public QLayout {
 public:
-    explicit EqualGapLayout(QWidget* parent, int sideMargin);
+    EqualGapLayout(QWidget* parent, int sideMargin, int largestGap);
     ~EqualGapLayout() override;
 
     // Adds a row of controls beside each other as one item.
@@ -30,6 +30,7 @@ private:
 
     QList<QLayoutItem*> m_items;
     int m_sideMargin;
+    int m_largestGap;
 };
 
 } // namespace Ui

@@ -36,7 +36,7 @@ using Commands::Session;
 
 namespace {
 
-constexpr QSize DesignSize(1240, 680);
+constexpr QSize DesignSize(1360, 660);
 
 // A bare widget would be a nameless part of a window to a screen reader.
 QAccessibleInterface* AccessibleWindow(const QString& /*className*/, QObject* object) {
@@ -271,9 +271,12 @@ void Form1::FitWindowToScreen() {
     const QRect available = screen()->availableGeometry();
     const int caption = style()->pixelMetric(QStyle::PM_TitleBarHeight);
     const WindowFit::Screen fit{screen()->geometry().height(), available.height() - caption, caption};
-    if (const auto height = WindowFit::FittedHeight(this->height() + caption, fit)) {
-        resize(std::min(width(), available.width()), *height - caption);
-        move(x(), available.top());
+    const auto height = WindowFit::FittedHeight(this->height() + caption, fit);
+    const int width =
+        WindowFit::FittedWidth(this->width(), available.width() - (frameGeometry().width() - this->width()));
+    if (height || width < this->width()) {
+        move(width < this->width() ? available.left() : x(), height ? available.top() : y());
+        resize(width, height ? *height - caption : this->height());
     }
 }
 

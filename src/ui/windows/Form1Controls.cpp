@@ -1,10 +1,14 @@
 #include "ui/windows/Form1Controls.h"
 
 #include "ui/Text.h"
+#include "ui/lists/RowDrawing.h"
 #include "ui/lists/RowList.h"
 #include "ui/lists/StateColours.h"
+#include "ui/widgets/ButtonMarks.h"
 #include "ui/widgets/EditBox.h"
 #include "ui/widgets/PlainLabel.h"
+#include "ui/widgets/ProblemLabel.h"
+#include "ui/widgets/WindowInside.h"
 
 #include <QCheckBox>
 #include <QHeaderView>
@@ -52,7 +56,8 @@ void Outline(QWidget* box) {
 
 } // namespace
 
-Form1Controls::Form1Controls(QWidget* form) : m_form(form) {
+Form1Controls::Form1Controls(QWidget* form) : m_inside(new QWidget) {
+    new WindowInside(form, m_inside);
     CreateLists();
     CreateEditRow();
     for (const Commands::Command& command : Commands::AllCommands()) {
@@ -64,10 +69,11 @@ Form1Controls::Form1Controls(QWidget* form) : m_form(form) {
     CreateLabels();
     Arrange();
     SetTabOrder();
+    MarkButtons(*m_inside);
 }
 
 RowList* Form1Controls::List(const char* name, const QString& accessibleName) {
-    auto* list = new RowList(m_form);
+    auto* list = new RowList(m_inside);
     list->setObjectName(QString::fromLatin1(name));
     list->setAccessibleName(accessibleName);
     list->setMinimumSize(90, 60);
@@ -76,7 +82,7 @@ RowList* Form1Controls::List(const char* name, const QString& accessibleName) {
 }
 
 QCheckBox* Form1Controls::OptionBox(const char* name, const QString& caption, const QString& toolTip) {
-    auto* box = new QCheckBox(caption, m_form);
+    auto* box = new QCheckBox(caption, m_inside);
     box->setObjectName(QString::fromLatin1(name));
     box->setAccessibleName(caption);
     box->setToolTip(toolTip);
@@ -85,11 +91,15 @@ QCheckBox* Form1Controls::OptionBox(const char* name, const QString& caption, co
 }
 
 PlainLabel* Form1Controls::Status(const char* name, const QString& purpose, int lines) {
-    auto* label = new PlainLabel(m_form);
+    auto* label = new PlainLabel(m_inside);
+    SetUp(label, name, purpose, lines);
+    return label;
+}
+
+void Form1Controls::SetUp(PlainLabel* label, const char* name, const QString& purpose, int lines) {
     label->setObjectName(QString::fromLatin1(name));
     label->SetPurpose(purpose);
     label->SetLineCount(lines);
-    return label;
 }
 
 void Form1Controls::CreateLists() {
@@ -121,17 +131,18 @@ void Form1Controls::CreateEditRow() {
     cbVNF =
         OptionBox("cbVNF", QStringLiteral("Only if Volume matches"),
                   QStringLiteral("Ticked while the text ends with \"%\" and a volume. To change it, change the text."));
-    tbEdit = new EditBox(m_form);
+    tbEdit = new EditBox(m_inside);
     const Commands::Command& edit = Commands::CommandOf(Commands::Control::tbEdit);
     tbEdit->setObjectName(Text::ToQt(edit.name));
     tbEdit->setAccessibleName(Text::ToQt(edit.spokenName));
     Describe(*tbEdit, edit);
     Outline(tbEdit);
     lbStatus = Status("lbStatus", QStringLiteral("Status of the text"), 3);
+    lbStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
 }
 
 void Form1Controls::CreateButton(const Commands::Command& command) {
-    auto* button = new QPushButton(Text::ToQt(command.caption), m_form);
+    auto* button = new QPushButton(Text::ToQt(command.caption), m_inside);
     button->setObjectName(Text::ToQt(command.name));
     // Two buttons have the same caption; a screen reader needs to tell them apart.
     button->setAccessibleName(Text::ToQt(command.spokenName.empty() ? command.caption : command.spokenName));
@@ -143,13 +154,18 @@ void Form1Controls::CreateLabels() {
     lbUndo = Status("lbUndo", QStringLiteral("Next change to take back"), 1);
     lbUndo->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lbApplyTo = Status("lbApplyTo", QStringLiteral("Current district"), 1);
+    lbDoing = Status("lbDoing", QStringLiteral("What is being edited"), 1);
     QFont bold = lbApplyTo->font();
     bold.setBold(true);
-    lbApplyTo->setFont(bold);
-    lbWhyError = Status("lbWhyError", QStringLiteral("Problems"), 4);
-    lbWhyError->setContentsMargins(Space, Space / 2, Space, Space / 2);
-    lbWhyError->SetTextColour(StateColours::OnLight(CommonRoutines::VariationState::Plain));
-    lbWhyError->SetBackground(StateColours::LightGrey);
+    for (PlainLabel* heading : {lbApplyTo, lbDoing}) {
+        heading->setFont(bold);
+        heading->setContentsMargins(TextInset(), 0, 0, 0);
+    }
+    lbWhyError = new ProblemLabel(m_inside);
+    SetUp(lbWhyError, "lbWhyError", QStringLiteral("Problems"), 4);
+    lbWhyError->setContentsMargins(Space / 2, Space / 2, Space / 2, Space / 2);
+    lbWhyError->ShowProblem(QString(), StateColours::OnLight(CommonRoutines::VariationState::Plain),
+                            StateColours::LightGrey);
     lbWhyError->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     lbSelectCount = Status("lbSelectCount", QStringLiteral("Ticked proposals"), 1);
     lbSelectCount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -163,6 +179,10 @@ void Form1Controls::Describe(QWidget& control, const Commands::Command& command,
     if (qobject_cast<RowList*>(&control) == nullptr) { // an empty list has a description of its own
         control.setAccessibleDescription(hint);
     }
+}
+
+int Form1Controls::TextInset() const {
+    return lvAlpha->frameWidth() + RowDelegate::TextInset(*lvAlpha);
 }
 
 QPushButton* Form1Controls::Button(Commands::Control control) const {

@@ -2,9 +2,10 @@
 
 #include "commands/CommandTable.h"
 
+#include <QList>
+
 #include <array>
 
-class QBoxLayout;
 class QCheckBox;
 class QFrame;
 class QGridLayout;
@@ -17,6 +18,7 @@ namespace Ui {
 
 class EditBox;
 class PlainLabel;
+class ProblemLabel;
 class RowList;
 
 // The controls of the main window and their arrangement; the buttons are those of the table of commands.
@@ -50,19 +52,22 @@ public:
     QCheckBox* cbVNF = nullptr;
     EditBox* tbEdit = nullptr;
     PlainLabel* lbStatus = nullptr;
+    PlainLabel* lbDoing = nullptr; // what is being edited
 
     PlainLabel* lbUndo = nullptr;
     PlainLabel* lbSelectCount = nullptr;
-    PlainLabel* lbWhyError = nullptr;
+    ProblemLabel* lbWhyError = nullptr;
     PlainLabel* lbApplyTo = nullptr;
     QLabel* Label1 = nullptr; // the heading of the districts
 
 private:
     static constexpr int Space = 8; // between controls, in pixels
+    static constexpr int Gap = 12;  // between lists
 
     RowList* List(const char* name, const QString& accessibleName);
     QCheckBox* OptionBox(const char* name, const QString& caption, const QString& toolTip);
     PlainLabel* Status(const char* name, const QString& purpose, int lines);
+    void SetUp(PlainLabel* label, const char* name, const QString& purpose, int lines);
     QFrame* Frame(const char* name, const QString& accessibleName);
     QLabel* Heading(const char* name, const QString& caption, QWidget* of);
 
@@ -78,11 +83,15 @@ private:
     QWidget* FileRow();
     QWidget* EditRow();
     QWidget* ChangeHeading();
-    QBoxLayout* ListBand();
-    QBoxLayout* CommentBand();
+    QWidget* Column(QWidget* heading, QWidget* body, QWidget* buttons);
+    QWidget* ListBand();
+    QWidget* CommentBand();
+    // Where texts of rows begin, from the left end of their list.
+    [[nodiscard]] int TextInset() const;
     void SetTabOrder();
 
-    QWidget* m_form;
+    QWidget* m_inside;                                            // of the form
+    QList<QWidget*> m_handles;                                    // between lists
     std::array<QPushButton*, Commands::ControlCount> m_buttons{}; // by Control
 };
 

@@ -5,6 +5,9 @@
 #include "ui/widgets/EditBox.h"
 #include "ui/widgets/EqualGapLayout.h"
 #include "ui/widgets/PlainLabel.h"
+#include "ui/widgets/ProblemLabel.h"
+#include "ui/widgets/Splitter.h"
+#include "ui/widgets/WindowInside.h"
 #include "ui/windows/Form1Controls.h"
 
 #include <QCheckBox>
@@ -27,30 +30,35 @@ Layout* Inner(int spacing, QWidget* of = nullptr) {
 
 } // namespace
 
+// Up to its usual height the room goes to the lists, from then on also to the comments.
 void Form1Controls::Arrange() {
-    auto* layout = new QVBoxLayout(m_form);
+    const int line = m_inside->fontMetrics().lineSpacing();
+    auto* bands = new Splitter(Qt::Vertical, Gap, m_inside);
+    bands->AddPart(ListBand(), {.enough = 36 * line, .turn = 1, .weight = 3});
+    bands->AddPart(CommentBand(), {.enough = 7 * line, .turn = 0, .weight = 1});
+    auto* layout = new QVBoxLayout(m_inside);
     layout->setSpacing(Space);
     layout->setContentsMargins(Space, Space, Space, Space);
     layout->addWidget(FileRow());
-    layout->addLayout(ListBand(), 1);
-    layout->addLayout(CommentBand());
+    layout->addWidget(bands, 1);
 }
 
 QFrame* Form1Controls::Frame(const char* name, const QString& accessibleName) {
-    auto* frame = new QFrame(m_form);
+    auto* frame = new QFrame(m_inside);
     frame->setObjectName(QString::fromLatin1(name));
     frame->setAccessibleName(accessibleName);
     return frame;
 }
 
 QLabel* Form1Controls::Heading(const char* name, const QString& caption, QWidget* of) {
-    auto* label = new QLabel(caption, m_form);
+    auto* label = new QLabel(caption, m_inside);
     label->setObjectName(QString::fromLatin1(name));
     label->setAccessibleName(caption);
     label->setBuddy(of);
     QFont font = label->font();
     font.setBold(true);
     label->setFont(font);
+    label->setIndent(TextInset());
     return label;
 }
 
@@ -76,7 +84,7 @@ QWidget* Form1Controls::FileRow() {
     undoLayout->addWidget(Button(Commands::Control::cbUndo));
     undoLayout->addWidget(lbUndo, 1);
 
-    auto* row = new QWidget(m_form);
+    auto* row = new QWidget(m_inside);
     auto* layout = Inner<QHBoxLayout>(Space, row);
     layout->setSpacing(3 * Space);
     layout->addWidget(files);
@@ -89,7 +97,7 @@ QWidget* Form1Controls::EditRow() {
     frame->setFrameShape(QFrame::StyledPanel);
     // The gaps are those of the whole frame, its border included.
     frame->setAttribute(Qt::WA_LayoutOnEntireRect);
-    auto* layout = new EqualGapLayout(frame, Space);
+    auto* layout = new EqualGapLayout(frame, Space, 2 * Space);
     for (QWidget* control : std::initializer_list<QWidget*>{cbVariation, cbSpelling, cbValidinyears, cbVNF, tbEdit}) {
         layout->addWidget(control);
     }
@@ -103,68 +111,58 @@ QWidget* Form1Controls::EditRow() {
 QWidget* Form1Controls::ChangeHeading() {
     QFrame* count = Frame("Frame2", QStringLiteral("Ticked proposals"));
     Inner<QHBoxLayout>(Space, count)->addWidget(lbSelectCount);
-    auto* heading = new QWidget(m_form);
+    auto* heading = new QWidget(m_inside);
     auto* layout = Inner<QHBoxLayout>(Space, heading);
     layout->addWidget(Heading("Label3", QStringLiteral("Change File"), LvChanges));
     layout->addWidget(count, 1);
     return heading;
 }
 
-// The lists side by side, each under its heading and above its commands, with the edit row between
-// the variations and the proposals.
-QBoxLayout* Form1Controls::ListBand() {
-    const auto column = [](QWidget* heading, QWidget* list, QWidget* buttons) {
-        auto* layout = Inner<QVBoxLayout>(Space);
-        layout->setSpacing(Space / 2);
-        layout->addWidget(heading);
-        layout->addWidget(list, 1);
-        if (buttons != nullptr) {
-            layout->addSpacing(Space / 2);
-            layout->addWidget(buttons);
-        }
-        return layout;
-    };
-    QWidget* edit = EditRow();
-    auto* editColumn = Inner<QVBoxLayout>(Space);
-    editColumn->setSpacing(Space / 2);
-    // As high as the headings beside it, so that the panel begins where the lists begin.
-    auto* level = new QLabel(m_form);
-    level->setFont(lbApplyTo->font());
-    editColumn->addWidget(level);
-    editColumn->addWidget(edit, 1);
+QWidget* Form1Controls::Column(QWidget* heading, QWidget* body, QWidget* buttons) {
+    auto* column = new QWidget(m_inside);
+    auto* layout = Inner<QVBoxLayout>(Space / 2, column);
+    // Of the same height in all columns, so that what is below them is level.
+    heading->setFixedHeight(std::max(heading->sizeHint().height(), lbDoing->sizeHint().height()));
+    layout->addWidget(heading);
+    layout->addWidget(body, 1);
+    if (buttons != nullptr) {
+        layout->addSpacing(Space / 2);
+        layout->addWidget(buttons);
+    }
+    return column;
+}
 
-    auto* band = Inner<QHBoxLayout>(Space);
-    band->setSpacing(Space + Space / 2);
+// The lists side by side, each under its heading and above its commands, with the edit row between
+// the variations and the proposals. A wide window has room for all columns of the districts first, then for
+// the text that is edited.
+QWidget* Form1Controls::ListBand() {
+    const int letter = m_inside->fontMetrics().averageCharWidth();
+    auto* band = new Splitter(Qt::Horizontal, Gap, m_inside);
     Label1 = Heading("Label1", QStringLiteral("Districts"), lvAlpha);
-    band->addLayout(column(Label1, lvAlpha, nullptr), 8);
-    band->addLayout(
-        column(Heading("Label2", QStringLiteral("Variations"), lvVariations), lvVariations,
-               ButtonFrame("Frame5", QStringLiteral("Commands for variations"), Commands::Frame::Variations)),
-        5);
-    band->addLayout(editColumn, 0);
-    band->addLayout(
-        column(ChangeHeading(), LvChanges,
+    band->AddPart(Column(Label1, lvAlpha, nullptr), {.enough = 105 * letter, .turn = 0, .weight = 1});
+    band->AddPart(Column(Heading("Label2", QStringLiteral("Variations"), lvVariations), lvVariations,
+                         ButtonFrame("Frame5", QStringLiteral("Commands for variations"), Commands::Frame::Variations)),
+                  {.enough = 40 * letter, .turn = 3, .weight = 2});
+    band->AddPart(Column(lbDoing, EditRow(), nullptr), {.enough = 52 * letter, .turn = 1, .weight = 3});
+    band->AddPart(
+        Column(ChangeHeading(), LvChanges,
                ButtonFrame("Frame6", QStringLiteral("Commands for the change file"), Commands::Frame::Proposals)),
-        5);
+        {.enough = 40 * letter, .turn = 2, .weight = 2});
+    m_handles += band->Handles();
     return band;
 }
 
-// The comments stay at the bottom, at a height of their own.
-QBoxLayout* Form1Controls::CommentBand() {
-    const int height = 7 * m_form->fontMetrics().lineSpacing();
-    for (QWidget* control : std::initializer_list<QWidget*>{lbComments, lvComments}) {
-        control->setFixedHeight(height);
-    }
-    auto* problems = Inner<QVBoxLayout>(Space);
-    problems->setSpacing(Space / 2);
-    problems->addWidget(lbApplyTo);
-    problems->addWidget(lbWhyError, 1);
+QWidget* Form1Controls::CommentBand() {
+    auto* problems = new QWidget(m_inside);
+    auto* layout = Inner<QVBoxLayout>(Space / 2, problems);
+    layout->addWidget(lbApplyTo);
+    layout->addWidget(lbWhyError, 1);
 
-    auto* band = Inner<QHBoxLayout>(Space);
-    band->setSpacing(Space + Space / 2);
-    band->addWidget(lbComments, 3);
-    band->addWidget(lvComments, 9);
-    band->addLayout(problems, 7);
+    auto* band = new Splitter(Qt::Horizontal, Gap, m_inside);
+    band->AddPart(lbComments, {.weight = 3});
+    band->AddPart(lvComments, {.weight = 9});
+    band->AddPart(problems, {.weight = 7});
+    m_handles += band->Handles();
     return band;
 }
 
@@ -190,7 +188,10 @@ void Form1Controls::SetTabOrder() {
         }
         next({control});
     }
-    next({lvComments});
+    next({lvComments, lbWhyError->TextBox()});
+    for (QWidget* handle : m_handles) {
+        next({handle});
+    }
 }
 
 } // namespace Ui

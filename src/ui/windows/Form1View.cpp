@@ -11,6 +11,7 @@
 #include "ui/lists/VariationModel.h"
 #include "ui/widgets/EditBox.h"
 #include "ui/widgets/PlainLabel.h"
+#include "ui/widgets/ProblemLabel.h"
 #include "ui/windows/Form1.h"
 #include "ui/windows/WindowFit.h"
 
@@ -115,9 +116,8 @@ void Form1::ShowTexts(const Commands::WindowView& view) {
         m_controls.lbSelectCount->ShowText(Text::ToQt(view.selectCount));
     }
     if (view.whyError != m_shown.whyError) {
-        m_controls.lbWhyError->SetTextColour(StateColours::OnLight(view.whyError.ink));
-        m_controls.lbWhyError->SetBackground(view.whyError.warns ? StateColours::BlueGreen : StateColours::LightGrey);
-        m_controls.lbWhyError->ShowText(Text::ForBox(view.whyError.text));
+        m_controls.lbWhyError->ShowProblem(Text::ForBox(view.whyError.text), StateColours::OnLight(view.whyError.ink),
+                                           view.whyError.warns ? StateColours::BlueGreen : StateColours::LightGrey);
     }
 }
 

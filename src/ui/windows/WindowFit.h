@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 
 // Fitting the window to a small screen. Lengths are pixels; heights of windows include the caption.
@@ -10,6 +11,11 @@ struct Screen {
     int usableHeight = 0;  // of the inside of a full-screen window
     int captionHeight = 0; // of a window's caption
 };
+
+// The width that a window is given.
+[[nodiscard]] constexpr int FittedWidth(int windowWidth, int usableWidth) {
+    return std::min(windowWidth, usableWidth);
+}
 
 // The height that a window is given; nothing when it fits the screen as it is.
 [[nodiscard]] constexpr std::optional<int> FittedHeight(int windowHeight, const Screen& screen) {

@@ -9,11 +9,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace Ui;
 
 namespace {
 
 const QString LongText = QStringLiteral("some words ").repeated(100);
+constexpr int AnyGap = 1000;
 const QString LongWord = QString(300, QLatin1Char('W'));
 
 QImage Picture(const QString& text, const QSize& size) {
@@ -92,7 +95,7 @@ TEST(PlainLabelTest, ItIsDrawnInTheColoursGiven) {
 
 TEST(EqualGapLayoutTest, TheGapIsWhatTheItemsLeaveDividedByOneMore) {
     QWidget frame;
-    auto* layout = new EqualGapLayout(&frame, 10);
+    auto* layout = new EqualGapLayout(&frame, 10, AnyGap);
     QList<QWidget*> items;
     for (const int height : {20, 30, 17}) {
         items.append(new QWidget(&frame));
@@ -109,9 +112,29 @@ TEST(EqualGapLayoutTest, TheGapIsWhatTheItemsLeaveDividedByOneMore) {
     }
 }
 
+TEST(EqualGapLayoutTest, WhatIsTooMuchForTheGapsTheLastItemGets) {
+    constexpr int largest = 12;
+    QWidget frame;
+    auto* layout = new EqualGapLayout(&frame, 0, largest);
+    auto* upper = new QWidget(&frame);
+    auto* lower = new QWidget(&frame);
+    upper->setFixedHeight(20);
+    lower->setMinimumHeight(30);
+    layout->addWidget(upper);
+    layout->addWidget(lower);
+    for (int height = layout->minimumSize().height(); height < 400; ++height) {
+        layout->setGeometry({0, 0, 120, height});
+        const int gap = (height - upper->height() - lower->height()) / 3;
+        EXPECT_LE(gap, largest);
+        EXPECT_EQ(upper->y(), gap);
+        EXPECT_EQ(lower->y(), 2 * gap + 20);
+        EXPECT_EQ(lower->height(), std::max(30, height - 3 * largest - 20)) << height;
+    }
+}
+
 TEST(EqualGapLayoutTest, AtItsSmallestNothingOverlaps) {
     QWidget frame;
-    auto* layout = new EqualGapLayout(&frame, 10);
+    auto* layout = new EqualGapLayout(&frame, 10, AnyGap);
     auto* item = new QWidget(&frame);
     item->setFixedSize(50, 20);
     layout->addWidget(item);
@@ -122,7 +145,7 @@ TEST(EqualGapLayoutTest, AtItsSmallestNothingOverlaps) {
 
 TEST(EqualGapLayoutTest, ARowCountsAsOneItem) {
     QWidget frame;
-    auto* layout = new EqualGapLayout(&frame, 0);
+    auto* layout = new EqualGapLayout(&frame, 0, AnyGap);
     auto* row = new QHBoxLayout();
     auto* left = new QWidget(&frame);
     auto* right = new QWidget(&frame);

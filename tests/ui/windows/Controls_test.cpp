@@ -59,6 +59,7 @@ TEST_F(FormTest, EveryControlHasItsCaptionAndANameForScreenReaders) {
         {"cbOk", "Ok"},
         {"cbCancel", "Cancel"},
         {"lbStatus", ""},
+        {"lbDoing", ""},
         {"cbAdd", "Add"},
         {"cbDelete", "Delete"},
         {"cbEditSel", "Edit"},

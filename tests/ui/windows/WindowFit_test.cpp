@@ -21,6 +21,12 @@ TEST(WindowFitTest, ATallerWindowGetsTheUsableHeightAndItsCaption) {
     EXPECT_EQ(FittedHeight(5000, Small), 725);
 }
 
+TEST(WindowFitTest, AWindowIsNeverWiderThanTheScreen) {
+    EXPECT_EQ(WindowFit::FittedWidth(1000, 1024), 1000);
+    EXPECT_EQ(WindowFit::FittedWidth(1024, 1024), 1024);
+    EXPECT_EQ(WindowFit::FittedWidth(1360, 1024), 1024);
+}
+
 TEST(WindowFitTest, TwipsAreRoundedToPixels) {
     EXPECT_EQ(TwipsToPixels(400, 96), 27);
     EXPECT_EQ(TwipsToPixels(1440, 96), 96);
