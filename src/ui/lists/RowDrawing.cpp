@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace Ui {
 
 namespace {
@@ -14,7 +16,7 @@ namespace {
 constexpr int RowPadding = 5;
 constexpr int LeftPadding = 4;
 
-constexpr int BarWidth = 3;
+constexpr int BarWidth = 4;
 
 } // namespace
 
@@ -63,6 +65,15 @@ void RowHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int logicalI
     option->text.clear();
 }
 
+// The style ends the line below the headings with the last of them.
+void RowHeader::paintEvent(QPaintEvent* event) {
+    QHeaderView::paintEvent(event);
+    constexpr int shade = 140; // per cent, as the style's own
+    const int end = length() - offset();
+    QPainter painter(viewport());
+    painter.fillRect(end, height() - 1, std::max(0, width() - end), 1, palette().color(QPalette::Window).darker(shade));
+}
+
 void RowHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
     painter->save(); // the style leaves a clip behind
     QHeaderView::paintSection(painter, rect, logicalIndex);
@@ -90,11 +101,12 @@ const QPalette& ChosenLook::Colours(const QPalette& ofList, bool inHand) const {
 }
 
 void ChosenLook::PaintMark(QPainter* painter, const QRect& row, const QPalette& ofList, bool inHand) {
+    const QRect bar(row.topLeft(), QSize(BarWidth, row.height()));
     if (inHand) {
-        painter->fillRect(QRect(row.topLeft(), QSize(BarWidth, row.height())), ofList.highlight());
+        painter->fillRect(bar, ofList.highlight());
     } else {
         painter->setPen(StateColours::Hint(ofList));
-        painter->drawRect(row.adjusted(0, 0, -1, -1));
+        painter->drawRect(bar.adjusted(0, 0, -1, -1));
     }
 }
 

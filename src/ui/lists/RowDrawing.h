@@ -32,6 +32,7 @@ public:
 protected:
     [[nodiscard]] QSize sectionSizeFromContents(int logicalIndex) const override;
     void initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const override;
+    void paintEvent(QPaintEvent* event) override;
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
 
 private:
@@ -39,7 +40,7 @@ private:
 };
 
 // The look of chosen rows. Rows in hand are tinted and have a bar before them; rows that only stay chosen are
-// grey and outlined.
+// grey, and their bar is hollow.
 class ChosenLook {
 public:
     // The palette for a chosen row, whose highlight is the ground. It is made anew only for other colours.

@@ -172,6 +172,8 @@ void Form1::ConnectProposals() {
 }
 
 void Form1::LoadForm() {
+    StartColumnWidths();
+    SetColumnWidths();
     SizeWideColumns();
     SizeCommentColumn();
     Run(Commands::Start);

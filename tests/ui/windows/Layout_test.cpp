@@ -250,6 +250,12 @@ TEST_F(LayoutTest, AllColumnsOfTheDistrictsAreSeenInTheFirstSize) {
     }
 }
 
+TEST_F(LayoutTest, WithoutAFileTheHeadingsOfTheDistrictsAreAllSeen) {
+    const auto& list = Find<RowList>("lvAlpha");
+    EXPECT_LE(list.header()->length(), list.viewport()->width());
+    EXPECT_GE(list.columnWidth(5), list.fontMetrics().horizontalAdvance(QStringLiteral("AbolishedW")));
+}
+
 TEST_F(LayoutTest, ListsAndTheEditRowBeginAndAreApartAlike) {
     for (const char* name : {"lvVariations", "Frame1", "LvChanges"}) {
         EXPECT_EQ(Place(name).top(), Place("lvAlpha").top()) << name;
