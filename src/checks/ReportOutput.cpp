@@ -1,14 +1,13 @@
 #include "checks/ReportOutput.h"
 
-#include "core/Ansi.h"
 #include "core/Desktop.h"
 #include "core/Paths.h"
 
 namespace CommonRoutines {
 
-std::vector<std::string> ReportLines(const Report& report, std::string_view dataFile, Desktop& desktop) {
-    std::vector<std::string> lines{
-        "Duplicate Check on File " + Ansi::FromUtf8(dataFile),
+std::vector<Wording> ReportLines(const Report& report, std::string_view dataFile, Desktop& desktop) {
+    std::vector<Wording> lines{
+        "Duplicate Check on File " + Wording::OfPath(std::string(dataFile)),
         "Check performed on " + desktop.Today() + " at " + desktop.ShortTime(),
         "",
     };
@@ -43,8 +42,8 @@ void SaveReport(const Report& report, const std::string& dataFile, Desktop& desk
     }
     desktop.ShowBusy(true);
     std::string content;
-    for (const std::string& line : ReportLines(report, dataFile, desktop)) {
-        content += line + "\r\n";
+    for (const Wording& line : ReportLines(report, dataFile, desktop)) {
+        content += line.InCodePage() + "\r\n";
     }
     desktop.ReplaceFile(*path, content);
     desktop.ShowBusy(false);

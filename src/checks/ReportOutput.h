@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Report.h"
+#include "core/Wording.h"
 
 #include <string>
 #include <string_view>
@@ -11,8 +12,8 @@ namespace CommonRoutines {
 class Desktop;
 
 // The report as it is printed and saved: three heading lines with the data file's path and the
-// present time, then the items.
-[[nodiscard]] std::vector<std::string> ReportLines(const Report& report, std::string_view dataFile, Desktop& desktop);
+// present time, then the items. A file has the path as near as Windows-1252 comes to it.
+[[nodiscard]] std::vector<Wording> ReportLines(const Report& report, std::string_view dataFile, Desktop& desktop);
 
 // The name proposed for the saved report of a data file.
 [[nodiscard]] std::string ReportFileName(std::string_view dataFile);

@@ -1,6 +1,5 @@
 #include "checks/SaveVariations.h"
 
-#include "core/Ansi.h"
 #include "core/Desktop.h"
 
 namespace CommonRoutines {
@@ -17,7 +16,7 @@ void SaveSelectedVariations(std::span<const std::string> variations, Desktop& de
     for (const std::string& variation : variations) {
         content += variation + "\r\n";
     }
-    const std::string name = Ansi::FromUtf8(*path);
+    const Wording name = Wording::OfPath(*path);
     if (desktop.ReplaceFile(*path, content)) {
         desktop.MsgBox(std::to_string(variations.size()) + " Variations Saved to " + name, BoxIcon::Information);
     } else {

@@ -15,7 +15,7 @@ public:
     PresentingDesktop(CommonRoutines::Desktop& machine, std::function<void()> present)
         : m_machine(machine), m_present(std::move(present)) {}
 
-    CommonRoutines::BoxAnswer MsgBox(std::string_view text, CommonRoutines::BoxIcon icon,
+    CommonRoutines::BoxAnswer MsgBox(const CommonRoutines::Wording& text, CommonRoutines::BoxIcon icon,
                                      CommonRoutines::BoxButtons buttons) override {
         return Presented().MsgBox(text, icon, buttons);
     }
@@ -48,7 +48,7 @@ public:
     void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override {
         m_machine.SaveSetting(section, key, value);
     }
-    bool Print(std::span<const std::string> lines) override { return m_machine.Print(lines); }
+    bool Print(std::span<const CommonRoutines::Wording> lines) override { return m_machine.Print(lines); }
     std::string Today() override { return m_machine.Today(); }
     std::string ShortTime() override { return m_machine.ShortTime(); }
     void Beep() override { m_machine.Beep(); }

@@ -8,7 +8,6 @@
 #include "commands/Session.h"
 #include "commands/VariationCommands.h"
 #include "commands/WindowMode.h"
-#include "core/Ansi.h"
 #include "core/State.h"
 #include "edit/UndoJournal.h"
 
@@ -48,7 +47,7 @@ std::optional<ProposalList> ReadChangeFile(Desktop& desktop, const std::string& 
     auto list = content ? std::optional(ReadProposals(*content)) : std::nullopt;
     desktop.ShowBusy(false);
     if (!list) {
-        desktop.MsgBox("The file cannot be read:\r\n" + Ansi::FromUtf8(path), BoxIcon::Exclamation, BoxButtons::Ok);
+        desktop.MsgBox("The file cannot be read:\r\n" + Wording::OfPath(path), BoxIcon::Exclamation, BoxButtons::Ok);
     }
     return list;
 }

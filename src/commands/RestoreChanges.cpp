@@ -95,14 +95,14 @@ std::string ChangesOf(Desktop& desktop, const LeftOver& leftOver) {
 }
 
 void TellSetAside(Desktop& desktop, const LeftOver& leftOver, const std::string& what) {
-    const std::string place = SetAside(desktop.State(), leftOver);
+    const Wording place = Wording::OfPath(SetAside(desktop.State(), leftOver));
     desktop.MsgBox(what + "  None of them has been made.  They are kept in\r\n" + place, BoxIcon::Exclamation);
 }
 
 bool IsWanted(Desktop& desktop, const LeftOver& leftOver) {
     const std::string& path = leftOver.file->file.path;
     const bool isSamePath = path == Unsaved.File().path;
-    const std::string whose = isSamePath ? "to this file." : "to a file that was the same:\r\n" + Ansi::FromUtf8(path);
+    const Wording whose = isSamePath ? "to this file." : "to a file that was the same:\r\n" + Wording::OfPath(path);
     return desktop.MsgBox("There are " + ChangesOf(desktop, leftOver) + " " + whose + "\r\nDo you want them back?",
                           BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
 }

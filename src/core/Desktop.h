@@ -3,10 +3,11 @@
 // The port through which the program speaks to the person and the machine. Everything that the
 // routines ask of a desktop goes through this class, so that they run, and are tested, without one.
 // Texts are Windows-1252 with CR LF line breaks and are shown as plain text; file names are in the
-// machine's own encoding.
+// machine's own encoding. Where a text may hold a file name it is a Wording, and the name is shown as it is.
 
 #include "core/Report.h"
 #include "core/StateFolder.h"
+#include "core/Wording.h"
 
 #include <cstdint>
 #include <optional>
@@ -47,7 +48,7 @@ public:
     virtual ~Desktop() = default;
 
     // Modal questions and messages. The standard box carries the program's title.
-    virtual BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons = BoxButtons::Ok) = 0;
+    virtual BoxAnswer MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons = BoxButtons::Ok) = 0;
     // The caption of the button pressed; empty when the box was left without a choice.
     virtual std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
                                  std::span<const std::string> ButtonCaptions) = 0;
@@ -82,7 +83,7 @@ public:
     virtual void SaveSetting(std::string_view section, std::string_view key, const std::string& value) = 0;
 
     // Prints on the default printer. False when there is no printer or it did not take the job.
-    virtual bool Print(std::span<const std::string> lines) = 0;
+    virtual bool Print(std::span<const Wording> lines) = 0;
 
     virtual std::string Today() = 0;     // as "05 Mar 2026"
     virtual std::string ShortTime() = 0; // hours and minutes, as the user's country writes them

@@ -42,7 +42,7 @@ public:
     virtual LockResult Lock(const std::string& name) = 0;
     virtual void Unlock(const std::string& name) = 0;
 
-    // For messages: where a file is, and when it was last written, as Windows-1252.
+    // For messages: the path of a file, and when it was last written, as Windows-1252.
     virtual std::string PathOf(const std::string& name) = 0;
     virtual std::string TimeOf(const std::string& name) = 0;
 };

@@ -57,7 +57,7 @@ private:
     void ShowReport();
 
     std::string_view& Field(std::int32_t k) { return m_fields[static_cast<std::size_t>(k)]; }
-    void Complain(std::string_view text) { m_desktop.MsgBox(text, BoxIcon::Exclamation); }
+    void Complain(const Wording& text) { m_desktop.MsgBox(text, BoxIcon::Exclamation); }
 
     Desktop& m_desktop;
     // The fields of the line being read, as parts of the file's content; once a repair has changed one
@@ -318,7 +318,7 @@ void ReadDistrictFile(Desktop& desktop) {
     if (!problem.empty()) {
         TheOpenFile.Close(desktop);
         desktop.ShowBusy(false);
-        desktop.MsgBox(std::string(problem) + Ansi::FromUtf8(sDataFileName), BoxIcon::Exclamation);
+        desktop.MsgBox(problem + Wording::OfPath(sDataFileName), BoxIcon::Exclamation);
         sDataFileName.clear();
     }
 }

@@ -1,6 +1,5 @@
 #include "file/DistrictFileWriter.h"
 
-#include "core/Ansi.h"
 #include "core/Desktop.h"
 #include "core/Paths.h"
 #include "core/State.h"
@@ -62,7 +61,7 @@ void SaveDistrictFile(Desktop& desktop) {
     }
     desktop.ShowBusy(false);
     if (saved) {
-        desktop.MsgBox("File Saved to " + Ansi::FromUtf8(*path), BoxIcon::Information);
+        desktop.MsgBox("File Saved to " + Wording::OfPath(*path), BoxIcon::Information);
     }
     if (isOpenElsewhere) {
         TellOfAnotherEditor(desktop);

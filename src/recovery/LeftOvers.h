@@ -33,7 +33,7 @@ void GiveBack(StateFolder& folder, const LeftOver& leftOver);
 void Drop(StateFolder& folder, const LeftOver& leftOver);
 
 // Keeps a left-over file where it is not offered any more, and no more than the last three of such.
-// Returns where it is kept, for a message.
+// Returns the path where it is kept, for a message.
 std::string SetAside(StateFolder& folder, const LeftOver& leftOver);
 
 } // namespace CommonRoutines

@@ -90,7 +90,7 @@ void UnsavedChanges::Write(Desktop& desktop) {
     m_hasTold = true;
     desktop.MsgBox(
         "Your changes cannot be written to the recovery file.  They are only safe once the file is saved.\r\n" +
-            desktop.State().PathOf(m_name),
+            Wording::OfPath(desktop.State().PathOf(m_name)),
         BoxIcon::Exclamation);
 }
 

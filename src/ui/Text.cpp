@@ -2,6 +2,7 @@
 
 #include "core/Ansi.h"
 #include "core/Lines.h"
+#include "core/Wording.h"
 
 #include <QFile>
 
@@ -32,6 +33,15 @@ QString WithVisibleControls(QString text) {
         }
     }
     return text;
+}
+
+// Each part by its kind.
+QString Joined(const CommonRoutines::Wording& wording, QString (*shownText)(std::string_view)) {
+    QString result;
+    for (const CommonRoutines::Wording::Part& part : wording.Parts()) {
+        result += part.isPath ? ShownPath(part.text) : shownText(part.text);
+    }
+    return result;
 }
 
 } // namespace
@@ -84,6 +94,14 @@ std::string PathFromQt(const QString& path) {
 
 QString ShownPath(const std::string& path) {
     return WithVisibleControls(PathToQt(path));
+}
+
+QString WordingToQt(const CommonRoutines::Wording& wording) {
+    return Joined(wording, &ToQt);
+}
+
+QString WordingForBox(const CommonRoutines::Wording& wording) {
+    return Joined(wording, &ForBox);
 }
 
 } // namespace Text

@@ -5,6 +5,10 @@
 #include <string>
 #include <string_view>
 
+namespace CommonRoutines {
+class Wording;
+} // namespace CommonRoutines
+
 // Where the core's texts, one Windows-1252 byte a character, become the toolkit's and come back.
 namespace Text {
 
@@ -30,5 +34,9 @@ inline constexpr std::size_t LongestShown = 2000;
 [[nodiscard]] QString PathToQt(const std::string& path);
 [[nodiscard]] std::string PathFromQt(const QString& path);
 [[nodiscard]] QString ShownPath(const std::string& path);
+
+// A wording with its paths as they are shown: with exactly the characters of its texts, or for message boxes.
+[[nodiscard]] QString WordingToQt(const CommonRoutines::Wording& wording);
+[[nodiscard]] QString WordingForBox(const CommonRoutines::Wording& wording);
 
 } // namespace Text

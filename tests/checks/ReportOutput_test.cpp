@@ -13,6 +13,18 @@ using Texts = std::vector<std::string>;
 const Report TwoFindings{"Duplicate Check", {"Ash in North duplicates Ash in South", "Elm"}, true};
 const Report NoFindings{"Duplicate Check", {}, true};
 
+const std::string ForeignPath = "/data/\xC4\x8D\xE2\x82\xAC.txt"; // only the second is of the code page
+
+// The lines as a reader sees them.
+Texts Lines(const Report& report, const std::string& dataFile) {
+    ScriptedDesktop desktop;
+    Texts lines;
+    for (const Wording& line : ReportLines(report, dataFile, desktop)) {
+        lines.push_back(line.Utf8());
+    }
+    return lines;
+}
+
 // Notes what a user would see happen, in its order.
 class WatchedDesktop : public ScriptedDesktop {
 public:
@@ -26,11 +38,11 @@ public:
         seen.emplace_back("written");
         return ScriptedDesktop::ReplaceFile(path, content);
     }
-    bool Print(std::span<const std::string> lines) override {
+    bool Print(std::span<const Wording> lines) override {
         seen.emplace_back("printed");
         return ScriptedDesktop::Print(lines);
     }
-    BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override {
+    BoxAnswer MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons) override {
         seen.emplace_back("box");
         return ScriptedDesktop::MsgBox(text, icon, buttons);
     }
@@ -45,30 +57,25 @@ public:
 // Lines
 
 TEST(ReportOutputTest, ThreeHeadingLinesStandBeforeTheItems) {
-    ScriptedDesktop desktop;
-    EXPECT_EQ(ReportLines(TwoFindings, "C:\\data\\north.txt", desktop),
+    EXPECT_EQ(Lines(TwoFindings, "C:\\data\\north.txt"),
               (Texts{"Duplicate Check on File C:\\data\\north.txt", "Check performed on 05 Mar 2026 at 14:07", "",
                      "Ash in North duplicates Ash in South", "Elm"}));
 }
 
 TEST(ReportOutputTest, AReportWithoutItemsHasItsHeadingLines) {
-    ScriptedDesktop desktop;
-    EXPECT_EQ(ReportLines(NoFindings, "/data/north.txt", desktop),
+    EXPECT_EQ(Lines(NoFindings, "/data/north.txt"),
               (Texts{"Duplicate Check on File /data/north.txt", "Check performed on 05 Mar 2026 at 14:07", ""}));
 }
 
 TEST(ReportOutputTest, TheCaptionIsNoLine) {
-    ScriptedDesktop desktop;
     const Report details{"Details of Duplicates", {"Variation Ash duplicates !Ash"}, true};
-    EXPECT_EQ(ReportLines(details, "/data/north.txt", desktop),
+    EXPECT_EQ(Lines(details, "/data/north.txt"),
               (Texts{"Duplicate Check on File /data/north.txt", "Check performed on 05 Mar 2026 at 14:07", "",
                      "Variation Ash duplicates !Ash"}));
 }
 
-TEST(ReportOutputTest, ThePathIsShownInTheCodePageOfTheItems) {
-    ScriptedDesktop desktop;
-    EXPECT_EQ(ReportLines(NoFindings, "/data/caf\xC3\xA9.txt", desktop).front(),
-              "Duplicate Check on File /data/caf\xE9.txt");
+TEST(ReportOutputTest, ThePathIsShownAsItIs) {
+    EXPECT_EQ(Lines(NoFindings, ForeignPath).front(), "Duplicate Check on File " + ForeignPath);
 }
 
 // Proposed name
@@ -126,6 +133,16 @@ TEST(ReportOutputTest, ASavedReportEndsEveryLineWithCrLf) {
                                                                         "Elm\r\n"}}));
 }
 
+TEST(ReportOutputTest, ASavedReportHasThePathAsNearAsItsCodePageComes) {
+    ScriptedDesktop desktop;
+    desktop.ExpectSave("/reports/mine.txt");
+    SaveReport({"Duplicate Check", {"Caf\xE9"}, true}, ForeignPath, desktop);
+    EXPECT_EQ(desktop.files["/reports/mine.txt"], "Duplicate Check on File /data/?\x80.txt\r\n"
+                                                  "Check performed on 05 Mar 2026 at 14:07\r\n"
+                                                  "\r\n"
+                                                  "Caf\xE9\r\n");
+}
+
 TEST(ReportOutputTest, ASavedReportReplacesTheFile) {
     ScriptedDesktop desktop;
     desktop.files["/reports/mine.txt"] = "What stood there before was longer than the report. It is gone, all of it: "
@@ -162,6 +179,13 @@ TEST(ReportOutputTest, PrintingPrintsTheSameLinesAndSaysNothing) {
               (Texts{"Duplicate Check on File C:\\data\\north.txt", "Check performed on 05 Mar 2026 at 14:07", "",
                      "Ash in North duplicates Ash in South", "Elm"}));
     EXPECT_TRUE(desktop.files.empty());
+}
+
+TEST(ReportOutputTest, ThePathIsPrintedAsItIs) {
+    ScriptedDesktop desktop;
+    PrintReport(TwoFindings, ForeignPath, desktop);
+    ASSERT_FALSE(desktop.printed.empty());
+    EXPECT_EQ(desktop.printed.front(), "Duplicate Check on File " + ForeignPath);
 }
 
 TEST(ReportOutputTest, PrintingIsSeenToBeWorkUntilTheMessage) {

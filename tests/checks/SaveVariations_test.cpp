@@ -61,9 +61,14 @@ TEST_F(SaveVariationsTest, AFileThatCannotBeWrittenIsNotSaidToBeSaved) {
     EXPECT_TRUE(desktop.files.empty());
 }
 
-TEST_F(SaveVariationsTest, AForeignFileNameIsShownInTheCodePage) {
-    desktop.ExpectSave("/data/\xC3\xA9t\xC3\xA9-\xE2\x82\xAC-\xCE\xA9.txt");
-    desktop.ExpectBox("1 Variations Saved to /data/\xE9t\xE9-\x80-?.txt", BoxIcon::Information);
+TEST_F(SaveVariationsTest, AFileNameIsSaidAsItIs) {
+    const std::string foreign = "/data/\xC3\xA9t\xC3\xA9-\xE2\x82\xAC-\xCE\xA9.txt";
+    desktop.ExpectSave(foreign);
+    desktop.ExpectBox("1 Variations Saved to " + Wording::OfPath(foreign), BoxIcon::Information);
     Save({"Elm"});
-    EXPECT_EQ(desktop.files.count("/data/\xC3\xA9t\xC3\xA9-\xE2\x82\xAC-\xCE\xA9.txt"), 1U);
+    EXPECT_EQ(desktop.files.count(foreign), 1U);
+    desktop.canWrite = false;
+    desktop.ExpectSave(foreign);
+    desktop.ExpectBox("The file cannot be written:\r\n" + Wording::OfPath(foreign), BoxIcon::Exclamation);
+    Save({"Elm"});
 }

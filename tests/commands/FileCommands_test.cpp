@@ -105,7 +105,7 @@ TEST_F(FileCommandsTest, BehindTheMessageOfASaveTheNewFileIsOpenAlready) {
     class Watching : public ScriptedDesktop {
     public:
         std::function<void()> look;
-        BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override {
+        BoxAnswer MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons) override {
             look();
             return ScriptedDesktop::MsgBox(text, icon, buttons);
         }

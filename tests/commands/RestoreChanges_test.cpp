@@ -129,9 +129,9 @@ TEST_F(RestoreChangesTest, LeftTwiceByAnEditorThatWasStoppedWhileItTookThemOverA
 }
 
 TEST_F(RestoreChangesTest, OfTheSameBytesElsewhereAreOfferedWithTheirPath) {
-    Leave({{1, 2, "Fir"}}, Content, "/data/before it was moved.txt");
-    desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to a file that was the same:\r\n"
-                      "/data/before it was moved.txt\r\nDo you want them back?",
+    Leave({{1, 2, "Fir"}}, Content, "/data/before it was moved \xC4\x8D.txt");
+    desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to a file that was the same:\r\n" +
+                          Wording::OfPath("/data/before it was moved \xC4\x8D.txt") + "\r\nDo you want them back?",
                       BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
     Open();
     EXPECT_EQ(VariationAt(1, 2).Text, "Fir");
@@ -141,7 +141,7 @@ TEST_F(RestoreChangesTest, OfOtherFilesAreFreeWhileOthersAreAskedAbout) {
     class Watching : public ScriptedDesktop {
     public:
         std::set<std::string> locksAtQuestion;
-        BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override {
+        BoxAnswer MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons) override {
             locksAtQuestion = state.storage->locks;
             return ScriptedDesktop::MsgBox(text, icon, buttons);
         }

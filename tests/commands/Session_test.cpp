@@ -15,8 +15,8 @@ namespace {
 // Sees what stands behind a box, and what a kill would leave, at the moment when it comes up.
 class WatchingDesktop : public ScriptedDesktop {
 public:
-    BoxAnswer MsgBox(std::string_view text, BoxIcon /*icon*/, BoxButtons /*buttons*/) override {
-        boxes.emplace_back(text);
+    BoxAnswer MsgBox(const Wording& text, BoxIcon /*icon*/, BoxButtons /*buttons*/) override {
+        boxes.push_back(text.Utf8());
         statusBehind = screen.shown.status;
         changesOnDisk = state.Kept(".changes").size();
         return BoxAnswer::Ok;

@@ -18,13 +18,13 @@ public:
     std::string fileToSave;
     // The word list is there; without it every small word would be a finding.
     std::string programFolder = QUEXAL_DATA_DIR;
-    // What becomes of a box, by its text, and of a report; nothing when it is not set.
+    // What becomes of a box, by its text as UTF-8, and of a report; nothing when it is not set.
     std::function<void(std::string_view)> onBox;
     std::function<void(const CommonRoutines::Report&)> onReport;
 
-    CommonRoutines::BoxAnswer MsgBox(std::string_view text, CommonRoutines::BoxIcon /*icon*/,
+    CommonRoutines::BoxAnswer MsgBox(const CommonRoutines::Wording& text, CommonRoutines::BoxIcon /*icon*/,
                                      CommonRoutines::BoxButtons buttons) override {
-        Tell(text);
+        Tell(text.Utf8());
         const bool hasOk = buttons == CommonRoutines::BoxButtons::Ok || buttons == CommonRoutines::BoxButtons::OkCancel;
         return hasOk ? CommonRoutines::BoxAnswer::Ok : CommonRoutines::BoxAnswer::Yes;
     }

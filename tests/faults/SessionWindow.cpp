@@ -30,9 +30,10 @@ SessionDesktop::SessionDesktop() {
     onBox = [](std::string_view text) { Milestone(text.starts_with(FileSaved) ? "saved" : "box " + FirstLine(text)); };
 }
 
-BoxAnswer SessionDesktop::MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) {
+BoxAnswer SessionDesktop::MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons) {
     const BoxAnswer answer = AnsweringDesktop::MsgBox(text, icon, buttons);
-    const bool refuses = buttons == BoxButtons::YesNo && text.starts_with(UnsavedChanges) && !wantsUnsavedChanges;
+    const bool refuses =
+        buttons == BoxButtons::YesNo && text.Utf8().starts_with(UnsavedChanges) && !wantsUnsavedChanges;
     return refuses ? BoxAnswer::No : answer;
 }
 

@@ -16,7 +16,7 @@ public:
     bool wantsUnsavedChanges = true;
 
     SessionDesktop();
-    CommonRoutines::BoxAnswer MsgBox(std::string_view text, CommonRoutines::BoxIcon icon,
+    CommonRoutines::BoxAnswer MsgBox(const CommonRoutines::Wording& text, CommonRoutines::BoxIcon icon,
                                      CommonRoutines::BoxButtons buttons) override;
 };
 

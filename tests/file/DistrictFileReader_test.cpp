@@ -228,8 +228,9 @@ TEST_F(ReadLinesTest, ASecondReadStartsAfresh) {
 TEST_F(ReadLinesTest, AFileThatCannotBeReadLeavesAnEmptyTableAndAMessage) {
     Read(HeaderOf("Ash") + "|Elm");
     bChanged = true;
-    sDataFileName = "/data/caf\xC3\xA9.txt";
-    m_desktop.ExpectBox("The file cannot be read:\r\n/data/caf\xE9.txt", BoxIcon::Exclamation);
+    sDataFileName = "/data/caf\xC3\xA9 \xC4\x8D.txt";
+    m_desktop.ExpectBox("The file cannot be read:\r\n" + Wording::OfPath("/data/caf\xC3\xA9 \xC4\x8D.txt"),
+                        BoxIcon::Exclamation);
     ReadDistrictFile(m_desktop);
     EXPECT_EQ(lLineCount, 0);
     EXPECT_EQ(Districts.size(), 0U);
@@ -248,7 +249,7 @@ TEST_F(ReadLinesTest, ReadingHappensInTheProgramsFolderAndEndsTheBusyCursor) {
 TEST_F(ReadLinesTest, TheBusyCursorShowsWhileQuestionsAreAskedAndIsGoneBeforeTheReport) {
     class Watching : public ScriptedDesktop {
     public:
-        BoxAnswer MsgBox(std::string_view, BoxIcon, BoxButtons) override {
+        BoxAnswer MsgBox(const Wording&, BoxIcon, BoxButtons) override {
             busyAtBox = busy;
             return BoxAnswer::Ok;
         }

@@ -85,6 +85,14 @@ TEST_F(DistrictFileWriterTest, SavingProposesTheOpenFileAndSaysWhereItWent) {
     EXPECT_EQ(m_desktop.files, (std::map<std::string, std::string>{{"/data/caf\xC3\xA9/new.txt", "# note\r\n"}}));
 }
 
+TEST_F(DistrictFileWriterTest, ANameThatTheCodePageLacksIsSaidAsItIs) {
+    for (const std::string path : {"/data/\xC4\x8D\xE2\x82\xAC.txt", "/data/no utf-8 \xE9.txt"}) {
+        m_desktop.ExpectSave(path);
+        m_desktop.ExpectBox("File Saved to " + Wording::OfPath(path), BoxIcon::Information);
+        SaveDistrictFile(m_desktop);
+    }
+}
+
 TEST_F(DistrictFileWriterTest, SavingReplacesTheOldContent) {
     TheOpenFile.BeginReading(m_desktop, "C:\\data\\old.txt", "");
     m_desktop.files["C:\\data\\old.txt"] = "a much longer old content";
@@ -120,7 +128,7 @@ TEST_F(DistrictFileWriterTest, TheDesktopIsBusyUntilTheFileIsWritten) {
             EXPECT_TRUE(busy);
             return ScriptedDesktop::ReplaceFile(path, content);
         }
-        BoxAnswer MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) override {
+        BoxAnswer MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons) override {
             EXPECT_FALSE(busy);
             return ScriptedDesktop::MsgBox(text, icon, buttons);
         }

@@ -34,7 +34,7 @@ class HastyUser : public ScriptedDesktop {
 public:
     HastyUser() { recordReports = true; }
 
-    BoxAnswer MsgBox(std::string_view, BoxIcon, BoxButtons) override {
+    BoxAnswer MsgBox(const Wording&, BoxIcon, BoxButtons) override {
         ++boxes;
         return BoxAnswer::Ok;
     }

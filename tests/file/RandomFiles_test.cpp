@@ -15,8 +15,8 @@ class RandomUser : public ScriptedDesktop {
 public:
     explicit RandomUser(std::uint32_t seed) : m_random(seed) { recordReports = true; }
 
-    BoxAnswer MsgBox(std::string_view text, BoxIcon, BoxButtons) override {
-        EXPECT_FALSE(text.empty());
+    BoxAnswer MsgBox(const Wording& text, BoxIcon, BoxButtons) override {
+        EXPECT_FALSE(text.Utf8().empty());
         return BoxAnswer::Ok;
     }
 

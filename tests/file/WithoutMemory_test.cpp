@@ -18,9 +18,9 @@ class SmallMachine : public ScriptedDesktop {
 public:
     explicit SmallMachine(std::string failsAt = "") : m_failsAt(std::move(failsAt)) { recordReports = true; }
 
-    BoxAnswer MsgBox(std::string_view text, BoxIcon, BoxButtons) override {
-        lastText = text;
-        if (!m_failsAt.empty() && text.starts_with(m_failsAt)) {
+    BoxAnswer MsgBox(const Wording& text, BoxIcon, BoxButtons) override {
+        lastText = text.Utf8();
+        if (!m_failsAt.empty() && lastText.starts_with(m_failsAt)) {
             throw std::bad_alloc();
         }
         return BoxAnswer::Ok;

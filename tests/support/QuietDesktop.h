@@ -14,7 +14,7 @@ class QuietDesktop : public CommonRoutines::Desktop {
 public:
     MemoryStateFolder state;
 
-    CommonRoutines::BoxAnswer MsgBox(std::string_view /*text*/, CommonRoutines::BoxIcon /*icon*/,
+    CommonRoutines::BoxAnswer MsgBox(const CommonRoutines::Wording& /*text*/, CommonRoutines::BoxIcon /*icon*/,
                                      CommonRoutines::BoxButtons buttons) override {
         const bool hasOk = buttons == CommonRoutines::BoxButtons::Ok || buttons == CommonRoutines::BoxButtons::OkCancel;
         return hasOk ? CommonRoutines::BoxAnswer::Ok : CommonRoutines::BoxAnswer::Yes;
@@ -40,7 +40,7 @@ public:
     void EnterProgramFolder() override {}
     std::string GetSetting(std::string_view /*section*/, std::string_view /*key*/) override { return {}; }
     void SaveSetting(std::string_view /*section*/, std::string_view /*key*/, const std::string& /*value*/) override {}
-    bool Print(std::span<const std::string> /*lines*/) override { return false; }
+    bool Print(std::span<const CommonRoutines::Wording> /*lines*/) override { return false; }
     std::string Today() override { return "05 Mar 2026"; }
     std::string ShortTime() override { return "14:07"; }
     void Beep() override {}

@@ -14,9 +14,9 @@ std::string Listed(std::span<const std::string> texts) {
     return list;
 }
 
-std::string BoxPrompt(std::string_view text, BoxIcon icon, BoxButtons buttons) {
+std::string BoxPrompt(const Wording& text, BoxIcon icon, BoxButtons buttons) {
     return "box, icon " + std::to_string(static_cast<int>(icon)) + ", buttons " +
-           std::to_string(static_cast<int>(buttons)) + ": " + std::string(text);
+           std::to_string(static_cast<int>(buttons)) + ": " + text.Utf8();
 }
 
 std::string ChoicePrompt(std::string_view prompt, std::span<const std::string> captions) {
@@ -44,7 +44,7 @@ void ScriptedDesktop::CheckDone() {
     m_script.clear();
 }
 
-void ScriptedDesktop::ExpectBox(std::string text, BoxIcon icon, BoxButtons buttons, BoxAnswer answer) {
+void ScriptedDesktop::ExpectBox(const Wording& text, BoxIcon icon, BoxButtons buttons, BoxAnswer answer) {
     m_script.push_back({BoxPrompt(text, icon, buttons), std::to_string(static_cast<int>(answer))});
 }
 
@@ -79,7 +79,7 @@ std::optional<std::string> ScriptedDesktop::Play(const std::string& prompt) {
     return step.answer;
 }
 
-BoxAnswer ScriptedDesktop::MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) {
+BoxAnswer ScriptedDesktop::MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons) {
     const auto answer = Play(BoxPrompt(text, icon, buttons));
     return answer ? static_cast<BoxAnswer>(std::stoi(*answer)) : BoxAnswer::Cancel;
 }
@@ -142,9 +142,12 @@ void ScriptedDesktop::SaveSetting(std::string_view section, std::string_view key
     settings[std::string(section) + '/' + std::string(key)] = value;
 }
 
-bool ScriptedDesktop::Print(std::span<const std::string> lines) {
+bool ScriptedDesktop::Print(std::span<const Wording> lines) {
     if (hasPrinter) {
-        printed.assign(lines.begin(), lines.end());
+        printed.clear();
+        for (const Wording& line : lines) {
+            printed.push_back(line.Utf8());
+        }
     }
     return hasPrinter;
 }

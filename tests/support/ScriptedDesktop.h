@@ -17,7 +17,7 @@ public:
     ~ScriptedDesktop() override;
 
     // The script.
-    void ExpectBox(std::string text, CommonRoutines::BoxIcon icon,
+    void ExpectBox(const CommonRoutines::Wording& text, CommonRoutines::BoxIcon icon,
                    CommonRoutines::BoxButtons buttons = CommonRoutines::BoxButtons::Ok,
                    CommonRoutines::BoxAnswer answer = CommonRoutines::BoxAnswer::Ok);
     void ExpectChoice(std::string prompt, std::vector<std::string> captions, std::string answer);
@@ -35,7 +35,7 @@ public:
     // The machine.
     std::map<std::string, std::string> files;
     std::map<std::string, std::string> settings; // by "section/key"
-    std::vector<std::string> printed;
+    std::vector<std::string> printed;            // as UTF-8
     std::vector<std::string> shownDocuments;
     bool hasViewer = true;
     bool hasPrinter = true;
@@ -48,7 +48,7 @@ public:
     int programFolderEntries = 0;            // how often the program's folder became the current one
     CommonRoutines::FileRequest lastRequest; // of the last file dialogue
 
-    CommonRoutines::BoxAnswer MsgBox(std::string_view text, CommonRoutines::BoxIcon icon,
+    CommonRoutines::BoxAnswer MsgBox(const CommonRoutines::Wording& text, CommonRoutines::BoxIcon icon,
                                      CommonRoutines::BoxButtons buttons) override;
     std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
                          std::span<const std::string> ButtonCaptions) override;
@@ -62,7 +62,7 @@ public:
     void EnterProgramFolder() override { ++programFolderEntries; }
     std::string GetSetting(std::string_view section, std::string_view key) override;
     void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override;
-    bool Print(std::span<const std::string> lines) override;
+    bool Print(std::span<const CommonRoutines::Wording> lines) override;
     void Beep() override { ++beeps; }
     void ShowBusy(bool isBusy) override;
     void ShowProgress(std::string_view doing, double newPart) override;

@@ -109,8 +109,8 @@ bool IsReadOnly(const QString& path) {
 
 } // namespace
 
-BoxAnswer QtDesktop::ShowBox(const QString& title, std::string_view text, BoxIcon icon, BoxButtons buttons) {
-    QMessageBox box(IconOf(icon), title, Text::ForBox(text), ButtonsOf(buttons), m_window);
+BoxAnswer QtDesktop::ShowBox(const QString& title, const Wording& text, BoxIcon icon, BoxButtons buttons) {
+    QMessageBox box(IconOf(icon), title, Text::WordingForBox(text), ButtonsOf(buttons), m_window);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     if (buttons == BoxButtons::YesNoDefaultNo) {
@@ -131,7 +131,7 @@ BoxAnswer QtDesktop::ShowBox(const QString& title, std::string_view text, BoxIco
     }
 }
 
-BoxAnswer QtDesktop::MsgBox(std::string_view text, BoxIcon icon, BoxButtons buttons) {
+BoxAnswer QtDesktop::MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons) {
     return ShowBox(ProgramTitle, text, icon, buttons);
 }
 
@@ -240,7 +240,7 @@ void QtDesktop::SaveSetting(std::string_view section, std::string_view key, cons
     settings.setValue(SettingName(section, key), Text::PathToQt(value));
 }
 
-bool QtDesktop::Print(std::span<const std::string> lines) {
+bool QtDesktop::Print(std::span<const Wording> lines) {
     const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
     const QList<QPrinterInfo> all = QPrinterInfo::availablePrinters();
     if (standard.isNull() && all.isEmpty()) {
@@ -248,8 +248,8 @@ bool QtDesktop::Print(std::span<const std::string> lines) {
     }
     QPrinter printer(standard.isNull() ? all.constFirst() : standard, QPrinter::HighResolution);
     QStringList text;
-    for (const std::string& line : lines) {
-        text.append(Text::ToQt(line).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    for (const Wording& line : lines) {
+        text.append(Text::WordingToQt(line).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     }
     printer.setPageMargins(PageMargins, QPageLayout::Millimeter);
     QTextDocument document;

@@ -17,7 +17,7 @@ public:
     // The window that dialogues belong to.
     void SetWindow(QWidget* window) { m_window = window; }
 
-    CommonRoutines::BoxAnswer MsgBox(std::string_view text, CommonRoutines::BoxIcon icon,
+    CommonRoutines::BoxAnswer MsgBox(const CommonRoutines::Wording& text, CommonRoutines::BoxIcon icon,
                                      CommonRoutines::BoxButtons buttons) override;
     std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
                          std::span<const std::string> ButtonCaptions) override;
@@ -34,7 +34,7 @@ public:
     void EnterProgramFolder() override;
     std::string GetSetting(std::string_view section, std::string_view key) override;
     void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override;
-    bool Print(std::span<const std::string> lines) override;
+    bool Print(std::span<const CommonRoutines::Wording> lines) override;
     std::string Today() override;
     std::string ShortTime() override;
     void Beep() override;
@@ -42,8 +42,8 @@ public:
     void ShowProgress(std::string_view doing, double part) override;
 
 private:
-    CommonRoutines::BoxAnswer ShowBox(const QString& title, std::string_view text, CommonRoutines::BoxIcon icon,
-                                      CommonRoutines::BoxButtons buttons);
+    CommonRoutines::BoxAnswer ShowBox(const QString& title, const CommonRoutines::Wording& text,
+                                      CommonRoutines::BoxIcon icon, CommonRoutines::BoxButtons buttons);
     std::optional<std::string> Choose(QFileDialog& dialog, const CommonRoutines::FileRequest& request);
 
     QPointer<QWidget> m_window;

@@ -108,7 +108,7 @@ void QtStateFolder::Unlock(const std::string& name) {
 }
 
 std::string QtStateFolder::PathOf(const std::string& name) {
-    return Text::FromQt(FilePath(name));
+    return Text::PathFromQt(FilePath(name));
 }
 
 std::string QtStateFolder::TimeOf(const std::string& name) {

@@ -17,7 +17,7 @@ namespace {
 class StandardBoxesTest : public DesktopTest {
 protected:
     // Shows a box and keeps what it looked like; it is left by pressing a button.
-    void Look(std::string_view text, BoxIcon icon, BoxButtons buttons, const std::string& press = "OK") {
+    void Look(const Wording& text, BoxIcon icon, BoxButtons buttons, const std::string& press = "OK") {
         guide.Next([this, press](QWidget& dialogue) {
             const auto& box = dynamic_cast<QMessageBox&>(dialogue);
             title = box.windowTitle();
@@ -49,6 +49,26 @@ TEST_F(StandardBoxesTest, ShowMarkupAsItStands) {
     Look("District <img src=x> &amp; <b>A</b>", BoxIcon::Exclamation, BoxButtons::Ok);
     EXPECT_EQ(format, Qt::PlainText);
     EXPECT_EQ(shown, QStringLiteral("District <img src=x> &amp; <b>A</b>"));
+}
+
+TEST_F(StandardBoxesTest, ShowAFileNameAsItIsWhateverItsCharactersAre) {
+    const auto show = [this](const std::string& path) {
+        Look("Saved to " + Wording::OfPath(path) + "\r\nCaf\xE9", BoxIcon::Information, BoxButtons::Ok);
+        return shown;
+    };
+    EXPECT_EQ(show("/data/\xC4\x8D"
+                   "aj\xE2\x82\xAC.txt"),
+              QStringLiteral("Saved to /data/\u010Daj\u20AC.txt\nCaf\u00E9"));
+    EXPECT_EQ(show("/data/<b>a</b>.txt"), QStringLiteral("Saved to /data/<b>a</b>.txt\nCaf\u00E9"));
+    EXPECT_EQ(format, Qt::PlainText);
+}
+
+// What is no character is seen to be none; a line end in a name makes no new line.
+TEST_F(StandardBoxesTest, ShowWhatIsNoCharacterInAFileNameByASymbol) {
+    Look(Wording::OfPath("/data/caf\xE9 \xC3.txt"), BoxIcon::Information, BoxButtons::Ok);
+    EXPECT_EQ(shown, QStringLiteral("/data/caf\uFFFD \uFFFD.txt"));
+    Look(Wording::OfPath("/data/a\r\nb.txt"), BoxIcon::Information, BoxButtons::Ok);
+    EXPECT_EQ(shown, QStringLiteral("/data/a\uFFFD\uFFFDb.txt"));
 }
 
 TEST_F(StandardBoxesTest, HaveTheirIcon) {

@@ -167,6 +167,11 @@ TEST_F(StateFolderTest, IsInTheHomeFolderUnlessTheUserSaysOtherwise) {
     EXPECT_EQ(folder.PathOf("a"), (QDir::homePath() + QStringLiteral("/.local/state/quexal-editor/a")).toStdString());
 }
 
+TEST_F(StateFolderTest, ItsPathsAreThoseOfTheMachine) {
+    qputenv("XDG_STATE_HOME", "/states/\xC4\x8D");
+    EXPECT_EQ(folder.PathOf("a"), "/states/\xC4\x8D/quexal-editor/a");
+}
+
 TEST_F(StateFolderTest, TheTruePathHasNoLinks) {
     ASSERT_TRUE(folder.Replace("a", "content"));
     const std::string target = QFileInfo(FolderPath()).canonicalFilePath().toStdString() + "/a";

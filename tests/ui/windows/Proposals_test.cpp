@@ -100,8 +100,9 @@ TEST_F(ListedProposalsTest, ACancelledDialogueLeavesTheListAsItWas) {
 }
 
 TEST_F(ListedProposalsTest, AFileThatCannotBeReadLeavesTheListAsItWas) {
-    desktop.ExpectOpen("/changes/none.txt");
-    desktop.ExpectBox("The file cannot be read:\r\n/changes/none.txt", BoxIcon::Exclamation);
+    desktop.ExpectOpen("/changes/n\xC5\x8Dne.txt");
+    desktop.ExpectBox("The file cannot be read:\r\n" + Wording::OfPath("/changes/n\xC5\x8Dne.txt"),
+                      BoxIcon::Exclamation);
     Click("btnProcess");
     EXPECT_EQ(Column("LvChanges"), (QStringList{Elm, Oak, Invalid}));
 }

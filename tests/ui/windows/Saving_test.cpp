@@ -60,7 +60,7 @@ TEST_F(SavingTest, TheDistrictsSayWhichFileIsOpen) {
     };
     expectSaid(QStringLiteral("/data/all.txt"));
     desktop.ExpectSave("/copies/\xC4\x8D\n<b>.txt");
-    desktop.ExpectBox("File Saved to /copies/?\n<b>.txt", BoxIcon::Information);
+    desktop.ExpectBox("File Saved to " + Wording::OfPath("/copies/\xC4\x8D\n<b>.txt"), BoxIcon::Information);
     Click("cbSave");
     for (const char* name : {"Label1", "lvAlpha"}) {
         EXPECT_EQ(Find(name).accessibleDescription(), QStringLiteral("/copies/\u010D\uFFFD<b>.txt")) << name;

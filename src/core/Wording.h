@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace CommonRoutines {
+
+// What is said to the person: Windows-1252 text, among which paths of files may stand. A path is kept as the
+// machine has it, since most characters of its encoding are none of Windows-1252. Plain text is a wording as it is.
+class Wording {
+public:
+    struct Part {
+        std::string text;
+        bool isPath = false; // in the machine's own encoding, perhaps with bytes that are no characters
+    };
+
+    Wording(std::string text) { Append(std::move(text), false); }
+    Wording(std::string_view text) : Wording(std::string(text)) {}
+    Wording(const char* text) : Wording(std::string(text)) {}
+    [[nodiscard]] static Wording OfPath(std::string path);
+
+    friend Wording operator+(Wording a, const Wording& b);
+
+    // In their order; neighbours differ in their kind.
+    [[nodiscard]] const std::vector<Part>& Parts() const { return m_parts; }
+
+    // As UTF-8; the bytes of a path stay as they are.
+    [[nodiscard]] std::string Utf8() const;
+    // As Windows-1252, for files: what that lacks of a path is "?".
+    [[nodiscard]] std::string InCodePage() const;
+
+private:
+    Wording() = default;
+    void Append(std::string text, bool isPath);
+
+    std::vector<Part> m_parts;
+};
+
+} // namespace CommonRoutines
