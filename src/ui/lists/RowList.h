@@ -29,6 +29,7 @@ public:
 
     // Whether commands work on the chosen rows. Otherwise they only stay chosen, and look like it.
     void ShowAsInHand(bool inHand);
+    [[nodiscard]] bool AreInHand() const { return m_inHand; }
 
     // What an empty list says, in grey: what to do next.
     void SetHint(const QString& hint);

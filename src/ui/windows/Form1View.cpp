@@ -60,6 +60,7 @@ void Form1::ShowLists(const Commands::WindowView& view) {
     ShowSelection(m_controls.lvAlpha, view.districts, m_shown.districts);
     m_variations->Show(view.variations, view.variationsOf);
     ShowSelection(m_controls.lvVariations, view.variations, m_shown.variations);
+    m_controls.lvVariations->ShowAsInHand(view.AreVariationsInHand());
     m_proposals->Show(view.proposals);
     ShowSelection(m_controls.LvChanges, view.proposals, m_shown.proposals);
     if (view.comments.filled != m_shown.comments.filled) {
@@ -105,6 +106,9 @@ void Form1::ShowToolTips(const Commands::WindowView& view) {
 void Form1::ShowTexts(const Commands::WindowView& view) {
     if (view.StatusLine() != m_shown.StatusLine()) {
         m_controls.lbStatus->ShowText(Text::ForBox(view.StatusLine()));
+    }
+    if (view.doing != m_shown.doing) {
+        m_controls.lbDoing->ShowText(Text::ForList(view.doing));
     }
     if (view.nextUndo != m_shown.nextUndo) {
         m_controls.lbUndo->ShowText(Text::ForList(view.nextUndo));

@@ -97,8 +97,9 @@ public:
             shown.hints.push_back(self.List(list).Hint().toStdString());
         }
         for (const Commands::Command& command : Commands::AllCommands()) {
-            shown.obstacles.push_back(self.ObstacleTo(std::string(command.name).c_str()));
+            shown.obstacles.push_back(ObstacleTo(command.control));
         }
+        shown.variationsInHand = self.List("lvVariations").AreInHand();
         const QWidget* focus = m_form.focusWidget();
         shown.focus = focus == nullptr ? "nowhere" : focus->objectName().toStdString();
         return shown;
@@ -119,13 +120,16 @@ private:
                 StateOf(InkOf("lbWhyError"), StateColours::OnLight),
                 Back(TextOf("lbApplyTo")),
                 CaptionOf("cbShriek").toStdString(),
-                CaptionOf("cbDate").toStdString()};
+                CaptionOf("cbDate").toStdString(),
+                Back(TextOf("lbDoing"))};
     }
     // What the tooltip says behind what the control does.
-    std::string ObstacleTo(const char* name) {
-        const QString hint = QTextDocumentFragment::fromHtml(Find<QWidget>(name).toolTip()).toPlainText();
+    [[nodiscard]] std::string ObstacleTo(Commands::Control control) const {
+        const auto* widget = m_form.findChild<QWidget*>(Text::ToQt(Commands::CommandOf(control).name));
+        const QString toolTip = widget == nullptr ? QString() : widget->toolTip();
+        const QString hint = QTextDocumentFragment::fromHtml(toolTip).toPlainText();
         const QString behind = QStringLiteral(" - ");
-        const qsizetype at = hint.lastIndexOf(behind);
+        const qsizetype at = hint.indexOf(behind);
         return at < 0 ? std::string() : Back(hint.mid(at + behind.size()));
     }
     std::string Options() {
