@@ -3,6 +3,7 @@
 #include "ui/windows/FormTest.h"
 
 #include "ui/Rendered.h"
+#include "ui/lists/StateColours.h"
 #include "ui/widgets/WindowInside.h"
 #include "ui/windows/WindowFit.h"
 
@@ -289,6 +290,27 @@ TEST_F(LayoutTest, WhatIsEditedIsSaidAboveTheEditRow) {
     EXPECT_EQ(doing.height(), Place("Label1").height());
     EXPECT_EQ(Find<QLabel>("lbDoing").textFormat(), Qt::PlainText);
     EXPECT_EQ(TextOf("lbDoing"), QString());
+    OpenContent(HeaderOf("Alpha") + "|Alfa\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    Click("cbAdd");
+    EXPECT_EQ(TextOf("lbDoing"), QStringLiteral("Adding to Alpha"));
+    Click("cbCancel");
+    EXPECT_EQ(TextOf("lbDoing"), QString());
+}
+
+TEST_F(LayoutTest, VariationsThatStayChosenAfterACommandLookLikeIt) {
+    OpenContent(HeaderOf("Alpha") + "|Alfa\r\n");
+    ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    auto& list = Find<RowList>("lvVariations");
+    const auto ground = [&] {
+        const QRect row = list.visualRect(list.model()->index(0, 0));
+        return Rendered::Of(*list.viewport()).pixelColor(list.viewport()->width() - 8, row.center().y());
+    };
+    ClickRow("lvVariations", QStringLiteral("Alfa"));
+    EXPECT_EQ(ground(), StateColours::ChosenGround(list.palette(), true));
+    Click("cbShriek");
+    ASSERT_FALSE(list.SelectedRows().empty());
+    EXPECT_EQ(ground(), StateColours::ChosenGround(list.palette(), false));
 }
 
 TEST_F(LayoutTest, TheFirstColumnsOfVariationsAndChangesAreTwiceAsWideAsTheirLists) {
