@@ -13,6 +13,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -31,7 +32,9 @@ VarCheck::VarCheck(const Report& report, Desktop& desktop, QWidget* parent)
     setObjectName(QStringLiteral("VarCheck"));
     setWindowTitle(Text::ForList(report.caption));
     setSizeGripEnabled(true);
-    resize(OpeningSize);
+    constexpr double part = 0.85;                                               // with its caption on the screen
+    const QScreen* itsScreen = parent == nullptr ? screen() : parent->screen(); // not shown, it has none of its own
+    resize(OpeningSize.boundedTo(itsScreen->availableGeometry().size() * part));
     new QVBoxLayout(this);
     BuildList();
     BuildButtons();

@@ -8,10 +8,13 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPushButton>
+#include <QScreen>
 #include <QStyledItemDelegate>
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 using namespace CommonRoutines;
 using namespace Ui;
@@ -74,6 +77,20 @@ TEST_F(ReportWindowTest, ShowsTheLinesUnderItsCaption) {
     EXPECT_EQ(CaptionOf("cbSave"), QStringLiteral("Save List"));
     EXPECT_EQ(CaptionOf("cbClose"), QStringLiteral("Close"));
     EXPECT_FALSE(List().accessibleName().isEmpty());
+}
+
+TEST_F(ReportWindowTest, ItsButtonsAreOnTheSmallestScreen) {
+    const auto screens = QGuiApplication::screens();
+    QScreen* smallest = *std::min_element(screens.begin(), screens.end(), [](const QScreen* a, const QScreen* b) {
+        return a->size().height() < b->size().height();
+    });
+    ASSERT_LT(smallest->size().height(), 420);
+    QWidget form;
+    form.setScreen(smallest);
+    form.move(smallest->geometry().topLeft());
+    const VarCheck onSmallest(report, desktop, &form);
+    EXPECT_LT(onSmallest.height(), smallest->availableGeometry().height());
+    EXPECT_LT(onSmallest.width(), smallest->availableGeometry().width());
 }
 
 TEST_F(ReportWindowTest, AReportOnlyToReadHasNoPrintAndNoSave) {
