@@ -1,7 +1,6 @@
 #include "commands/Guide.h"
 
 #include "commands/Session.h"
-#include "core/Ansi.h"
 #include "core/Desktop.h"
 
 #include <string>
@@ -14,7 +13,7 @@ void ShowGuide(Desktop& desktop) {
     // A viewer may be kept from folders that only lead to documents, but not from those of the documents.
     const std::string guide = desktop.TruePath(desktop.ProgramFolder() + "/guide/user-guide.html");
     if (!desktop.ShowDocument(guide)) {
-        desktop.MsgBox("The user guide could not be shown. This is its file:\r\n" + Ansi::FromUtf8(guide),
+        desktop.MsgBox("The user guide could not be shown. This is its file:\r\n" + Wording::OfPath(guide),
                        BoxIcon::Exclamation);
     }
 }

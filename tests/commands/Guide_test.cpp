@@ -9,13 +9,19 @@
 
 using namespace CommonRoutines;
 
+namespace {
+
+class Linked : public ScriptedDesktop {
+public:
+    std::string target = "/documents/user-guide.html";
+    std::string TruePath(const std::string& path) override {
+        return path == "/program/guide/user-guide.html" ? target : path;
+    }
+};
+
+} // namespace
+
 TEST(GuideTest, ItIsShownFromWhereTheLinkBesideTheProgramLeads) {
-    class Linked : public ScriptedDesktop {
-    public:
-        std::string TruePath(const std::string& path) override {
-            return path == "/program/guide/user-guide.html" ? "/documents/user-guide.html" : path;
-        }
-    };
     Linked desktop;
     Commands::ShowGuide(desktop);
     EXPECT_EQ(desktop.shownDocuments, std::vector<std::string>{"/documents/user-guide.html"});
@@ -28,4 +34,13 @@ TEST(GuideTest, WhereNothingCanShowItAMessageNamesTheFile) {
                       BoxIcon::Exclamation);
     Commands::ShowGuide(desktop);
     desktop.CheckDone();
+}
+
+TEST(GuideTest, TheMessageNamesTheFileAsItIs) {
+    Linked desktop;
+    desktop.hasViewer = false;
+    desktop.target = "/documents/\xC4\x8D.html";
+    desktop.ExpectBox("The user guide could not be shown. This is its file:\r\n" + Wording::OfPath(desktop.target),
+                      BoxIcon::Exclamation);
+    Commands::ShowGuide(desktop);
 }
