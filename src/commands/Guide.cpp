@@ -2,6 +2,7 @@
 
 #include "commands/Session.h"
 #include "core/Desktop.h"
+#include "core/Wording.h"
 
 #include <string>
 
