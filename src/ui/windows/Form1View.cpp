@@ -116,9 +116,6 @@ void Form1::ShowTexts(const Commands::WindowView& view) {
     if (view.applyTo != m_shown.applyTo) {
         m_controls.lbApplyTo->ShowText(view.applyTo > 0 ? Text::ForList(RecordOf(view.applyTo).Name) : QString());
     }
-    if (view.doing != m_shown.doing) {
-        m_controls.lbDoing->ShowText(Text::ForList(view.doing));
-    }
     if (view.selectCount != m_shown.selectCount) {
         m_controls.lbSelectCount->ShowText(Text::ToQt(view.selectCount));
     }
