@@ -27,8 +27,6 @@
 #include <QStyle>
 #include <QTimer>
 
-#include <algorithm>
-
 namespace Ui {
 
 using namespace CommonRoutines;

@@ -7,13 +7,15 @@
 #include "ui/widgets/PlainLabel.h"
 #include "ui/widgets/ProblemLabel.h"
 #include "ui/widgets/Splitter.h"
-#include "ui/widgets/WindowInside.h"
 #include "ui/windows/Form1Controls.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace Ui {
 
