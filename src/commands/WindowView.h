@@ -97,7 +97,7 @@ struct WindowView {
     CommentTypesView commentTypes;
     HintsView hints;
     ObstaclesView obstacles{};
-    std::string doing; // what the edit panel is used for at the moment
+    std::string doing;    // what the edit panel is used for at the moment
     std::string openFile; // its path, in the machine's own encoding; empty when there is none
 
     EditView edit;

@@ -158,12 +158,13 @@ bool RowList::viewportEvent(QEvent* event) {
     }
     const auto* help = dynamic_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
-    const QString text = index.isValid() ? ToolTipOf(index) : QString();
-    if (index.isValid() && !text.isEmpty()) {
-        QToolTip::showText(help->globalPos(), Text::ForToolTip(text), viewport(), visualRect(index));
-    } else {
-        QToolTip::showText(help->globalPos(), toolTip(), viewport()); // its own, or none
+    if (!index.isValid()) {
+        QToolTip::showText(help->globalPos(), toolTip(), viewport());
+        return true;
     }
+    const QString text = ToolTipOf(index);
+    QToolTip::showText(help->globalPos(), text.isEmpty() ? QString() : Text::ForToolTip(text), viewport(),
+                       visualRect(index));
     return true;
 }
 

@@ -68,6 +68,17 @@ TEST_F(EditingTest, ARefusedKeySaysWhyBelowTheButtons) {
     EXPECT_EQ(TextOf("lbStatus"), QString());
 }
 
+TEST_F(EditingTest, AGreyOkSaysWhyAlsoToScreenReaders) {
+    OpenDistrict();
+    Click("cbAdd");
+    Type(QStringLiteral("alfa"));
+    ASSERT_FALSE(Enabled("cbOk"));
+    EXPECT_EQ(Find("cbOk").accessibleDescription(), QStringLiteral("Store the text (Enter) - Duplicates Alfa"));
+    EXPECT_TRUE(Find("cbOk").toolTip().contains(QStringLiteral("Store the text (Enter) - Duplicates Alfa")));
+    Type(QStringLiteral("s"));
+    EXPECT_EQ(Find("cbOk").accessibleDescription(), QStringLiteral("Store the text (Enter)"));
+}
+
 TEST_F(EditingTest, SpaceDoesNotTakeUpWhatIsBeingEdited) {
     OpenDistrict();
     Select(QStringLiteral("Alfa"));

@@ -59,6 +59,9 @@ TEST_F(SavingTest, TheDistrictsSayWhichFileIsOpen) {
         }
     };
     expectSaid(QStringLiteral("/data/all.txt"));
+    const QString save = QStringLiteral("Write the data file (Ctrl+S): /data/all.txt");
+    EXPECT_EQ(Find("cbSave").accessibleDescription(), save);
+    EXPECT_TRUE(Find("cbSave").toolTip().contains(save));
     desktop.ExpectSave("/copies/\xC4\x8D\n<b>.txt");
     desktop.ExpectBox("File Saved to " + Wording::OfPath("/copies/\xC4\x8D\n<b>.txt"), BoxIcon::Information);
     Click("cbSave");
@@ -68,6 +71,10 @@ TEST_F(SavingTest, TheDistrictsSayWhichFileIsOpen) {
         document.setHtml(Find(name).toolTip());
         EXPECT_EQ(document.toPlainText(), QStringLiteral("/copies/\u010D\uFFFD<b>.txt")) << name;
     }
+    QTextDocument document;
+    document.setHtml(Find("cbSave").toolTip());
+    EXPECT_TRUE(document.toPlainText().contains(QStringLiteral("): /copies/\u010D\uFFFD<b>.txt")))
+        << document.toPlainText().toStdString();
 }
 
 TEST_F(SavingTest, WithoutAFileTheDistrictsSayWhatToDo) {
