@@ -19,4 +19,10 @@ rm -f docs/images/*.png
 grep -ohP 'images/\K[\w-]+\.png' README.md docs/*.md | sort -u | while read -r picture; do
     cp "$work/$picture" docs/images/
 done
+# Software centres are told the sizes, which stand in the header of each file.
+metainfo=packaging/metainfo.xml.in
+grep -oP '@QUEXAL_SCREENSHOTS@/\K[\w.-]+' $metainfo | while read -r picture; do
+    read -r width height < <(od -An -j16 -N8 -t u4 --endian=big "docs/images/$picture")
+    sed -i "s|width=\"[0-9]*\" height=\"[0-9]*\">\(@QUEXAL_SCREENSHOTS@/$picture\)|width=\"$width\" height=\"$height\">\1|" $metainfo
+done
 echo "pictures: $(find docs/images -name '*.png' | wc -l) in docs/images"

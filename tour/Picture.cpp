@@ -16,8 +16,9 @@ namespace {
 
 constexpr int Border = 1;
 constexpr int BarHeight = 30;
-constexpr int Radius = 10; // of a numbered circle
-constexpr int Gap = 3;     // between a part and the frame around it
+constexpr int Radius = 10;  // of a numbered circle
+constexpr int Gap = 3;      // between a part and the frame around it
+constexpr int Outwards = 6; // that a number stands beside the middle of a side
 
 // The colours of what is drawn around and over a window, so that they are none of the window's own.
 struct Inks {
@@ -69,9 +70,9 @@ QRect PlaceOf(const QWidget& window, const NumberedPart& part) {
 QPoint NumberPlace(const QRect& around, NumberedPart::At at, const QSize& picture) {
     QPoint place = around.topRight();
     if (at == NumberedPart::At::Left) {
-        place = {around.left(), around.center().y()};
+        place = {around.left() - Outwards, around.center().y()};
     } else if (at == NumberedPart::At::Top) {
-        place = {around.center().x(), around.top()};
+        place = {around.center().x(), around.top() - Outwards};
     }
     constexpr int room = Radius + Border + 1;
     return {std::clamp(place.x(), room, picture.width() - room), std::clamp(place.y(), room, picture.height() - room)};
