@@ -60,6 +60,8 @@ void FollowEditText(Session& session) {
         }
         view.edit.refusal = std::move(change.refusal);
         EnterMode(session, change.editMode);
+    } else {
+        view.edit.refusal.clear();
     }
     UpdateMarkerOptions(session);
 }

@@ -46,7 +46,6 @@ void ResetWindow(Session& session) {
     ClearUndoRing();
     CommentTypes.Reset();
     ShowCommentTypes(session);
-    session.isReading = false;
     SetMode(NothingOpen); // the controls follow when a file is open: the old one can still be saved
     view.nextUndo.clear();
     view.districts.Fill({});
@@ -54,6 +53,7 @@ void ResetWindow(Session& session) {
 }
 
 void ReadAndShow(Session& session, const std::string& path) {
+    session.isOpening = true;
     if (bChanged) {
         Unsaved.Remove(session.desktop); // they were given up; until now the choice of a file could be cancelled
     }
@@ -61,9 +61,7 @@ void ReadAndShow(Session& session, const std::string& path) {
     RememberFolder(session, path, Settings::DataFolder);
     bChanged = false;
     session.districtsByName.clear();
-    session.isReading = true;
     ReadDistrictFile(session.desktop);
-    session.isReading = false;
     if (sDataFileName.empty()) {
         // Nothing is open, so nothing must be saved over the file that could not be read.
         ApplyWindowMode(session);

@@ -43,6 +43,7 @@ Session::Session(Desktop& machine, Screen& window)
 void Session::Run(const std::function<void(Session&)>& command) {
     view.edit.keyRefusal.clear();
     const bool isDone = HasMemoryFor([&] { command(*this); });
+    isOpening = false;                                        // also where there was not enough memory
     const bool isShown = HasMemoryFor([this] { Present(); }); // also what a command did that has failed
     if (!isDone || !isShown) {
         TellOfMissingMemory(m_machine);

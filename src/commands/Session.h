@@ -40,7 +40,7 @@ struct Session {
     Screen& screen;
     WindowView view;
     std::vector<std::int32_t> districtsByName; // all of the file; the filter chooses from them
-    bool isReading = false;                    // a data file
+    bool isOpening = false;                    // a data file, which is not shown yet
 
 private:
     void Present();

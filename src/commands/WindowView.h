@@ -117,8 +117,8 @@ struct WindowView {
     // What stands in the way of a disabled control.
     [[nodiscard]] std::string_view ObstacleTo(Control control) const {
         const std::string_view usual = obstacles[static_cast<std::size_t>(control)];
-        const bool isRefused = control == Control::cbOk && !usual.empty() && !edit.refusal.empty();
-        return isRefused ? edit.refusal : usual;
+        const bool isRefused = control == Control::cbOk && mode == CommonRoutines::AddingUnacceptable;
+        return isRefused && !edit.refusal.empty() ? edit.refusal : usual;
     }
 
     // The status, and while there is none, why a key was refused.

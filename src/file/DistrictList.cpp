@@ -29,6 +29,17 @@ bool DistrictHasProblem(const DistrictRecord& record) {
            });
 }
 
+std::string ProblemsOf(const DistrictRecord& record) {
+    std::string problems;
+    for (const VariationStateFacts& facts : VariationStateTable) {
+        if (facts.count != nullptr && record.*facts.count > 0) {
+            problems += problems.empty() ? "" : ", ";
+            problems += std::string(facts.words) + ": " + std::to_string(record.*facts.count);
+        }
+    }
+    return problems;
+}
+
 std::vector<std::int32_t> DistrictsByName() {
     std::vector<std::int32_t> districts;
     districts.reserve(static_cast<std::size_t>(lDistrictTotal));

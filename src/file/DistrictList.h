@@ -39,6 +39,10 @@ inline constexpr auto DistrictColumnTable = std::to_array<DistrictColumn>({
 // True when anything is wrong with the district or its variations; its row is then red.
 [[nodiscard]] bool DistrictHasProblem(const DistrictRecord& record);
 
+// What is wrong, each kind with its count: "invalid: 1, duplicate: 2"; empty where nothing is, or where there is no
+// count for it.
+[[nodiscard]] std::string ProblemsOf(const DistrictRecord& record);
+
 // The indices of all districts of the table, by upper-cased name in the order of the character
 // codes, equal names in file order.
 [[nodiscard]] std::vector<std::int32_t> DistrictsByName();

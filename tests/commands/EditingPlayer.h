@@ -3,6 +3,7 @@
 #include "commands/DistrictCommands.h"
 #include "commands/EditCommands.h"
 #include "commands/FileCommands.h"
+#include "commands/ProposalCommands.h"
 #include "commands/Session.h"
 #include "commands/VariationCommands.h"
 #include "support/Reading.h"
@@ -33,7 +34,10 @@ struct ShownWindow {
     std::vector<int> chosenDistricts;
     std::vector<std::string> variations; // each with the number of its state
     std::vector<int> chosenVariations;
-    std::vector<std::string> labels; // by name
+    std::vector<std::string> reasons;   // of the states of the variations
+    std::size_t commentTypes = 0;       // how many
+    std::vector<std::string> proposals; // each with its tick
+    std::vector<std::string> labels;    // by name
     std::string box;
     std::string options; // those that are ticked
     std::string enabled; // the controls that are
@@ -55,9 +59,12 @@ struct ShownWindow {
         list("chosen", shown.chosenDistricts);
         list("variations", shown.variations);
         list("chosen", shown.chosenVariations);
+        list("proposals", shown.proposals);
         list("labels", shown.labels);
         list("hints", shown.hints);
+        list("reasons", shown.reasons);
         list("obstacles", shown.obstacles);
+        out << "\ncomment types " << shown.commentTypes;
         return out << "\nbox [" << shown.box << "] options " << shown.options << "\nenabled " << shown.enabled
                    << "\nin hand " << shown.variationsInHand << "\nfocus " << shown.focus;
     }
@@ -75,6 +82,10 @@ public:
     virtual void Select(const std::vector<int>& rows) = 0;
     // The variations that are selected already are taken up again.
     virtual void TakeUp() = 0;
+    // Clicks on a comment type, and on the box or the text of a proposal.
+    virtual void ChooseType(int row) = 0;
+    virtual void ClickTick(int row) = 0;
+    virtual void ClickProposal(int row) = 0;
     // The box holds this text from now on, which it did not before.
     virtual void Enter(const std::string& text) = 0;
     virtual void Press(Commands::Control button) = 0;
@@ -113,6 +124,19 @@ public:
         m_session.Run([&](Commands::Session& session) { Commands::SelectVariations(session, rows); });
     }
     void TakeUp() override { m_session.Run(Commands::TakeUpSelection); }
+    void ChooseType(int row) override {
+        Do([=](Commands::Session& session) { Commands::ChooseCommentType(session, {row}); });
+    }
+    // A click also highlights.
+    void ClickTick(int row) override {
+        Do([=](Commands::Session& session) { Commands::HighlightProposals(session, {row}); });
+        const bool ticked = View().proposals.At(row).ticked;
+        Do([=](Commands::Session& session) { Commands::TickProposal(session, row, !ticked); });
+    }
+    void ClickProposal(int row) override {
+        Do([=](Commands::Session& session) { Commands::HighlightProposals(session, {row}); });
+        Do([=](Commands::Session& session) { Commands::ClickProposal(session, row); });
+    }
     void Enter(const std::string& text) override {
         m_session.Run([&](Commands::Session& session) { Commands::TypeText(session, text); });
     }
@@ -134,8 +158,14 @@ public:
         for (const CommonRoutines::VariationRow& row : *view.variations.rows) {
             shown.variations.push_back(std::string(VariationAt(view.variationsOf, row.slot).Text) + " " +
                                        std::to_string(static_cast<int>(row.state)));
+            shown.reasons.push_back(
+                CommonRoutines::ReasonOf(row.state, view.variationsOf, VariationAt(view.variationsOf, row.slot)));
         }
         shown.chosenVariations = view.variations.selected;
+        shown.commentTypes = view.commentTypes.count;
+        for (const CommonRoutines::Proposal& proposal : *view.proposals.rows) {
+            shown.proposals.push_back(proposal.text + (proposal.ticked ? " ticked" : ""));
+        }
         shown.labels = {view.StatusLine(),
                         view.nextUndo,
                         view.whyError.text,
@@ -144,7 +174,8 @@ public:
                         view.applyTo > 0 ? std::string(DistrictAt(view.applyTo).Name) : "",
                         std::string(view.shriekCaption),
                         std::string(view.dateCaption),
-                        view.doing};
+                        view.doing,
+                        view.selectCount};
         for (const std::string_view hint :
              {view.hints.districts, view.hints.variations, view.hints.proposals, view.hints.comments}) {
             shown.hints.emplace_back(hint);

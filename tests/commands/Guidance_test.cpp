@@ -2,6 +2,9 @@
 
 #include "commands/EditingPlayer.h"
 #include "commands/ProposalCommands.h"
+#include "commands/Wandering.h"
+
+#include <map>
 
 using namespace CommonRoutines;
 using namespace Commands;
@@ -71,6 +74,7 @@ TEST_F(GuidanceTest, TheHintsOfADistrictAreThoseOfTheRowChosen) {
     EXPECT_EQ(Hints().proposals, "Process File shows proposals here");
     player.Press(Control::cbAdd);
     EXPECT_EQ(Hints().variations, "This district has no variations");
+    EXPECT_EQ(Hints().proposals, "The proposals of a change file are shown here");
 }
 
 TEST_F(GuidanceTest, BehindAFilterNothingIsSaidOfTheDistrictThatIsHidden) {
@@ -185,6 +189,10 @@ TEST_F(GuidanceTest, AChoiceOfVariationsIsToBeGivenUp) {
     player.Select({0, 1});
     EXPECT_EQ(ObstacleTo(Control::cbOpen), "first Esc in the list of variations");
     EXPECT_EQ(ObstacleTo(Control::tbEdit), "choose a single variation");
+    EXPECT_EQ(ObstacleTo(Control::cbCancel), "choose a single variation");
+    EXPECT_EQ(ObstacleTo(Control::cbSave), "change something first");
+    player.Press(Control::cbShriek);
+    EXPECT_EQ(ObstacleTo(Control::cbDate), "first Space in the list, which takes the marked rows up");
 }
 
 TEST_F(GuidanceTest, TicksDecideAboutProposals) {
@@ -201,7 +209,98 @@ TEST_F(GuidanceTest, TicksDecideAboutProposals) {
     player.desktop.ExpectBox("2 New variations added.", BoxIcon::Information);
     player.Press(Control::cbApplySelected);
     ASSERT_EQ(iEditMode, ChangesApplied);
-    EXPECT_EQ(ObstacleTo(Control::cbApplyAll), "choose a district first");
+    EXPECT_EQ(ObstacleTo(Control::cbApplyAll), "choose the district again");
+    EXPECT_EQ(ObstacleTo(Control::tbEdit), "choose the district again");
+}
+
+TEST_F(GuidanceTest, EditWhoseTickIsOlderThanTheModeSaysToTickAgain) {
+    ChooseAlpha();
+    Process("Elm\r\n");
+    player.Do([](Session& session) { ClickProposal(session, 0); });
+    player.Press(Control::cbCancel);
+    EXPECT_EQ(ObstacleTo(Control::cbEditSel), "untick the proposal and tick it again");
+    for (const bool ticked : {false, true}) {
+        player.Do([=](Session& session) { TickProposal(session, 0, ticked); });
+    }
+    EXPECT_TRUE(player.IsEnabled(Control::cbEditSel));
+}
+
+// A cancelled opening leaves the commands of the file that is open, but no district.
+TEST_F(GuidanceTest, WhateverFollowsACancelledOpeningTheWayBackIsSaid) {
+    for (const Control next : {Control::cbAdd, Control::btnProcess}) {
+        player.desktop.recordReports = true;
+        ChooseAlpha();
+        CancelOpening();
+        if (next == Control::btnProcess) {
+            Process("Elm\r\n");
+            ASSERT_EQ(iEditMode, DistrictIdle);
+            EXPECT_EQ(ObstacleTo(Control::cbApplyAll), "first choose \" All\" among the comment types");
+            EXPECT_EQ(ObstacleTo(Control::cbEditSel), "first choose \" All\" among the comment types");
+        } else {
+            player.Press(next);
+            player.Enter("Elm");
+            EXPECT_EQ(ObstacleTo(Control::cbOk), "first choose \" All\" among the comment types");
+            EXPECT_EQ(Hints().districts,
+                      "The file is still open: first Cancel, then choose \" All\" below to see its districts");
+            player.Press(Control::cbCancel);
+        }
+        EXPECT_EQ(Hints().districts, "The file is still open: choose \" All\" below to see its districts");
+        Filter(0);
+        EXPECT_EQ(ObstacleTo(Control::cbDelete), "choose a district first");
+        EXPECT_EQ(Hints().variations, "Choose a district to see its variations");
+    }
+}
+
+TEST_F(GuidanceTest, ADistrictThatAFilterHidesIsNamedAndAnotherIsToBeChosen) {
+    ChooseAlpha();
+    Filter(2);
+    EXPECT_EQ(player.View().doing, "Add goes to Alpha");
+    EXPECT_EQ(ObstacleTo(Control::cbDelete), "choose a district first");
+    player.ChooseDistrict(4);
+    EXPECT_EQ(player.View().doing, "");
+    EXPECT_EQ(ObstacleTo(Control::cbDelete), "add a variation first");
+}
+
+TEST_F(GuidanceTest, AFilterThatTakesSeveralChosenRowsAwayLeavesNoneToSpeakOf) {
+    ChooseAlpha();
+    player.Select({0, 1});
+    Filter(2);
+    ASSERT_EQ(iEditMode, SeveralSelected);
+    EXPECT_EQ(player.View().doing, "");
+    EXPECT_EQ(ObstacleTo(Control::tbEdit), "choose a district first");
+}
+
+TEST_F(GuidanceTest, TheReasonOfATextGoesWithTheMode) {
+    ChooseAlpha();
+    player.Press(Control::cbAdd);
+    player.Enter("Gamma");
+    player.Press(Control::cbOk);
+    player.Press(Control::cbAdd);
+    player.Enter("Elm%");
+    player.Press(Control::cbUndo);
+    ASSERT_EQ(iEditMode, DistrictIdle);
+    EXPECT_EQ(ObstacleTo(Control::cbOk), "go on typing first");
+}
+
+TEST_F(GuidanceTest, WhileAFileIsBeingOpenedTheHintSaysThat) {
+    class Watching : public ScriptedDesktop {
+    public:
+        BoxAnswer MsgBox(const Wording& /*text*/, BoxIcon /*icon*/, BoxButtons /*buttons*/) override {
+            hint = screen.shown.hints.districts;
+            return BoxAnswer::Yes;
+        }
+        QuietScreen screen;
+        std::string_view hint;
+    };
+    Watching desktop;
+    desktop.files[DataFilePath] = HeaderOf("Alpha") + "|Alfa\r\n";
+    Session session{desktop, desktop.screen};
+    session.Run([&](Session& now) {
+        now.isOpening = true;
+        now.desktop.MsgBox("There are unsaved changes", BoxIcon::Question, BoxButtons::YesNo);
+    });
+    EXPECT_EQ(desktop.hint, "A file is being opened");
+    EXPECT_FALSE(session.isOpening);
 }
 
 TEST_F(GuidanceTest, AGreyOkSaysWhy) {
@@ -272,5 +371,38 @@ TEST_F(GuidanceTest, ANameOfAnyLengthIsSaidByItsBeginning) {
     player.Open(HeaderOf(name) + "\r\n", {});
     player.ChooseDistrict(1);
     player.Press(Control::cbAdd);
-    EXPECT_LT(player.View().doing.size(), 300u);
+    EXPECT_LT(player.View().doing.size(), 2100u);
+}
+
+TEST_F(GuidanceTest, WhereverOneWandersNothingIsInvitedToThatCannotBeDone) {
+    constexpr std::uint32_t rounds = 200;
+    constexpr int steps = 60;
+    std::map<int, int> met;
+    for (std::uint32_t seed = 1; seed <= rounds; ++seed) {
+        ResetEverything();
+        CommandPlayer wanderer;
+        Wandering wandering(wanderer, seed);
+        for (int i = 0; i < steps; ++i) {
+            wandering.DoSomething();
+            const WindowView& view = wanderer.View();
+            ++met[view.mode];
+            for (const Command& command : AllCommands()) {
+                ASSERT_EQ(view.IsEnabled(command.control), view.ObstacleTo(command.control).empty())
+                    << command.name << ", seed " << seed << ", step " << i;
+            }
+            const bool showsDistrict = IsDistrict(lCurrentDistrict) && view.variationsOf == lCurrentDistrict;
+            if (view.hints.variations.find("press Add") != std::string_view::npos) {
+                ASSERT_TRUE(showsDistrict && view.IsEnabled(Control::cbAdd)) << "seed " << seed << ", step " << i;
+            }
+            if (view.hints.proposals == "Process File shows proposals here") {
+                ASSERT_TRUE(showsDistrict && view.IsEnabled(Control::btnProcess)) << "seed " << seed << ", step " << i;
+            }
+            if (!IsDistrict(lCurrentDistrict)) {
+                ASSERT_FALSE(view.IsEnabled(Control::cbApplyAll)) << "seed " << seed << ", step " << i;
+            }
+        }
+    }
+    for (const int mode : {1, 2, 3, 4, 5, 6, 8, 9, 10}) {
+        EXPECT_GT(met[mode], 0) << mode;
+    }
 }

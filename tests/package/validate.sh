@@ -30,6 +30,9 @@ while read -r named; do
     [ -e "$work/tree$named" ] || fail "the manual page names $named, which is not in the package"
 done < <(grep -o '/\(etc\|usr\)/[a-z/._-]*[a-z]' "$work/manual.txt")
 grep -q "qx_lower.txt" "$work/manual.txt" || fail "the manual page does not tell of the word list"
+for section in BUGS AUTHOR; do
+    grep -q "^$section" "$work/manual.txt" || fail "the manual page has no section $section"
+done
 scripts/icons.sh --check
 
 # A plain installation can be moved, and keeps a word list that was changed.

@@ -80,6 +80,9 @@ std::optional<std::string> ScriptedDesktop::Play(const std::string& prompt) {
 }
 
 BoxAnswer ScriptedDesktop::MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons) {
+    if (confirmsBoxes) {
+        return buttons == BoxButtons::Ok || buttons == BoxButtons::OkCancel ? BoxAnswer::Ok : BoxAnswer::Yes;
+    }
     const auto answer = Play(BoxPrompt(text, icon, buttons));
     return answer ? static_cast<BoxAnswer>(std::stoi(*answer)) : BoxAnswer::Cancel;
 }

@@ -32,6 +32,9 @@ public:
     bool recordReports = false;
     std::vector<CommonRoutines::Report> reports;
 
+    // Boxes are confirmed without a look: for rounds that meet with any of them.
+    bool confirmsBoxes = false;
+
     // The machine.
     std::map<std::string, std::string> files;
     std::map<std::string, std::string> settings; // by "section/key"

@@ -54,8 +54,6 @@ QVariant CommentTypeModel::data(const QModelIndex& index, int role) const {
     switch (role) {
     case Qt::DisplayRole:
         return Text::ForList(item.type);
-    case Qt::ToolTipRole:
-        return Text::ToQt(Commands::CommandOf(Commands::Control::lbComments).hint);
     case Qt::UserRole:
         return item.itemData;
     default:

@@ -62,7 +62,7 @@ QVariant DistrictModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole:
         return problem ? text + QStringLiteral(", has problems") : text;
     case Qt::ToolTipRole:
-        return problem ? QStringLiteral("This district has problems: choose it to see them") : QString();
+        return Text::ToQt(ProblemsOf(record));
     default:
         return {};
     }

@@ -158,13 +158,10 @@ bool RowList::viewportEvent(QEvent* event) {
     }
     const auto* help = dynamic_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
-    if (!index.isValid()) {
-        QToolTip::showText(help->globalPos(), toolTip(), viewport());
-        return true;
-    }
-    const QString text = ToolTipOf(index);
-    QToolTip::showText(help->globalPos(), text.isEmpty() ? QString() : Text::ForToolTip(text), viewport(),
-                       visualRect(index));
+    const QString said = index.isValid() ? ToolTipOf(index) : QString();
+    const QString own = !index.isValid() || m_toolTipOverRows ? toolTip() : QString();
+    const QRect row = index.isValid() ? visualRect(index) : QRect();
+    QToolTip::showText(help->globalPos(), said.isEmpty() ? own : Text::ForToolTip(said), viewport(), row);
     return true;
 }
 

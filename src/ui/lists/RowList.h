@@ -43,6 +43,9 @@ public:
     // Selects the next row whose first cell begins with what is typed.
     void keyboardSearch(const QString& search) override;
 
+    // Whether its own tooltip also comes up over rows that have nothing to say.
+    void SetToolTipOverRows(bool over) { m_toolTipOverRows = over; }
+
     // What is to be said of a row, and the text of a cell that is not seen whole. What can be read is not repeated.
     [[nodiscard]] QString ToolTipOf(const QModelIndex& index) const;
 
@@ -87,6 +90,7 @@ private:
     QString m_description;
     bool m_announced = false; // since the mouse was pressed
     bool m_quiet = false;
+    bool m_toolTipOverRows = false;
     bool m_inHand = true;
 };
 

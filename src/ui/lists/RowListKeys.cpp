@@ -72,7 +72,7 @@ bool RowList::HandleChoosingKey(QKeyEvent& event) {
     const bool ticks = event.key() == Qt::Key_Space && current.flags().testFlag(Qt::ItemIsUserCheckable);
     const bool isSpace = ticks || (event.key() == Qt::Key_Space && !IsLookingFor());
     const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (!isPlain || !current.isValid() || (!isEnter && !isSpace)) {
+    if (!current.isValid() || (!ticks && !isPlain) || (!isEnter && !isSpace)) {
         return false;
     }
     if (ticks) {

@@ -2,8 +2,10 @@
 
 #include "ui/Text.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QTextLayout>
+#include <QToolTip>
 
 namespace Ui {
 
@@ -92,6 +94,17 @@ QSize PlainLabel::sizeHint() const {
 
 QSize PlainLabel::minimumSizeHint() const {
     return sizeHint();
+}
+
+// What can be read is not repeated.
+bool PlainLabel::event(QEvent* event) {
+    const QSize room = contentsRect().size();
+    if (event->type() == QEvent::ToolTip && WrappedHeight(room.width()) <= room.height()) {
+        QToolTip::hideText();
+        event->ignore();
+        return true;
+    }
+    return QLabel::event(event);
 }
 
 void PlainLabel::paintEvent(QPaintEvent* /*event*/) {

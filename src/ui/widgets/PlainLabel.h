@@ -14,7 +14,7 @@ public:
     // What the label is for. Screen readers read that and the text together.
     void SetPurpose(const QString& purpose);
 
-    // Shows a text, whole also in the tooltip.
+    // Shows a text. Where it does not fit, the tooltip has it whole.
     void ShowText(const QString& text);
 
     // Room for this many lines.
@@ -31,6 +31,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -108,6 +108,7 @@ void Form1Controls::CreateLists() {
     LvChanges = List("LvChanges", QStringLiteral("Change File"));
     lvComments = List("lvComments", QStringLiteral("Comments"));
     lbComments = List("lbComments", QStringLiteral("Comment types"));
+    lbComments->SetToolTipOverRows(true);
     Describe(*lbComments, Commands::CommandOf(Commands::Control::lbComments));
     lvVariations->setSelectionMode(QAbstractItemView::ExtendedSelection);
     for (RowList* list : {lvVariations, LvChanges, lbComments}) {
@@ -122,15 +123,15 @@ void Form1Controls::CreateLists() {
 void Form1Controls::CreateEditRow() {
     cbVariation =
         OptionBox("cbVariation", QStringLiteral("Variation"),
-                  QStringLiteral("Ticked while the text has no marker in front. To change it, change the text."));
+                  QStringLiteral("Ticked for a text that begins without a marker. To change it, change the text."));
     cbSpelling = OptionBox("cbSpelling", QStringLiteral("Spelling Mistake"),
-                           QStringLiteral("Ticked while the text begins with \"!\". To change it, change the text."));
+                           QStringLiteral("Ticked for a text that begins with \"!\". To change it, change the text."));
     cbValidinyears =
         OptionBox("cbValidinyears", QStringLiteral("Only valid in year"),
-                  QStringLiteral("Ticked while the text begins with \"%\" or \"!%\". To change it, change the text."));
-    cbVNF =
-        OptionBox("cbVNF", QStringLiteral("Only if Volume matches"),
-                  QStringLiteral("Ticked while the text ends with \"%\" and a volume. To change it, change the text."));
+                  QStringLiteral("Ticked for a text that begins with \"%\" or \"!%\". To change it, change the text."));
+    cbVNF = OptionBox("cbVNF", QStringLiteral("Only if Volume matches"),
+                      QStringLiteral("Ticked for a text with a \"%\" behind its name, where a volume has its place. To "
+                                     "change it, change the text."));
     tbEdit = new EditBox(m_inside);
     const Commands::Command& edit = Commands::CommandOf(Commands::Control::tbEdit);
     tbEdit->setObjectName(Text::ToQt(edit.name));
@@ -176,7 +177,9 @@ void Form1Controls::Describe(QWidget& control, const Commands::Command& command,
     const QString hint = HintOf(command) + (file.isEmpty() ? QString() : QStringLiteral(": ") + file) +
                          (obstacle.isEmpty() ? QString() : QStringLiteral(" - ") + obstacle);
     control.setToolTip(Text::ForToolTip(hint));
-    if (qobject_cast<RowList*>(&control) == nullptr) { // an empty list has a description of its own
+    if (auto* list = qobject_cast<RowList*>(&control)) {
+        list->SetDescription(hint); // while it is not empty
+    } else {
         control.setAccessibleDescription(hint);
     }
 }

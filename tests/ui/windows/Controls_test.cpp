@@ -2,6 +2,8 @@
 
 #include "ui/windows/FormTest.h"
 
+#include "ui/Text.h"
+
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QCheckBox>
@@ -192,7 +194,7 @@ TEST_F(FormTest, AHintIsReadOutOnlyWhileItsListIsEmpty) {
     EXPECT_FALSE(hint("lvAlpha").isEmpty());
     OpenContent("#QX_NOTE Of Alpha\r\n" + HeaderOf("Alpha") + "|Alfa\r\n");
     EXPECT_EQ(hint("lvAlpha"), QString::fromStdString(DataFilePath));
-    EXPECT_TRUE(hint("lbComments").isEmpty());
+    EXPECT_EQ(hint("lbComments"), Text::ToQt(Commands::CommandOf(Commands::Control::lbComments).hint));
     for (const char* list : {"lvVariations", "lvComments", "LvChanges"}) {
         EXPECT_EQ(hint(list), Find<RowList>(list).Hint()) << list;
         EXPECT_FALSE(hint(list).isEmpty()) << list;

@@ -1,7 +1,7 @@
 // The random rounds of editing, played once through the commands and once, by mouse and keys, through the
 // window, which must show after every step what the commands end with.
 
-#include "commands/EditingRound.h"
+#include "commands/Wandering.h"
 #include "driver/WindowDriver.h"
 #include "ui/Text.h"
 #include "ui/lists/DistrictModel.h"
@@ -21,6 +21,13 @@ namespace {
 std::string Back(QString shown) {
     shown.replace(QChar(0x21E5), QLatin1Char('\t')); // a list shows it so
     return Text::FromQt(shown.replace(QLatin1Char('\n'), QStringLiteral("\r\n")));
+}
+
+// What a tooltip says behind the kind; all of it where the kind is the reason.
+std::string ReasonIn(const QString& toolTip) {
+    const QString behind = QStringLiteral(": ");
+    const qsizetype at = toolTip.indexOf(behind);
+    return at >= 0 ? Back(toolTip.mid(at + behind.size())) : toolTip == u"unusual capitals" ? "Unusual Capitals" : "";
 }
 
 // The number of the state that has a colour.
@@ -58,6 +65,12 @@ public:
         }
     }
     void TakeUp() override { QTest::keyClick(&List("lvVariations"), Qt::Key_Space); }
+    void ChooseType(int row) override { ClickRow("lbComments", row); }
+    void ClickTick(int row) override { ClickRow("LvChanges", row); }
+    void ClickProposal(int row) override {
+        constexpr int onText = 40;
+        ClickRow("LvChanges", row, Qt::NoModifier, onText);
+    }
     void Enter(const std::string& text) override {
         auto& box = Find<QLineEdit>("tbEdit");
         box.selectAll();
@@ -85,8 +98,16 @@ public:
             const QModelIndex index = variations.index(row, 0);
             shown.variations.push_back(Back(index.data().toString()) + " " +
                                        StateOf(index.data(Qt::ForegroundRole).value<QColor>(), InList));
+            shown.reasons.push_back(ReasonIn(index.data(Qt::ToolTipRole).toString()));
         }
         shown.chosenVariations = self.List("lvVariations").SelectedRows();
+        shown.commentTypes = static_cast<std::size_t>(self.List("lbComments").model()->rowCount());
+        const QAbstractItemModel& proposals = *self.List("LvChanges").model();
+        for (int row = 0; row < proposals.rowCount(); ++row) {
+            const QModelIndex index = proposals.index(row, 0);
+            const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+            shown.proposals.push_back(Back(index.data().toString()) + (ticked ? " ticked" : ""));
+        }
         shown.labels = self.Labels();
         shown.box = Text::FromQt(self.Find<QLineEdit>("tbEdit").text());
         shown.options = self.Options();
@@ -121,7 +142,8 @@ private:
                 Back(TextOf("lbApplyTo")),
                 CaptionOf("cbShriek").toStdString(),
                 CaptionOf("cbDate").toStdString(),
-                Back(TextOf("lbDoing"))};
+                Back(TextOf("lbDoing")),
+                TextOf("lbSelectCount").toStdString()};
     }
     // What the tooltip says behind what the control does.
     [[nodiscard]] std::string ObstacleTo(Commands::Control control) const {
@@ -160,6 +182,30 @@ std::vector<ShownWindow> Play(std::uint32_t seed) {
     return shown;
 }
 
+template <typename Player>
+std::vector<ShownWindow> Wander(std::uint32_t seed) {
+    constexpr int steps = 40;
+    ResetEverything();
+    Player player;
+    Wandering wandering(player, seed);
+    std::vector<ShownWindow> shown{player.Shown()};
+    for (int i = 0; i < steps; ++i) {
+        wandering.DoSomething();
+        shown.push_back(player.Shown());
+    }
+    return shown;
+}
+
+void ExpectSame(std::vector<ShownWindow> shown, const std::vector<ShownWindow>& expected, std::uint32_t seed) {
+    ASSERT_EQ(shown.size(), expected.size());
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        if (expected[i].focus.empty()) {
+            shown[i].focus.clear();
+        }
+        ASSERT_EQ(shown[i], expected[i]) << "seed " << seed << ", after step " << i;
+    }
+}
+
 class EditingRounds : public testing::TestWithParam<std::uint32_t> {};
 
 } // namespace
@@ -168,14 +214,15 @@ TEST_P(EditingRounds, TheWindowShowsAfterEveryStepWhatTheCommandsEndWith) {
     constexpr std::uint32_t rounds = 60;
     for (std::uint32_t seed = GetParam(); seed < GetParam() + rounds; ++seed) {
         const std::vector<ShownWindow> expected = Play<CommandPlayer>(seed);
-        std::vector<ShownWindow> shown = Play<WindowPlayer>(seed);
-        ASSERT_EQ(shown.size(), expected.size());
-        for (std::size_t i = 0; i < shown.size(); ++i) {
-            if (expected[i].focus.empty()) {
-                shown[i].focus.clear();
-            }
-            ASSERT_EQ(shown[i], expected[i]) << "seed " << seed << ", after step " << i;
-        }
+        ASSERT_NO_FATAL_FAILURE(ExpectSame(Play<WindowPlayer>(seed), expected, seed));
+    }
+}
+
+TEST_P(EditingRounds, SoItDoesBehindFiltersCancelledOpeningsAndProposals) {
+    constexpr std::uint32_t rounds = 20;
+    for (std::uint32_t seed = GetParam(); seed < GetParam() + rounds; ++seed) {
+        const std::vector<ShownWindow> expected = Wander<CommandPlayer>(seed);
+        ASSERT_NO_FATAL_FAILURE(ExpectSame(Wander<WindowPlayer>(seed), expected, seed));
     }
 }
 

@@ -77,7 +77,7 @@ TEST_F(FormTest, TooltipsAndScreenReadersSayTheStateThatTheColourShows) {
     const auto spoken = [this](const char* list, int row) {
         return Find<RowList>(list).model()->index(row, 0).data(Qt::AccessibleTextRole).toString();
     };
-    EXPECT_EQ(toolTip("lvAlpha", 0), QStringLiteral("This district has problems: choose it to see them"));
+    EXPECT_EQ(toolTip("lvAlpha", 0), QStringLiteral("invalid: 1, duplicate: 1, warning: 1"));
     EXPECT_EQ(spoken("lvAlpha", 0), QStringLiteral("Alpha, has problems"));
     EXPECT_EQ(toolTip("lvAlpha", 1), QString()); // it can be read
     EXPECT_EQ(spoken("lvAlpha", 1), QStringLiteral("Beta"));
@@ -111,11 +111,42 @@ TEST_F(FormTest, TheToolTipOfAProposalSaysWhy) {
     }
 }
 
-TEST_F(FormTest, TheToolTipOfACommentTypeSaysWhatItIsFor) {
-    OpenContent("#QX_NOTE text\r\n" + HeaderOf("Alpha") + "\r\n");
-    const auto& list = Find<RowList>("lbComments");
-    EXPECT_EQ(list.ToolTipOf(list.model()->index(0, 0)),
-              QStringLiteral("Lists only the districts that have a comment of the chosen type"));
+TEST_F(FormTest, TheCommentTypesSayWhatTheyAreForAndWhatWouldEnableThem) {
+    OpenContent("#QX_NOTE text\r\n" + HeaderOf("Alpha") + "|Alfa\r\n");
+    const QString purpose = QStringLiteral("Lists only the districts that have a comment of the chosen type");
+    auto& list = Find<RowList>("lbComments");
+    EXPECT_EQ(list.accessibleDescription(), purpose);
+    const QPoint place = list.visualRect(list.model()->index(0, 0)).center();
+    QHelpEvent help(QEvent::ToolTip, place, list.viewport()->mapToGlobal(place));
+    QApplication::sendEvent(list.viewport(), &help);
+    EXPECT_EQ(Rendered(QToolTip::text()), purpose);
+    ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    ClickRow("lvVariations", QStringLiteral("Alfa"));
+    EXPECT_EQ(list.accessibleDescription(), purpose + QStringLiteral(" - first Cancel (Esc)"));
+    QToolTip::hideText();
+}
+
+TEST_F(FormTest, TheOptionsSayThatTheyFollowTheText) {
+    for (const char* box : {"cbVariation", "cbSpelling", "cbValidinyears", "cbVNF"}) {
+        const QString toolTip = Find(box).toolTip();
+        EXPECT_TRUE(toolTip.startsWith(QStringLiteral("Ticked for a text"))) << box;
+        EXPECT_TRUE(toolTip.endsWith(QStringLiteral("To change it, change the text."))) << box;
+    }
+}
+
+TEST_F(FormTest, ALabelHasAToolTipOnlyWhereItsTextIsCutOff) {
+    OpenContent(HeaderOf("Alpha") + "\r\n" + HeaderOf(std::string(300, 'x')) + "\r\n");
+    auto& label = Find<QLabel>("lbApplyTo");
+    const auto hover = [&] {
+        QHelpEvent help(QEvent::ToolTip, QPoint(2, 2), label.mapToGlobal(QPoint(2, 2)));
+        QApplication::sendEvent(&label, &help);
+    };
+    ClickRow("lvAlpha", QString(300, QLatin1Char('x')));
+    hover();
+    EXPECT_EQ(Rendered(QToolTip::text()), QString(300, QLatin1Char('x')));
+    ClickRow("lvAlpha", QStringLiteral("Alpha"));
+    hover();
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
 
 TEST_F(FormTest, AToolTipComesUpOverARowThatHasSomethingToSayAndOverNoOther) {
