@@ -42,8 +42,8 @@ void FillDistrictList(Session& session) {
     MeasureDistricts(session);
     session.desktop.ShowBusy(false);
     session.view.districts.Fill(session.districtsByName);
+    session.screen.SetColumnWidths(); // before a question shows the list
     ReportDuplicatedDistricts(session.districtsByName, session.desktop);
-    session.screen.SetColumnWidths();
 }
 
 void ChooseDistrict(Session& session, const std::vector<int>& rows) {

@@ -81,7 +81,11 @@ QString ForList(std::string_view text) {
 }
 
 QString ForToolTip(const QString& text) {
-    return QStringLiteral("<div style=\"white-space:pre-wrap\">") + text.toHtmlEscaped() + QStringLiteral("</div>");
+    // What the toolkit may wrap, it wraps at a fraction of the screen.
+    constexpr qsizetype longestUnwrapped = 100;
+    const QString wrapping = text.size() > longestUnwrapped ? QStringLiteral("pre-wrap") : QStringLiteral("pre");
+    return QStringLiteral("<div style=\"white-space:%1\">").arg(wrapping) + text.toHtmlEscaped() +
+           QStringLiteral("</div>");
 }
 
 QString PathToQt(const std::string& path) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "changes/Proposal.h"
 #include "ui/lists/ShownRows.h"
 
 #include <QAbstractListModel>

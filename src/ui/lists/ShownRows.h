@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/WindowView.h"
+#include "commands/ListView.h"
 
 #include <cstdint>
 #include <memory>

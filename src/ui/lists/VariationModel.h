@@ -1,5 +1,6 @@
 #pragma once
 
+#include "edit/VariationList.h"
 #include "ui/lists/ShownRows.h"
 
 #include <QAbstractListModel>

@@ -19,10 +19,14 @@
 #include <QPageLayout>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <QSettings>
 #include <QStyle>
 #include <QTextDocument>
+#include <QTimer>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace Ui {
 
@@ -107,6 +111,20 @@ bool IsReadOnly(const QString& path) {
     return file.exists() && !file.isWritable();
 }
 
+// The toolkit's label takes the focus from a click alone. It may only take it by Tab when a button has it already,
+// which is known once the box is shown.
+void LetTabReachText(QMessageBox& box) {
+    QTimer::singleShot(0, &box, [&box] {
+        const QList<QAbstractButton*> buttons = box.buttons();
+        const auto isDefault = [](QAbstractButton* button) { return qobject_cast<QPushButton*>(button)->isDefault(); };
+        const auto found = std::find_if(buttons.begin(), buttons.end(), isDefault);
+        (found == buttons.end() ? buttons.constFirst() : *found)->setFocus();
+        if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+            label->setFocusPolicy(Qt::StrongFocus);
+        }
+    });
+}
+
 } // namespace
 
 BoxAnswer QtDesktop::ShowBox(const QString& title, const Wording& text, BoxIcon icon, BoxButtons buttons) {
@@ -116,6 +134,7 @@ BoxAnswer QtDesktop::ShowBox(const QString& title, const Wording& text, BoxIcon 
     if (buttons == BoxButtons::YesNoDefaultNo) {
         box.setDefaultButton(QMessageBox::No);
     }
+    LetTabReachText(box);
     MarkButtons(box);
     const int answer = box.exec();
     m_work.GoOn();

@@ -71,6 +71,23 @@ TEST_F(StandardBoxesTest, ShowWhatIsNoCharacterInAFileNameByASymbol) {
     EXPECT_EQ(shown, QStringLiteral("/data/a\uFFFD\uFFFDb.txt"));
 }
 
+TEST_F(StandardBoxesTest, LeadTabFromTheirButtonToTheTextWhichCanBeCopied) {
+    guide.Next([](QWidget& dialogue) {
+        auto* label = dialogue.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        QApplication::processEvents();
+        EXPECT_NE(dialogue.focusWidget(), label); // Enter and Space are for the button
+        for (int i = 0; i < 3 && dialogue.focusWidget() != label; ++i) {
+            QTest::keyClick(dialogue.focusWidget(), Qt::Key_Tab);
+        }
+        EXPECT_EQ(dialogue.focusWidget(), label);
+        QTest::keyClick(label, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(label, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("A message"));
+        DialogueGuide::Press(dialogue, "Yes");
+    });
+    desktop.MsgBox("A message", BoxIcon::Question, BoxButtons::YesNo);
+}
+
 TEST_F(StandardBoxesTest, HaveTheirIcon) {
     const std::vector<std::pair<BoxIcon, QMessageBox::Icon>> icons{{BoxIcon::None, QMessageBox::NoIcon},
                                                                    {BoxIcon::Critical, QMessageBox::Critical},
