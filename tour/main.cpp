@@ -18,6 +18,7 @@
 #include <cstdio>
 #include <span>
 #include <string_view>
+#include <utility>
 
 using namespace Ui;
 
@@ -57,7 +58,7 @@ const std::array PartsForProposals{
 
 class Tour : public DrivenForm<QtDesktop> {
 public:
-    Tour(const QString& folder, const QString& prefix) : m_folder(folder), m_prefix(prefix) {}
+    Tour(QString folder, QString prefix) : m_folder(std::move(folder)), m_prefix(std::move(prefix)) {}
 
     // Returns false when a station was not reached.
     bool Play();

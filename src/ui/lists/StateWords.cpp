@@ -12,10 +12,8 @@ QString StateInWords(CommonRoutines::VariationState state) {
 QString ReasonInWords(CommonRoutines::VariationState state, std::string_view reason) {
     const QString words = Text::ToQt(FactsOf(state).words);
     const QString found = Text::ForList(reason);
-    if (words.isEmpty() || found.isEmpty() || words.compare(found, Qt::CaseInsensitive) == 0) {
-        return words;
-    }
-    return words + QStringLiteral(": ") + found;
+    const bool saysMore = !words.isEmpty() && !found.isEmpty() && words.compare(found, Qt::CaseInsensitive) != 0;
+    return saysMore ? words + QStringLiteral(": ") + found : words;
 }
 
 } // namespace Ui
