@@ -58,7 +58,7 @@ const std::array PartsForProposals{
 
 class Tour : public DrivenForm<QtDesktop> {
 public:
-    Tour(QString folder, QString prefix) : m_folder(std::move(folder)), m_prefix(std::move(prefix)) {}
+    Tour(const QString& folder, QString prefix) : m_folder(folder), m_prefix(std::move(prefix)) {}
 
     // Returns false when a station was not reached.
     bool Play();
