@@ -71,7 +71,7 @@ enum class Which { All, Ticked };
 enum class As { Proposed, SpellingMistake };
 
 void Apply(Session& session, Which which, As as) {
-    // The buttons are disabled then; what is stored nowhere must hold whoever calls.
+    // The buttons are disabled then. Another caller would have no record to write to.
     if (!IsDistrict(lCurrentDistrict)) {
         return;
     }

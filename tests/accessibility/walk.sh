@@ -7,7 +7,7 @@ editor=$(readlink -f "$1")
 here=$(dirname "$(readlink -f "$0")")
 
 if [ -z "${QUEXAL_ON_BUS-}" ]; then
-    QUEXAL_ON_BUS=1 exec xvfb-run -a -s "-screen 0 1366x768x24" dbus-run-session -- "$0" "$editor"
+    QUEXAL_ON_BUS=1 QUEXAL_ON_XVFB=1 exec xvfb-run -a -s "-screen 0 1366x768x24" dbus-run-session -- "$0" "$editor"
 fi
 
 # shellcheck source=tests/program/session.sh

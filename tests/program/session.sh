@@ -1,7 +1,11 @@
 # shellcheck shell=bash
-# What the tests of the real program share: a scratch folder, $work, which is also the home of what they start and goes
-# with it at the end; an end with a message; pressing keys and waiting for windows. To be sourced on an X server; the
-# program's own messages belong into $work/editor.log.
+# What the tests of the real program share: an X server of their own; a scratch folder, $work, which is also the home of
+# what they start and goes with it at the end; an end with a message; pressing keys and waiting for windows. To be
+# sourced first; the program's own messages belong into $work/editor.log.
+
+if [ -z "${QUEXAL_ON_XVFB-}" ]; then
+    QUEXAL_ON_XVFB=1 exec xvfb-run -a -s "-screen 0 1366x768x24" "$0" "$@"
+fi
 
 work=$(mktemp -d)
 # shellcheck disable=SC2317 # called by the trap

@@ -6,10 +6,6 @@ set -euo pipefail
 editor=$(readlink -f "$1")
 data=$(readlink -f "$2")
 
-if [ -z "${QUEXAL_ON_XVFB-}" ]; then
-    QUEXAL_ON_XVFB=1 exec xvfb-run -a -s "-screen 0 1366x768x24" "$0" "$editor" "$data"
-fi
-
 # shellcheck source=tests/program/session.sh
 . "$(dirname "$(readlink -f "$0")")/session.sh"
 
