@@ -152,13 +152,15 @@ std::string_view ObstacleTo(Control control, const Session& session) {
     case OneSelected:
         return isOk ? "change the text first" : CancelFirst;
     case EditingVariation:
-    case AddingAcceptable:
         return "first Ok (Enter) or Cancel (Esc)";
     case AddingUnacceptable:
         if (isOk) {
             return IsDistrict(lCurrentDistrict) ? "type a variation first" : WayToDistrict(session);
         }
-        return CancelFirst;
+        [[fallthrough]];
+    case AddingAcceptable:
+        // The same while the text becomes acceptable, so that a key does not describe every button anew.
+        return "finish adding first: Ok (Enter) or Cancel (Esc)";
     case SeveralSelected:
         return ObstacleWhenSeveral(control, session);
     default:

@@ -54,6 +54,16 @@ TEST_F(ObstaclesTest, InAnIdleDistrictVariationsAreToBeChosen) {
     EXPECT_EQ(ObstacleTo(Control::cbOk), "first add a variation or choose one");
 }
 
+TEST_F(ObstaclesTest, WhatIsBeingAddedIsToBeFinished) {
+    ChooseAlpha();
+    player.Press(Control::cbAdd);
+    EXPECT_EQ(ObstacleTo(Control::cbOpen), "finish adding first: Ok (Enter) or Cancel (Esc)");
+    EXPECT_EQ(ObstacleTo(Control::cbOk), "type a variation first");
+    player.Enter("Alfas");
+    EXPECT_EQ(ObstacleTo(Control::cbOpen), "finish adding first: Ok (Enter) or Cancel (Esc)");
+    EXPECT_EQ(ObstacleTo(Control::cbOk), "");
+}
+
 TEST_F(ObstaclesTest, AChoiceOfVariationsIsToBeGivenUp) {
     ChooseAlpha();
     player.Select({0});

@@ -6,6 +6,8 @@
 #include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
+#include <QPaintEvent>
 
 namespace Ui {
 
@@ -23,6 +25,7 @@ QString Allowed(QString text) {
 
 EditBox::EditBox(QWidget* parent) : QLineEdit(parent) {
     setMaxLength(static_cast<int>(CommonRoutines::LongestEditableText));
+    setAttribute(Qt::WA_OpaquePaintEvent); // so that a key paints nothing of what stands around the box
     connect(this, &QLineEdit::inputRejected, this,
             [this] { Q_EMIT KeyRefused(QStringLiteral("The text is longer than what can be edited here.")); });
     connect(this, &QLineEdit::textEdited, this, &EditBox::ReplaceForeignCharacters);
@@ -42,6 +45,12 @@ void EditBox::dragEnterEvent(QDragEnterEvent* event) {
     } else {
         QLineEdit::dragEnterEvent(event);
     }
+}
+
+// The edge of the box leaves its corners free.
+void EditBox::paintEvent(QPaintEvent* event) {
+    QPainter(this).fillRect(event->rect(), parentWidget()->palette().window());
+    QLineEdit::paintEvent(event);
 }
 
 QString EditBox::WhyRefused(const QString& typed) const {

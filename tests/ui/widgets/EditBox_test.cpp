@@ -11,6 +11,19 @@ using namespace CommonRoutines;
 
 namespace {
 
+// Counts how often a widget is painted.
+class Paints : public QObject {
+public:
+    explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* /*widget*/, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
 class EditBoxTest : public EditingTest {
 protected:
     EditBoxTest() { OpenDistrict(); }
@@ -44,6 +57,23 @@ protected:
 };
 
 } // namespace
+
+TEST_F(EditBoxTest, AKeyPaintsTheBoxAndNothingAroundIt) {
+    Type(QStringLiteral("Ne"));
+    QCoreApplication::processEvents();
+    const Paints box(Box());
+    const Paints around(*Box().parentWidget());
+    Type(QStringLiteral("w"));
+    QCoreApplication::processEvents();
+    EXPECT_GT(box.count, 0);
+    EXPECT_EQ(around.count, 0);
+}
+
+TEST_F(EditBoxTest, ItsCornersHaveTheColourOfTheWindow) {
+    const QImage picture = Box().window()->grab().toImage();
+    const QPoint corner = Box().mapTo(Box().window(), QPoint(0, 0));
+    EXPECT_EQ(picture.pixelColor(corner), picture.pixelColor(corner - QPoint(1, 1)));
+}
 
 TEST_F(EditBoxTest, ABlankIsRefusedAtTheStartAndBehindAMarker) {
     ExpectRefused(" ", "");
