@@ -46,6 +46,7 @@ void TypeText(Session& session, std::string_view text) {
 void FollowEditText(Session& session) {
     WindowView& view = session.view;
     EmptyWhyError(session);
+    view.edit.isPending = true;
     if (view.edit.text.size() > LongestEditableText) {
         ApplyWindowMode(session);
         view.status = "This text is too long to be edited here.";
@@ -63,6 +64,8 @@ void FollowEditText(Session& session) {
     } else {
         view.edit.refusal.clear();
     }
+    // An emptied box holds nothing, unless it empties a variation.
+    view.edit.isPending = !view.edit.text.empty() || iEditMode == EditingVariation;
     UpdateMarkerOptions(session);
 }
 
@@ -130,6 +133,7 @@ void ClickVolume(Session& session, bool ticked) {
 void PutIntoEditBox(Session& session, std::string_view text) {
     EditView& edit = session.view.edit;
     edit.text = text.substr(0, LongestEditableText + 1);
+    edit.isPending = false;
     edit.refusal.clear();
     ++edit.filled;
     UpdateMarkerOptions(session);

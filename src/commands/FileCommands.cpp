@@ -20,13 +20,11 @@ namespace Commands {
 
 namespace {
 
+// A text that is only typed is no change of the table, and must be no reason to save it.
 bool ConfirmDiscard(Session& session) {
-    // A cancelled or failed save costs nothing, unless the recovery file could not be written either.
-    if (!bChanged && !Unsaved.AreUnwritten()) {
-        return true;
-    }
-    bChanged = true; // the save that cleared it has saved nothing
-    return session.desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
+    bChanged = bChanged || Unsaved.HasChanges(); // a save that cleared it may have saved nothing
+    return (!bChanged && !session.view.edit.isPending) ||
+           session.desktop.MsgBox("This will loose your changes.\r\nAre you sure you want to do this?",
                                   BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
 }
 
@@ -57,6 +55,7 @@ void ReadAndShow(Session& session, const std::string& path) {
     if (bChanged) {
         Unsaved.Remove(session.desktop); // they were given up; until now the choice of a file could be cancelled
     }
+    session.view.edit.isPending = false;
     sDataFileName = path;
     RememberFolder(session, path, Settings::DataFolder);
     bChanged = false;

@@ -17,17 +17,17 @@ struct Settings {
 // What happens once before the window is used: the word list is read, all is set for "no file".
 void Start(Session& session);
 
-// Asks for a data file and opens it, unless unsaved changes are to be kept. Cancelled, it leaves an emptied
-// window and the old table.
+// Asks for a data file and opens it, unless what no file holds, a text in the edit box included, is to be kept.
+// Cancelled, it leaves an emptied window and the old table.
 void Open(Session& session);
 
 // The same for a file that is known already.
 void OpenPath(Session& session, const std::string& path);
 
-// Asks for a name and writes the table there. Unsaved changes count as saved whatever came of it.
+// Asks for a name and writes the table there. bChanged is cleared whatever came of it.
 void Save(Session& session);
 
-// Asks, where there are unsaved changes, whether the window may be closed. They are given up then.
+// Asks, where something is in no file, whether the window may be closed. It is given up then.
 [[nodiscard]] bool ConfirmClose(Session& session);
 
 // Keeps the folder of a chosen file for the next dialogue.

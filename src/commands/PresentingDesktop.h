@@ -34,6 +34,7 @@ public:
     void ShowBusy(bool busy) override { (busy ? Presented() : m_machine).ShowBusy(busy); }
 
     std::optional<std::string> ReadFile(const std::string& path) override { return m_machine.ReadFile(path); }
+    bool HasContent(const std::string& path) override { return m_machine.HasContent(path); }
     bool ReplaceFile(const std::string& path, std::string_view content) override {
         return m_machine.ReplaceFile(path, content);
     }

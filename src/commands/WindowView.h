@@ -37,6 +37,7 @@ struct EditView {
     CommonRoutines::MarkerOptions options;
     std::string refusal;     // why the text cannot be stored, while it is being added; empty where it can
     std::string keyRefusal;  // why the key just pressed was refused
+    bool isPending = false;  // the text is meant for the table, and "Ok" has not stored it yet
     std::int32_t filled = 0; // how often by the program: what was typed before cannot be taken back
 };
 

@@ -47,8 +47,8 @@ extern std::int32_t lDistrictTotal; // district lines; read by DistrictsByName
 extern std::int32_t lInvalidTotal;  // invalid variations; kept as a result of the load, nothing reads it
 extern std::int32_t lCapsOkTotal;   // variations without a capitalisation problem; kept like it, nothing reads it
 
-// Answer of the repair dialogue. Written by RepairNullVariation, reset by ReadDistrictFile. Read there and by
-// the opening of a file.
+// Answer of the repair dialogue. Written by RepairNullVariation, reset by ReadDistrictFile. Read there, by
+// the opening of a file and by SaveDistrictFile.
 enum RepairAction : std::int16_t {
     NoRepair = 0,
     CombinePrevious = 1,

@@ -46,6 +46,9 @@ public:
     void KeepFields(std::int32_t line, const std::vector<std::string>& fields) { m_fields[line] = fields; }
     [[nodiscard]] std::vector<std::string> FieldsAsRead(std::int32_t line) const;
 
+    // True while there are changes that no data file holds.
+    [[nodiscard]] bool HasChanges() const { return !m_content.empty(); }
+
     // True while there are changes that could not be written.
     [[nodiscard]] bool AreUnwritten() const { return m_onDisk != m_content.size(); }
 

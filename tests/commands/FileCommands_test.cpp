@@ -1,6 +1,7 @@
 #include "commands/FileCommands.h"
 
 #include "commands/EditingPlayer.h"
+#include "edit/EditPanel.h"
 #include "edit/Variations.h"
 #include "recovery/OpenMark.h"
 
@@ -46,6 +47,20 @@ protected:
     std::string Proposed() {
         SaveTo(std::nullopt);
         return desktop.lastRequest.folder + '/' + desktop.lastRequest.fileName;
+    }
+    void ExpectQuestion(BoxAnswer answer) {
+        desktop.ExpectBox("This will loose your changes.\r\nAre you sure you want to do this?", BoxIcon::Question,
+                          BoxButtons::YesNoDefaultNo, answer);
+    }
+    // Whatever would take the table away asks first.
+    void ExpectThatNoKeeps(const std::string& variation) {
+        ExpectQuestion(BoxAnswer::No);
+        session.Run(Open);
+        ExpectQuestion(BoxAnswer::No);
+        session.Run([](Session& now) { OpenPath(now, CopyPath); });
+        ExpectQuestion(BoxAnswer::No);
+        session.Run([](Session& now) { EXPECT_FALSE(ConfirmClose(now)); });
+        EXPECT_EQ(VariationAt(1, 1).Text, variation);
     }
     // Whether another editor that opens a file now is told.
     bool IsMarked(const std::string& path) {
@@ -182,16 +197,86 @@ TEST_F(FileCommandsTest, AFileThatIsNotChosenLeavesTheOpenOneAsItWas) {
 }
 
 TEST_F(FileCommandsTest, BeforeChangesAreLostNoIsTheDefault) {
-    const auto expectQuestion = [&] {
-        desktop.ExpectBox("This will loose your changes.\r\nAre you sure you want to do this?", BoxIcon::Question,
-                          BoxButtons::YesNoDefaultNo, BoxAnswer::No);
-    };
     Change("Fir");
-    expectQuestion();
-    session.Run(Open);
-    expectQuestion();
-    session.Run([](Session& now) { OpenPath(now, CopyPath); });
-    expectQuestion();
-    EXPECT_FALSE(ConfirmClose(session));
+    ExpectThatNoKeeps("Fir");
+}
+
+TEST_F(FileCommandsTest, WhatACancelledSaveHasNotSavedIsAskedAbout) {
+    Change("Fir");
+    SaveTo(std::nullopt);
+    EXPECT_FALSE(bChanged);
+    ExpectThatNoKeeps("Fir");
+    EXPECT_TRUE(bChanged) << "so that it can be saved now";
+}
+
+TEST_F(FileCommandsTest, WhatAFailedSaveHasNotSavedIsAskedAbout) {
+    Change("Fir");
+    desktop.canWrite = false;
+    SaveTo(DataFilePath);
+    EXPECT_FALSE(bChanged);
+    ExpectThatNoKeeps("Fir");
+}
+
+TEST_F(FileCommandsTest, WhatIsGivenUpAfterACancelledSaveIsNotOfferedAgain) {
+    Change("Fir");
+    SaveTo(std::nullopt);
+    ExpectQuestion(BoxAnswer::Yes);
+    EXPECT_TRUE(ConfirmClose(session));
+    DieAndOpen(DataFilePath);
+    EXPECT_EQ(VariationAt(1, 1).Text, "Ash");
+}
+
+TEST_F(FileCommandsTest, WhatIsInTheFileIsNotAskedAbout) {
+    Change("Fir");
+    SaveTo(DataFilePath);
+    EXPECT_TRUE(ConfirmClose(session));
+    OpenFile();
     EXPECT_EQ(VariationAt(1, 1).Text, "Fir");
+}
+
+TEST_F(FileCommandsTest, ATextThatIsNotCommittedIsAskedAbout) {
+    // Acceptable, not acceptable, and longer than what can be edited.
+    for (const std::string& text :
+         {std::string("Fir"), std::string("Ash"), std::string(LongestEditableText + 1, 'x')}) {
+        session.Run([](Session& now) { ChooseDistrict(now, {0}); });
+        session.Run([&](Session& now) { TypeText(now, text); });
+        ExpectThatNoKeeps("Ash");
+        EXPECT_EQ(screen.shown.edit.text, text);
+        EXPECT_FALSE(bChanged) << "there is nothing to save";
+    }
+}
+
+TEST_F(FileCommandsTest, AnEditThatIsNotCommittedIsAskedAbout) {
+    for (const std::string text : {"Ashes", ""}) {
+        session.Run([](Session& now) { ChooseDistrict(now, {0}); });
+        session.Run([](Session& now) { SelectVariations(now, {0}); });
+        session.Run([&](Session& now) { TypeText(now, text); });
+        ExpectThatNoKeeps("Ash");
+        EXPECT_EQ(screen.shown.edit.text, text);
+    }
+}
+
+TEST_F(FileCommandsTest, ATextThatIsGivenUpWithItsFileIsNotAskedAboutAgain) {
+    session.Run([](Session& now) { ChooseDistrict(now, {0}); });
+    session.Run([](Session& now) { TypeText(now, "Fir"); });
+    ExpectQuestion(BoxAnswer::Yes);
+    OpenFile();
+    EXPECT_TRUE(ConfirmClose(session));
+}
+
+TEST_F(FileCommandsTest, ABoxThatHoldsNothingOfItsOwnIsNotAskedAbout) {
+    session.Run([](Session& now) { ChooseDistrict(now, {0}); });
+    for (const auto& command :
+         std::vector<std::function<void(Session&)>>{[](Session& now) { SelectVariations(now, {0}); }, StartAdding,
+                                                    [](Session& now) {
+                                                        TypeText(now, "F");
+                                                        TypeText(now, "");
+                                                    },
+                                                    [](Session& now) {
+                                                        TypeText(now, "Fir");
+                                                        Cancel(now);
+                                                    }}) {
+        session.Run(command);
+        EXPECT_TRUE(ConfirmClose(session));
+    }
 }

@@ -129,3 +129,20 @@ TEST_F(FailingCallsTest, TheContentIsOnTheDiskBeforeItsNameIsAndTheNameBeforeSav
     EXPECT_TRUE(session.Reached("saved"));
     EXPECT_TRUE(IsOnDisk(session.Calls(), place.file));
 }
+
+TEST_F(FailingCallsTest, BehindAFailedSaveTheWindowAsksBeforeItClosesAndCanSaveAgain) {
+    PrepareDisk();
+    Steps steps = EditAndSave();
+    steps.insert(steps.end(), {"close", "save", place.file, "close"});
+    Session undisturbed(place, EditAndSave());
+    undisturbed.Finish();
+    const Calls calls = undisturbed.Calls();
+    const auto written = std::find_if(calls.begin(), calls.end(), [](const Call& call) { return call.kind == "sync"; });
+    PrepareDisk();
+    Session session(place, steps, {"fail", static_cast<int>(written - calls.begin()) + 1, EIO});
+    session.Finish();
+    EXPECT_TRUE(session.Said().ends_with("\nsaving\nbox This will loose your changes.\nstill open\n"
+                                         "saving\nsaved\nclosed\nfinished\n"))
+        << session.Said();
+    ExpectContent(place.file, ContentAfter(Edits));
+}

@@ -8,6 +8,7 @@ using namespace Ui;
 namespace {
 
 constexpr std::string_view UnsavedChanges = "There are unsaved changes of ";
+constexpr std::string_view LosesChanges = "This will loose your changes.";
 constexpr std::string_view FileSaved = "File Saved to ";
 
 // The rows that follow each other in the numbers of edits are far apart in the list.
@@ -34,7 +35,7 @@ BoxAnswer SessionDesktop::MsgBox(const Wording& text, BoxIcon icon, BoxButtons b
     const BoxAnswer answer = AnsweringDesktop::MsgBox(text, icon, buttons);
     const bool refuses =
         buttons == BoxButtons::YesNo && text.Utf8().starts_with(UnsavedChanges) && !wantsUnsavedChanges;
-    return refuses ? BoxAnswer::No : answer;
+    return refuses || text.Utf8().starts_with(LosesChanges) ? BoxAnswer::No : answer;
 }
 
 bool SessionWindow::SelectVariation(int number) {

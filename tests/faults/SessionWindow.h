@@ -9,7 +9,7 @@
 // Says on the standard output, at once and whole, what has been reached.
 void Milestone(std::string_view text);
 
-// Questions are answered with Yes, unless they are about unsaved changes and these are not wanted. Boxes and
+// Questions are answered with Yes, unless unsaved changes would be lost, or are not wanted back. Boxes and
 // the outcome of a save are milestones.
 class SessionDesktop : public Ui::AnsweringDesktop {
 public:
@@ -29,6 +29,8 @@ public:
     void MakeEdit(int number);
     // Saves, where there is something to save.
     void Save(const std::string& path);
+    // Closes the window. False when it asked whether unsaved changes may be lost, and so stayed open.
+    bool Close() { return Window().close(); }
 
 private:
     // Clicks on one of the rows, as the number says. False in an empty list.

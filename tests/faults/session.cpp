@@ -2,10 +2,11 @@
 //   open PATH            opens a data file
 //   edits FIRST LAST     makes the edits with these numbers
 //   save PATH            saves, where there is something to save
+//   close                closes the window, but keeps what that would lose
 //   pause                stops until it is continued
 //   refuse               from now on, unsaved changes of an earlier session are not wanted
 // What is reached is printed, a line each: "opened", "edit NUMBER", "saving", "saved" when the program said so,
-// "nothing to save", "box TEXT" for every box, and "finished" after the last step.
+// "nothing to save", "closed" or "still open", "box TEXT" for every box, and "finished" after the last step.
 
 #include "SessionWindow.h"
 
@@ -61,6 +62,8 @@ void Play(SessionWindow& window, Steps& steps) {
         MakeEdits(window, first, std::stoi(steps.Next()));
     } else if (step == "save") {
         window.Save(steps.Next());
+    } else if (step == "close") {
+        Milestone(window.Close() ? "closed" : "still open");
     } else if (step == "pause") {
         std::raise(SIGSTOP);
     } else if (step == "refuse") {

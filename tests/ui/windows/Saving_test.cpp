@@ -129,6 +129,19 @@ TEST_F(SavingTest, ClosingWithChangesAsksAndYesClosesTheWindow) {
     EXPECT_FALSE(form->isVisible());
 }
 
+TEST_F(SavingTest, ClosingWithATextInTheBoxAsksAndNoKeepsTheText) {
+    bChanged = false;
+    Click("cbAdd");
+    Type(QStringLiteral("Fir"));
+    ExpectLooseChanges(BoxAnswer::No);
+    EXPECT_FALSE(form->close());
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Find<QLineEdit>("tbEdit").text(), QStringLiteral("Fir"));
+    EXPECT_TRUE(Enabled("cbOk"));
+    ExpectLooseChanges(BoxAnswer::Yes);
+    EXPECT_TRUE(form->close());
+}
+
 TEST_F(SavingTest, ClosingWithoutChangesAsksNothing) {
     bChanged = false;
     EXPECT_TRUE(form->close());
