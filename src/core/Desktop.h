@@ -64,6 +64,8 @@ public:
 
     // The whole content of a file; nothing when it cannot be read.
     virtual std::optional<std::string> ReadFile(const std::string& path) = 0;
+    // Whether a file is there and something stands in it.
+    virtual bool HasContent(const std::string& path) = 0;
     // Replaces a file at once and as a whole. False when that failed: the old file is then as it was.
     virtual bool ReplaceFile(const std::string& path, std::string_view content) = 0;
     // The path without links in it; the path itself when nothing is there.

@@ -6,6 +6,8 @@
 #include "recovery/OpenFile.h"
 #include "recovery/UnsavedChanges.h"
 
+#include <optional>
+
 namespace CommonRoutines {
 
 namespace {
@@ -29,6 +31,23 @@ void ForEachPiece(Take take) {
     }
 }
 
+std::optional<std::string> ChooseTarget(Desktop& desktop) {
+    FileRequest request;
+    request.folder = Paths::FolderOf(TheOpenFile.Path());
+    if (iRepairAction != Quit) { // behind it the table has nothing of the file
+        request.fileName = Paths::NameOf(TheOpenFile.Path());
+    }
+    return desktop.ChooseFileToSave(request);
+}
+
+// A file without lines may hold the mark of its encoding, which is written again.
+bool MayReplace(Desktop& desktop, const std::string& path) {
+    return lLineCount > 0 || !desktop.HasContent(path) || desktop.ReadFile(path) == Encoded({}, eFileEncoding) ||
+           desktop.MsgBox("There are no lines to save.  This will empty the file:\r\n" + Wording::OfPath(path) +
+                              "\r\nAre you sure you want to do this?",
+                          BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
+}
+
 } // namespace
 
 std::string DistrictFileContent() {
@@ -42,11 +61,8 @@ std::string DistrictFileContent() {
 }
 
 void SaveDistrictFile(Desktop& desktop) {
-    FileRequest request;
-    request.folder = Paths::FolderOf(TheOpenFile.Path());
-    request.fileName = Paths::NameOf(TheOpenFile.Path());
-    const auto path = desktop.ChooseFileToSave(request);
-    if (!path) {
+    const auto path = ChooseTarget(desktop);
+    if (!path || !MayReplace(desktop, *path)) {
         return;
     }
     desktop.ShowBusy(true);

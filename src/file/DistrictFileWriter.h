@@ -10,8 +10,9 @@ class Desktop;
 // each line ended by CR LF.
 [[nodiscard]] std::string DistrictFileContent();
 
-// Asks for a file name, the open file's being proposed, writes the table there and says so. That file is the
-// open one from then on. A cancelled dialogue or a failed write ends silently, with the file as it was.
+// Asks for a file name, the open file's being proposed unless reading it was quit, writes the table there and says
+// so. That file is the open one from then on. Before an empty table empties a file there is a question. A cancelled
+// dialogue, a No or a failed write ends silently, with the file as it was.
 void SaveDistrictFile(Desktop& desktop);
 
 } // namespace CommonRoutines

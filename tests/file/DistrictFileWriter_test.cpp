@@ -105,6 +105,49 @@ TEST_F(DistrictFileWriterTest, SavingReplacesTheOldContent) {
     EXPECT_EQ(m_desktop.files["C:\\data\\old.txt"], "# new\r\n");
 }
 
+TEST_F(DistrictFileWriterTest, NothingReplacesAFileOnlyWhenThatIsWanted) {
+    const std::string path = "/data/caf\xC3\xA9.txt";
+    const auto save = [&](BoxAnswer answer) {
+        m_desktop.ExpectSave(path);
+        m_desktop.ExpectBox("There are no lines to save.  This will empty the file:\r\n" + Wording::OfPath(path) +
+                                "\r\nAre you sure you want to do this?",
+                            BoxIcon::Question, BoxButtons::YesNoDefaultNo, answer);
+        if (answer == BoxAnswer::Yes) {
+            m_desktop.ExpectBox("File Saved to " + Wording::OfPath(path), BoxIcon::Information);
+        }
+        SaveDistrictFile(m_desktop);
+    };
+    m_desktop.files[path] = "old";
+    save(BoxAnswer::No);
+    EXPECT_EQ(m_desktop.files[path], "old");
+    save(BoxAnswer::Yes);
+    EXPECT_EQ(m_desktop.files[path], "");
+}
+
+TEST_F(DistrictFileWriterTest, WhereNothingIsLostNothingIsAsked) {
+    const auto save = [&](const std::string& path) {
+        m_desktop.ExpectSave(path);
+        m_desktop.ExpectBox("File Saved to " + path, BoxIcon::Information);
+        SaveDistrictFile(m_desktop);
+    };
+    m_desktop.files["/data/empty.txt"] = "";
+    save("/data/empty.txt");
+    save("/data/new.txt");
+    m_desktop.files["/data/old.txt"] = "old";
+    AddRetained("");
+    save("/data/old.txt");
+    EXPECT_EQ(m_desktop.files["/data/old.txt"], "\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, ATableWhoseReadingWasQuitProposesNoName) {
+    TheOpenFile.BeginReading(m_desktop, "/data/north/districts.txt", "");
+    iRepairAction = Quit;
+    m_desktop.ExpectSave(std::nullopt);
+    SaveDistrictFile(m_desktop);
+    EXPECT_EQ(m_desktop.lastRequest.folder, "/data/north");
+    EXPECT_EQ(m_desktop.lastRequest.fileName, "");
+}
+
 TEST_F(DistrictFileWriterTest, ACancelledDialogueEndsSilently) {
     AddRetained("# note");
     m_desktop.ExpectSave(std::nullopt);

@@ -32,6 +32,7 @@ public:
         return std::nullopt;
     }
     std::optional<std::string> ReadFile(const std::string& /*path*/) override { return std::nullopt; }
+    bool HasContent(const std::string& /*path*/) override { return false; }
     bool ReplaceFile(const std::string& /*path*/, std::string_view /*content*/) override { return true; }
     std::string TruePath(const std::string& path) override { return path; }
     CommonRoutines::StateFolder& State() override { return state; }

@@ -60,6 +60,7 @@ public:
     std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ReadFile(const std::string& path) override;
+    bool HasContent(const std::string& path) override { return files.contains(path) && !files[path].empty(); }
     bool ReplaceFile(const std::string& path, std::string_view content) override;
     bool ShowDocument(const std::string& path) override;
     void EnterProgramFolder() override { ++programFolderEntries; }

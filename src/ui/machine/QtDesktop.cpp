@@ -226,6 +226,10 @@ std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
     return DurableFile::Read(Text::PathToQt(path), [this](double part) { ShowProgress("Reading the file", part); });
 }
 
+bool QtDesktop::HasContent(const std::string& path) {
+    return QFileInfo(Text::PathToQt(path)).size() > 0;
+}
+
 bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
     return DurableFile::Replace(Text::PathToQt(path), content,
                                 [this](double part) { ShowProgress("Writing the file", part); });

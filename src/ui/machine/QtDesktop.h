@@ -26,6 +26,7 @@ public:
     std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ReadFile(const std::string& path) override;
+    bool HasContent(const std::string& path) override;
     bool ReplaceFile(const std::string& path, std::string_view content) override;
     std::string TruePath(const std::string& path) override;
     CommonRoutines::StateFolder& State() override { return m_state; }

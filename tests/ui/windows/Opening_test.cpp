@@ -223,6 +223,7 @@ TEST_F(FormTest, AfterQuitSavingWritesAnEmptyFile) {
     desktop.ExpectSave("/data/saved.txt");
     desktop.ExpectBox("File Saved to /data/saved.txt", BoxIcon::Information);
     Click("cbSave");
+    EXPECT_EQ(desktop.lastRequest.fileName, "");
     ASSERT_TRUE(desktop.files.contains("/data/saved.txt"));
     EXPECT_EQ(desktop.files["/data/saved.txt"], "");
 }
