@@ -5,7 +5,6 @@
 #include "ui/windows/VarCheck.h"
 
 #include <QElapsedTimer>
-#include <QSettings>
 
 #include <algorithm>
 
@@ -25,7 +24,7 @@ double Milliseconds(const QElapsedTimer& clock) {
 } // namespace
 
 PrivateSettings::PrivateSettings() {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
+    qputenv("XDG_CONFIG_HOME", m_folder.path().toUtf8());
 }
 
 BenchWindow::BenchWindow() {

@@ -5,6 +5,7 @@
 #include "core/Wording.h"
 
 #include <QFile>
+#include <QUrl>
 
 #include <algorithm>
 #include <utility>
@@ -94,6 +95,12 @@ QString PathToQt(const std::string& path) {
 
 std::string PathFromQt(const QString& path) {
     return QFile::encodeName(path).toStdString();
+}
+
+std::string PathFromUrl(const QUrl& url) {
+    // Decoded by the toolkit, bytes that are no characters would be lost.
+    return url.host().isEmpty() ? QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString()
+                                : PathFromQt(url.toLocalFile());
 }
 
 QString ShownPath(const std::string& path) {

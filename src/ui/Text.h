@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+class QUrl;
+
 namespace CommonRoutines {
 class Wording;
 } // namespace CommonRoutines
@@ -33,6 +35,7 @@ inline constexpr std::size_t LongestShown = 2000;
 // File names are in the machine's own encoding. Shown, a control character in one is a visible symbol.
 [[nodiscard]] QString PathToQt(const std::string& path);
 [[nodiscard]] std::string PathFromQt(const QString& path);
+[[nodiscard]] std::string PathFromUrl(const QUrl& url); // of a local file; its name need not be UTF-8
 [[nodiscard]] QString ShownPath(const std::string& path);
 
 // A wording with its paths as they are shown: with exactly the characters of its texts, or for message boxes.

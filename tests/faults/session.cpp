@@ -4,6 +4,9 @@
 //   save PATH            saves, where there is something to save
 //   close                closes the window, but keeps what that would lose
 //   pause                stops until it is continued
+//   largest SIZE         from now on, no file may grow beyond this size
+//   handles              from now on, no further file may be opened
+//   unlimited            takes these two back
 //   refuse               from now on, unsaved changes of an earlier session are not wanted
 // What is reached is printed, a line each: "opened", "edit NUMBER", "saving", "saved" when the program said so,
 // "nothing to save", "closed" or "still open", "box TEXT" for every box, and "finished" after the last step.
@@ -12,10 +15,12 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <string>
 
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
@@ -52,6 +57,20 @@ void MakeEdits(SessionWindow& window, int first, int last) {
     }
 }
 
+// As far as it may be raised again.
+void Limit(__rlimit_resource resource, rlim_t most) {
+    rlimit limit{};
+    getrlimit(resource, &limit);
+    limit.rlim_cur = std::min(most, limit.rlim_max);
+    setrlimit(resource, &limit);
+}
+
+rlim_t FirstFreeHandle() {
+    const int handle = dup(STDOUT_FILENO);
+    close(handle);
+    return static_cast<rlim_t>(handle);
+}
+
 void Play(SessionWindow& window, Steps& steps) {
     const std::string step = steps.Next();
     if (step == "open") {
@@ -66,6 +85,13 @@ void Play(SessionWindow& window, Steps& steps) {
         Milestone(window.Close() ? "closed" : "still open");
     } else if (step == "pause") {
         std::raise(SIGSTOP);
+    } else if (step == "largest") {
+        Limit(RLIMIT_FSIZE, std::stoul(steps.Next()));
+    } else if (step == "handles") {
+        Limit(RLIMIT_NOFILE, FirstFreeHandle());
+    } else if (step == "unlimited") {
+        Limit(RLIMIT_FSIZE, RLIM_INFINITY);
+        Limit(RLIMIT_NOFILE, RLIM_INFINITY);
     } else if (step == "refuse") {
         window.desktop.wantsUnsavedChanges = false;
     } else {

@@ -2,7 +2,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSettings>
 #include <QSize>
 #include <QStyleFactory>
 #include <QTemporaryDir>
@@ -41,12 +40,12 @@ int main(int argc, char* argv[]) {
     QTemporaryFile screens;
     DescribeScreens(screens);
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
+    const QTemporaryDir settings; // and never the user's own
+    qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    qputenv("XDG_STATE_HOME", settings.path().toUtf8());
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
-    // One look on every machine, and never the user's own settings.
+    // One look on every machine.
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    const QTemporaryDir settings;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-    qputenv("XDG_STATE_HOME", settings.path().toUtf8());
     return RUN_ALL_TESTS();
 }

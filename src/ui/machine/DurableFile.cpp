@@ -84,7 +84,9 @@ std::optional<std::string> Read(const QString& path, const Listener& listener) {
         // A disk that fails half way must not make a part pass for the file.
         return file.read(content.data() + start, static_cast<qint64>(size)) == static_cast<qint64>(size);
     });
-    return isRead ? std::optional(std::move(content)) : std::nullopt;
+    // Some files say that they are empty and are not, and others grow meanwhile.
+    char more = 0;
+    return isRead && file.read(&more, 1) == 0 ? std::optional(std::move(content)) : std::nullopt;
 }
 
 bool Replace(const QString& path, std::string_view content, const Listener& listener) {

@@ -4,6 +4,9 @@
 #include "ui/machine/DateTimeText.h"
 #include "ui/machine/DurableFile.h"
 #include "ui/machine/Memory.h"
+#include "ui/machine/PlainBoxes.h"
+#include "ui/machine/ReadableName.h"
+#include "ui/machine/SettingsFile.h"
 #include "ui/widgets/ButtonMarks.h"
 #include "ui/windows/VarCheck.h"
 #include "ui/windows/frmCustomMessageBox.h"
@@ -20,13 +23,13 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
-#include <QSettings>
 #include <QStyle>
 #include <QTextDocument>
 #include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
+#include <csignal>
 
 namespace Ui {
 
@@ -35,8 +38,6 @@ using namespace CommonRoutines;
 namespace {
 
 constexpr QLatin1String ProgramTitle("Quexal Editor");
-constexpr QLatin1String SettingsOrganisation("Quexal");
-constexpr QLatin1String SettingsApplication("QXEdit");
 
 constexpr QMarginsF PageMargins(20, 20, 20, 20); // millimetres
 
@@ -127,6 +128,13 @@ void LetTabReachText(QMessageBox& box) {
 
 } // namespace
 
+QtDesktop::QtDesktop() {
+#ifdef SIGXFSZ
+    // A write beyond the largest size that a file may have is to fail, not to end the program.
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
+}
+
 BoxAnswer QtDesktop::ShowBox(const QString& title, const Wording& text, BoxIcon icon, BoxButtons buttons) {
     QMessageBox box(IconOf(icon), title, Text::WordingForBox(text), ButtonsOf(buttons), m_window);
     box.setTextFormat(Qt::PlainText);
@@ -195,6 +203,7 @@ std::optional<std::string> QtDesktop::Choose(QFileDialog& dialog, const FileRequ
     if (!request.fileName.empty()) {
         dialog.selectFile(Text::PathToQt(request.fileName));
     }
+    const PlainBoxes plain;
     dialog.setDefaultSuffix(Text::ToQt(request.defaultExtension));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
@@ -203,12 +212,14 @@ std::optional<std::string> QtDesktop::Choose(QFileDialog& dialog, const FileRequ
 }
 
 std::optional<std::string> QtDesktop::ChooseFileToOpen(const FileRequest& request) {
+    SettingsFile::KeepToolkitFromWaiting();
     QFileDialog dialog(m_window, QStringLiteral("Open"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     return Choose(dialog, request);
 }
 
 std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& request) {
+    SettingsFile::KeepToolkitFromWaiting();
     QFileDialog dialog(m_window, QStringLiteral("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.asksBeforeReplacing);
@@ -223,7 +234,8 @@ std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& reques
 
 std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
     Memory::LimitToWhatIsLeft(); // what a file asks for must not be more
-    return DurableFile::Read(Text::PathToQt(path), [this](double part) { ShowProgress("Reading the file", part); });
+    const ReadableName name(path);
+    return DurableFile::Read(name.ForToolkit(), [this](double part) { ShowProgress("Reading the file", part); });
 }
 
 bool QtDesktop::HasContent(const std::string& path) {
@@ -254,13 +266,11 @@ void QtDesktop::EnterProgramFolder() {
 }
 
 std::string QtDesktop::GetSetting(std::string_view section, std::string_view key) {
-    const QSettings settings(SettingsOrganisation, SettingsApplication);
-    return Text::PathFromQt(settings.value(SettingName(section, key)).toString());
+    return Text::PathFromQt(SettingsFile::Value(SettingName(section, key)));
 }
 
 void QtDesktop::SaveSetting(std::string_view section, std::string_view key, const std::string& value) {
-    QSettings settings(SettingsOrganisation, SettingsApplication);
-    settings.setValue(SettingName(section, key), Text::PathToQt(value));
+    SettingsFile::SetValue(SettingName(section, key), Text::PathToQt(value));
 }
 
 bool QtDesktop::Print(std::span<const Wording> lines) {

@@ -14,6 +14,8 @@ namespace Ui {
 // The desktop as Qt shows it. Message boxes, dialogues, settings and the printer are named nowhere else.
 class QtDesktop : public CommonRoutines::Desktop {
 public:
+    QtDesktop();
+
     // The window that dialogues belong to.
     void SetWindow(QWidget* window) { m_window = window; }
 

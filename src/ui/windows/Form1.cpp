@@ -228,7 +228,7 @@ void Form1::dropEvent(QDropEvent* event) {
         return event->ignore();
     }
     event->acceptProposedAction();
-    const std::string path = Text::PathFromQt(event->mimeData()->urls().constFirst().toLocalFile());
+    const std::string path = Text::PathFromUrl(event->mimeData()->urls().constFirst());
     const bool isProcessed = ButtonForDropAt(event->position().toPoint()) == Commands::Control::btnProcess;
     const auto command = isProcessed ? Commands::ProcessPath : Commands::OpenPath;
     // Questions come up only when the program that the file was dragged from has been answered.

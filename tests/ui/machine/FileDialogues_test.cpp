@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
@@ -119,6 +120,30 @@ TEST_F(FileDialoguesTest, AnExistingFileIsReplacedOnlyAfterAQuestion) {
         DialogueGuide::ChooseFile(dialogue, path);
     });
     EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), path);
+}
+
+TEST_F(FileDialoguesTest, ANameThatLooksLikeMarkupIsShownAsItIs) {
+    const QString name = QStringLiteral("<img src=x><b>x.txt");
+    const auto expectPlain = [&](QWidget& box, const char* button) {
+        auto& question = dynamic_cast<QMessageBox&>(box);
+        EXPECT_EQ(question.textFormat(), Qt::PlainText);
+        EXPECT_TRUE(question.text().contains(name)) << question.text().toStdString();
+        EXPECT_EQ(question.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))->textFormat(), Qt::PlainText);
+        DialogueGuide::Press(box, button);
+    };
+    const std::string missing = Folder() + "/" + name.toStdString();
+    guide.Next([&](QWidget& dialogue) {
+        guide.Next([&](QWidget& box) { expectPlain(box, "OK"); });
+        DialogueGuide::ChooseFile(dialogue, missing);
+        dynamic_cast<QFileDialog&>(dialogue).reject();
+    });
+    EXPECT_EQ(desktop.ChooseFileToOpen(InFolder()), std::nullopt);
+    const std::string existing = Existing("<img src=x><b>x.txt");
+    guide.Next([&](QWidget& dialogue) {
+        guide.Next([&](QWidget& box) { expectPlain(box, "Yes"); });
+        DialogueGuide::ChooseFile(dialogue, existing);
+    });
+    EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), existing);
 }
 
 TEST_F(FileDialoguesTest, AReadOnlyFileIsRefusedAndTheDialogueComesAgain) {

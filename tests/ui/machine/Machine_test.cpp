@@ -11,12 +11,11 @@
 #include <QLocale>
 #include <QPrinterInfo>
 #include <QRegularExpression>
-#include <QSettings>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <csignal>
+#include <fstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -38,20 +37,16 @@ private:
 // Lets no file grow beyond a size, as a full disk would.
 class SmallDisk {
 public:
-    explicit SmallDisk(rlim_t size) : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
+    explicit SmallDisk(rlim_t size) {
         getrlimit(RLIMIT_FSIZE, &m_before);
         const rlimit small{size, m_before.rlim_max};
         EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
     }
-    ~SmallDisk() {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
+    ~SmallDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
     SmallDisk(const SmallDisk&) = delete;
     SmallDisk& operator=(const SmallDisk&) = delete;
 
 private:
-    void (*m_handler)(int);
     rlimit m_before{};
 };
 
@@ -137,14 +132,20 @@ TEST_F(MachineTest, AnotherNameOfTheFileKeepsTheOldContent) {
     EXPECT_EQ(desktop.ReadFile(Path("other")), "old");
 }
 
-TEST_F(MachineTest, SettingsComeBackAndAreEmptyUntilSaved) {
-    QSettings(QStringLiteral("Quexal"), QStringLiteral("QXEdit")).clear();
-    EXPECT_EQ(desktop.GetSetting("Paths", "InFile"), "");
-    desktop.SaveSetting("Paths", "InFile", "/home/user/d\xC4\x85ta");
-    desktop.SaveSetting("Paths", "ProcessFile", "C:");
-    QtDesktop later;
-    EXPECT_EQ(later.GetSetting("Paths", "InFile"), "/home/user/d\xC4\x85ta");
-    EXPECT_EQ(later.GetSetting("Paths", "ProcessFile"), "C:");
+TEST_F(MachineTest, AFileWhoseNameIsNoUtf8IsRead) {
+    const std::string path = Path("caf") + "\xE9.txt";
+    std::ofstream(path) << "content";
+    EXPECT_EQ(desktop.ReadFile(path), "content");
+    EXPECT_EQ(desktop.ReadFile(Path("other") + "\xE9.txt"), std::nullopt);
+    const std::string pipe = Path("pipe") + "\xE9";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(desktop.ReadFile(pipe), std::nullopt);
+}
+
+TEST_F(MachineTest, AFileThatOnlySaysThatItIsEmptyIsNotReadAsEmpty) {
+    EXPECT_EQ(desktop.ReadFile("/proc/self/status"), std::nullopt);
+    std::ofstream(Path("empty")).flush();
+    EXPECT_EQ(desktop.ReadFile(Path("empty")), "");
 }
 
 TEST_F(MachineTest, TheProgramsFolderCanBeMadeTheCurrentOne) {

@@ -15,11 +15,14 @@ class DroppingTest : public FormTest {
 protected:
     // Drags files over a place of the window and drops them there. False when they were not taken.
     bool Drop(const QStringList& paths, QWidget& on) {
-        QMimeData data;
         QList<QUrl> urls;
         for (const QString& dropped : paths) {
             urls.append(QUrl::fromLocalFile(dropped));
         }
+        return DropUrls(urls, on);
+    }
+    static bool DropUrls(const QList<QUrl>& urls, QWidget& on) {
+        QMimeData data;
         data.setUrls(urls);
         const QPoint place = on.rect().center();
         QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -68,6 +71,14 @@ TEST_F(DroppingTest, UnsavedChangesAreAskedAbout) {
     EXPECT_EQ(Column("lvAlpha"), QStringList{QStringLiteral("Beta")});
     ExpectLooseChanges(BoxAnswer::Yes);
     EXPECT_TRUE(Drop({path}, *form));
+    EXPECT_EQ(Column("lvAlpha"), QStringList{QStringLiteral("Alpha")});
+}
+
+TEST_F(DroppingTest, AFileWhoseNameIsNoUtf8IsOpenedToo) {
+    const std::string name = "/data/caf\xE9 100%.txt";
+    desktop.files[name] = HeaderOf("Alpha") + "|Ash\r\n";
+    EXPECT_TRUE(DropUrls({QUrl::fromEncoded("file:///data/caf%E9%20100%25.txt")}, *form));
+    EXPECT_EQ(sDataFileName, name);
     EXPECT_EQ(Column("lvAlpha"), QStringList{QStringLiteral("Alpha")});
 }
 

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+// A name by which the toolkit can read a file. It knows names in UTF-8 alone; a file with another one is opened by its
+// bytes, and goes by the number of its handle as long as this lives.
+class ReadableName {
+public:
+    explicit ReadableName(const std::string& path);
+    ~ReadableName();
+    ReadableName(const ReadableName&) = delete;
+    ReadableName& operator=(const ReadableName&) = delete;
+
+    [[nodiscard]] const QString& ForToolkit() const { return m_name; }
+
+private:
+    int m_handle = -1;
+    QString m_name;
+};
