@@ -8,6 +8,7 @@
 #include "edit/Variations.h"
 #include "file/CommentTypes.h"
 #include "file/DistrictLine.h"
+#include "file/FileKind.h"
 #include "recovery/OpenFile.h"
 #include "recovery/UnsavedChanges.h"
 #include "repair/RepairNullVariation.h"
@@ -24,9 +25,6 @@ namespace {
 
 constexpr std::size_t InitialUpperBound = 20;
 constexpr std::size_t TableStep = 10;
-
-constexpr std::size_t MaxDistrictParts = 13;
-constexpr std::size_t MaxPartsWithoutVariations = 11;
 
 constexpr std::string_view NotEditable =
     "The line is incomplete but has been retained in the file.  It will not be available for editing.";
@@ -64,7 +62,7 @@ private:
     // of them, as parts of texts of their own.
     std::vector<std::string_view> m_fields;
     std::vector<std::string> m_repairedFields; // empty until then
-    Report m_report{"Read File Results", {}, false};
+    std::vector<std::string> m_messages;
     bool m_hasMessages = false;
     bool m_stopped = false; // the user quit the repair dialogue
     std::int32_t m_warningCount = 0;
@@ -256,19 +254,19 @@ void FileRead::ReportLine() {
         message += "District " + name + " has duplicate variations.";
     }
     if (!message.empty()) {
-        m_report.items.push_back(std::move(message));
+        m_messages.push_back(std::move(message));
         m_hasMessages = true;
     }
 }
 
 void FileRead::ShowReport() {
     if (m_warningCount > 0) {
-        m_report.items.push_back("There were " + Number(m_warningCount) + " Variations with warnings.\r\n");
+        m_messages.push_back("There were " + Number(m_warningCount) + " Variations with warnings.\r\n");
     }
     // Warnings alone are no reason to show it.
     if (m_hasMessages || m_capsCount >= 1) {
-        m_report.items.push_back(Number(m_capsCount) + " variations with capitalisation problems");
-        m_desktop.ShowReport(m_report);
+        m_messages.push_back(Number(m_capsCount) + " variations with capitalisation problems");
+        m_desktop.ShowReport({"Read File Results", std::move(m_messages), false});
     }
 }
 
@@ -282,22 +280,34 @@ void ForgetTable() {
     iRepairAction = NoRepair;
 }
 
-// Returns false when the file cannot be read.
-bool ReadTable(Desktop& desktop) {
+// Any other file would be complained about line by line.
+bool IsWanted(Desktop& desktop, std::string_view content) {
+    return !IsHardlyADataFile(content) ||
+           desktop.MsgBox("This is hardly a data file: none of its lines is a district.\r\n" +
+                              Wording::OfPath(sDataFileName) + "\r\nDo you want to open it all the same?",
+                          BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
+}
+
+enum class Outcome { Read, Unreadable, NotWanted };
+
+Outcome ReadTable(Desktop& desktop) {
     ForgetTable(); // before the file is read, so that two files are never in memory at once
     TheOpenFile.Close(desktop);
     auto content = desktop.ReadFile(sDataFileName);
     if (!content) {
-        return false;
+        return Outcome::Unreadable;
     }
     TheOpenFile.BeginReading(desktop, sDataFileName, *content);
     eFileEncoding = EncodingOf(*content);
     content = Decoded(std::move(*content), eFileEncoding);
+    if (!IsWanted(desktop, *content)) {
+        return Outcome::NotWanted;
+    }
     const auto lineCount = static_cast<std::size_t>(std::count(content->begin(), content->end(), '\n')) + 1;
     Districts.reserve(lineCount + InitialUpperBound);
     Districts.resize(InitialUpperBound + 1);
     FileRead(desktop).Run(*content, lineCount);
-    return true;
+    return Outcome::Read;
 }
 
 } // namespace
@@ -306,8 +316,10 @@ void ReadDistrictFile(Desktop& desktop) {
     desktop.ShowBusy(true);
     desktop.EnterProgramFolder();
     std::string_view problem;
+    auto outcome = Outcome::Unreadable;
     try {
-        problem = ReadTable(desktop) ? "" : "The file cannot be read:\r\n";
+        outcome = ReadTable(desktop);
+        problem = "The file cannot be read:\r\n";
     } catch (const std::bad_alloc&) {
         // A line end takes a whole record: a file may need a hundred times its size.
         ForgetTable();
@@ -315,12 +327,15 @@ void ReadDistrictFile(Desktop& desktop) {
         CommentTypes.Reset();
         problem = "There is not enough memory for the file:\r\n";
     }
-    if (!problem.empty()) {
-        TheOpenFile.Close(desktop);
-        desktop.ShowBusy(false);
-        desktop.MsgBox(problem + Wording::OfPath(sDataFileName), BoxIcon::Exclamation);
-        sDataFileName.clear();
+    if (outcome == Outcome::Read) {
+        return;
     }
+    TheOpenFile.Close(desktop);
+    desktop.ShowBusy(false);
+    if (outcome == Outcome::Unreadable) {
+        desktop.MsgBox(problem + Wording::OfPath(sDataFileName), BoxIcon::Exclamation);
+    }
+    sDataFileName.clear();
 }
 
 } // namespace CommonRoutines

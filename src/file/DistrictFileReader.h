@@ -12,7 +12,7 @@ class Desktop;
 // DupePairs. The answer of the last repair is left in iRepairAction: Quit ends the reading early, without a
 // report. Sets bChanged when something was repaired. Adds to CommentTypes. Expects iEditMode to be NothingOpen.
 // A file that cannot be read, or that there is not enough memory for, leaves an empty table, an empty
-// sDataFileName and a message.
+// sDataFileName and a message; so, without the message, does one that is hardly a data file and is not wanted.
 void ReadDistrictFile(Desktop& desktop);
 
 } // namespace CommonRoutines

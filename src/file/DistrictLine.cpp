@@ -54,6 +54,13 @@ HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size
     return HeaderResult::Filled;
 }
 
+bool IsDistrictLine(std::string_view line) {
+    DistrictRecord unused;
+    const bool hasHeader = !line.starts_with('|');
+    return FillHeader(unused, hasHeader ? line.substr(0, line.find('|')) : line,
+                      hasHeader ? MaxDistrictParts : MaxPartsWithoutVariations) == HeaderResult::Filled;
+}
+
 std::vector<std::string> QuarterComplaints(const DistrictRecord& record) {
     std::vector<std::string> complaints;
     const auto complain = [&](const std::string& about) {

@@ -2,6 +2,7 @@
 
 #include "core/Records.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,13 @@ enum class HeaderResult { Filled, WrongPartCount, NotANumber };
 // `maxParts` parts. Its years and quarters must be numbers of 16 bits: decimal digits, perhaps behind a minus
 // sign, with blanks around them or not. Otherwise nothing is filled.
 [[nodiscard]] HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size_t maxParts);
+
+// The most parts of the header of a district, and of one in a line that begins with "|".
+inline constexpr std::size_t MaxDistrictParts = 13;
+inline constexpr std::size_t MaxPartsWithoutVariations = 11;
+
+// Whether a trimmed line is read as a district.
+[[nodiscard]] bool IsDistrictLine(std::string_view line);
 
 // The complaints about the quarters of a district, in the order in which they are shown. The third
 // one names the abolished year and quarter although it is about the founded ones; its readers know it so.
