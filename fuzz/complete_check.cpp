@@ -96,9 +96,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     CommentTypes.Reset();
     FuzzDesktop desktop({reinterpret_cast<const char*>(data), size}, "");
     ReadDistrictFile(desktop);
-    const std::vector<std::string> findings = CompleteVariationCheck(desktop).items;
+    const std::vector<std::string> findings = CompleteVariationCheck(desktop).items.All();
     Demand(findings == SlowFindings());
-    Demand(findings == CompleteVariationCheck(desktop).items);
+    Demand(findings == CompleteVariationCheck(desktop).items.All());
     for (std::int32_t district = 1; district <= lLineCount; ++district) {
         if (IsDistrict(district)) {
             CheckDistrict(district);

@@ -45,6 +45,17 @@ bool AddProposal(std::int32_t lDistrict, std::string_view proposal, bool asSpell
     return true;
 }
 
+// A line of the details. Behind the ignored proposals, the heading stands before every pair that was there already,
+// not once before them all.
+std::string DetailOf(std::size_t place, std::size_t ignored) {
+    const std::size_t behind = place < ignored ? 0 : place - ignored;
+    if (place >= ignored && behind % 2 == 0) {
+        return "The following duplicates already existed in this district";
+    }
+    const DupePair& pair = DupePairs[(place < ignored ? place : ignored + behind / 2) + 1];
+    return "Variation " + pair.first + " duplicates " + pair.second;
+}
+
 } // namespace
 
 std::optional<AppliedProposals> ApplyChanges(std::span<const Proposal> proposals, bool bSelectedOnly, bool bAsSpelling,
@@ -82,16 +93,10 @@ void ReportAppliedProposals(const AppliedProposals& applied, Desktop& desktop) {
     if (lDupePairCount == 0) {
         return;
     }
-    Report report{"Details of Duplicates", {}, true};
-    for (std::int32_t i = 1; i <= lDupePairCount; ++i) {
-        // The heading stands before every pair that was there already, not once before them all.
-        if (i > applied.ignored) {
-            report.items.emplace_back("The following duplicates already existed in this district");
-        }
-        const DupePair& pair = DupePairs[static_cast<std::size_t>(i)];
-        report.items.push_back("Variation " + pair.first + " duplicates " + pair.second);
-    }
-    desktop.ShowReport(report);
+    const auto ignored = static_cast<std::size_t>(applied.ignored);
+    const std::size_t linesOfOwnPairs = 2 * (static_cast<std::size_t>(lDupePairCount) - ignored);
+    const auto line = [=](std::size_t place) { return DetailOf(place, ignored); };
+    desktop.ShowReport({"Details of Duplicates", {ignored + linesOfOwnPairs, line}, true});
 }
 
 } // namespace CommonRoutines

@@ -5,6 +5,8 @@
 #include "core/State.h"
 #include "rules/VariationKeys.h"
 
+#include <array>
+#include <memory>
 #include <vector>
 
 namespace CommonRoutines {
@@ -53,18 +55,22 @@ Report CompleteVariationCheck(Desktop& desktop) {
     // Every key is made, gets its place and is compared with the next one.
     Progress progress(desktop, "Looking for duplicates", 3 * count);
     const std::vector<VariationKey> keys = SortedKeys(count, progress);
-    Report report;
+    std::vector<std::array<VariationKey, 2>> equal;
     for (std::size_t j = 1; j + 1 < keys.size(); ++j) {
         if (SameSpelling(keys[j], keys[j + 1])) {
-            report.items.push_back(Finding(keys[j], keys[j + 1]));
+            equal.push_back({keys[j], keys[j + 1]});
         }
         progress.Advance(1);
     }
     desktop.ShowBusy(false);
-    if (report.items.empty()) {
-        report.items.emplace_back("No duplicates found");
+    if (equal.empty()) {
+        return {"Duplicate Check", {"No duplicates found"}};
     }
-    return report;
+    const auto found = std::make_shared<const std::vector<std::array<VariationKey, 2>>>(std::move(equal));
+    return {"Duplicate Check", {found->size(), [found](std::size_t place) {
+                                    const auto& [key, next] = (*found)[place];
+                                    return Finding(key, next);
+                                }}};
 }
 
 } // namespace CommonRoutines

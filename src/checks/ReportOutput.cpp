@@ -5,14 +5,20 @@
 
 namespace CommonRoutines {
 
-std::vector<Wording> ReportLines(const Report& report, std::string_view dataFile, Desktop& desktop) {
-    std::vector<Wording> lines{
+LineSource ReportLines(const Report& report, std::string_view dataFile, Desktop& desktop) {
+    const std::vector<Wording> head{
         "Duplicate Check on File " + Wording::OfPath(std::string(dataFile)),
         "Check performed on " + desktop.Today() + " at " + desktop.ShortTime(),
         "",
     };
-    lines.insert(lines.end(), report.items.begin(), report.items.end());
-    return lines;
+    return [&items = report.items, head, next = std::size_t{0}]() mutable -> std::optional<Wording> {
+        const std::size_t place = next++;
+        if (place < head.size()) {
+            return head[place];
+        }
+        const std::size_t item = place - head.size();
+        return item < items.size() ? std::optional<Wording>(items[item]) : std::nullopt;
+    };
 }
 
 std::string ReportFileName(std::string_view dataFile) {
@@ -42,8 +48,9 @@ void SaveReport(const Report& report, const std::string& dataFile, Desktop& desk
     }
     desktop.ShowBusy(true);
     std::string content;
-    for (const Wording& line : ReportLines(report, dataFile, desktop)) {
-        content += line.InCodePage() + "\r\n";
+    const LineSource lines = ReportLines(report, dataFile, desktop);
+    for (auto line = lines(); line; line = lines()) {
+        content += line->InCodePage() + "\r\n";
     }
     desktop.ReplaceFile(*path, content);
     desktop.ShowBusy(false);

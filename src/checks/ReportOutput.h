@@ -5,15 +5,14 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace CommonRoutines {
 
 class Desktop;
 
 // The report as it is printed and saved: three heading lines with the data file's path and the
-// present time, then the items. A file has the path as near as Windows-1252 comes to it.
-[[nodiscard]] std::vector<Wording> ReportLines(const Report& report, std::string_view dataFile, Desktop& desktop);
+// present time, then the items, which must live meanwhile. A file has the path as near as Windows-1252 comes to it.
+[[nodiscard]] LineSource ReportLines(const Report& report, std::string_view dataFile, Desktop& desktop);
 
 // The name proposed for the saved report of a data file.
 [[nodiscard]] std::string ReportFileName(std::string_view dataFile);

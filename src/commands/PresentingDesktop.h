@@ -49,7 +49,7 @@ public:
     void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override {
         m_machine.SaveSetting(section, key, value);
     }
-    bool Print(std::span<const CommonRoutines::Wording> lines) override { return m_machine.Print(lines); }
+    bool Print(const CommonRoutines::LineSource& lines) override { return m_machine.Print(lines); }
     std::string Today() override { return m_machine.Today(); }
     std::string ShortTime() override { return m_machine.ShortTime(); }
     void Beep() override { m_machine.Beep(); }

@@ -85,7 +85,7 @@ public:
     virtual void SaveSetting(std::string_view section, std::string_view key, const std::string& value) = 0;
 
     // Prints on the default printer. False when there is no printer or it did not take the job.
-    virtual bool Print(std::span<const Wording> lines) = 0;
+    virtual bool Print(const LineSource& lines) = 0;
 
     virtual std::string Today() = 0;     // as "05 Mar 2026"
     virtual std::string ShortTime() = 0; // hours and minutes, as the user's country writes them

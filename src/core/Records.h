@@ -4,6 +4,7 @@
 // are plain values that own their texts.
 
 #include "core/AnsiString.h"
+#include "core/SharedText.h"
 
 #include <cstdint>
 #include <string>
@@ -50,10 +51,10 @@ struct DistrictRecord {
     [[nodiscard]] std::string_view Extra(std::size_t part) const;
 };
 
-// The texts of two variations that are the same spelling.
+// The texts of two variations that are the same spelling. Many may repeat the same second one.
 struct DupePair {
     Ansi::String first;
-    Ansi::String second;
+    SharedText second;
 };
 
 } // namespace CommonRoutines

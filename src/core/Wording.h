@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -37,5 +39,8 @@ private:
 
     std::vector<Part> m_parts;
 };
+
+// The next one of some lines; nothing behind the last one.
+using LineSource = std::function<std::optional<Wording>()>;
 
 } // namespace CommonRoutines

@@ -16,6 +16,8 @@ namespace {
 
 constexpr std::size_t DupePairStep = 5;
 
+SharedTexts secondTexts; // of DupePairs
+
 // Up to this many texts, comparing each with each is faster than sorting them.
 constexpr std::size_t FewTexts = 48;
 
@@ -57,6 +59,7 @@ std::vector<VariationKey> SortedKeys(std::int32_t lDistrict, std::int32_t count)
 
 void EmptyDupePairs() {
     DupePairs.assign(DupePairStep + 1, {});
+    secondTexts.Clear();
     lDupePairCount = 0;
 }
 
@@ -65,7 +68,7 @@ void AddDupePair(std::string_view first, std::string_view second) {
     if (place >= DupePairs.size()) {
         DupePairs.resize(place + DupePairStep + 1);
     }
-    DupePairs[place] = {first, second};
+    DupePairs[place] = {first, secondTexts.Share(second)};
     ++lDupePairCount; // last, in case that there is not enough memory
 }
 

@@ -116,7 +116,7 @@ TEST_F(CompleteCheckReference, AgreesLineByLineOnRandomTables) {
     for (unsigned seed = 0; seed < 4000; ++seed) {
         ResetEverything();
         const RandomTable table(seed);
-        const std::vector<std::string> lines = CompleteVariationCheck(desktop).items;
+        const std::vector<std::string> lines = CompleteVariationCheck(desktop).items.All();
         ASSERT_EQ(lines, SlowCheck().Lines()) << "seed " << seed;
         found += lines.size();
     }
@@ -135,7 +135,7 @@ TEST_F(CompleteCheckReference, AgreesLineByLineOnLongTextsThatShareTheirBeginnin
             }
             AddDistrict(Slow::SimilarText(random), variations);
         }
-        const std::vector<std::string> lines = CompleteVariationCheck(desktop).items;
+        const std::vector<std::string> lines = CompleteVariationCheck(desktop).items.All();
         ASSERT_EQ(lines, SlowCheck().Lines()) << "round " << round;
         found += lines.size();
     }
@@ -151,7 +151,7 @@ TEST_F(CompleteCheckReference, AgreesLineByLineOnALargeTable) {
         }
         AddDistrict("D" + std::to_string(i), variations);
     }
-    const std::vector<std::string> lines = CompleteVariationCheck(desktop).items;
+    const std::vector<std::string> lines = CompleteVariationCheck(desktop).items.All();
     EXPECT_GT(lines.size(), 1000U);
     EXPECT_EQ(lines, SlowCheck().Lines());
 }

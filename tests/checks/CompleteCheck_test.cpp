@@ -10,7 +10,7 @@ class CompleteCheckTest : public StateTest {
 protected:
     using Texts = std::vector<std::string>;
 
-    Texts Lines() { return CompleteVariationCheck(desktop).items; }
+    Texts Lines() { return CompleteVariationCheck(desktop).items.All(); }
 
     static void AddDistrictOf(const std::string& name, const Texts& variations, std::int16_t founded,
                               std::int16_t abolished) {

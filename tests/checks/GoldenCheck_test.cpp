@@ -21,7 +21,7 @@ TEST_P(GoldenCheckTest, ReportsTheLinesRecorded) {
     m_desktop.files[sDataFileName] = Needed("input.txt");
     ReadDistrictFile(m_desktop);
     std::string lines;
-    for (const std::string& line : CompleteVariationCheck(m_desktop).items) {
+    for (const std::string& line : CompleteVariationCheck(m_desktop).items.All()) {
         lines += Golden::Escaped(line) + '\n';
     }
     EXPECT_EQ(lines, Needed("report.txt"));

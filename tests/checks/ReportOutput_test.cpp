@@ -19,8 +19,9 @@ const std::string ForeignPath = "/data/\xC4\x8D\xE2\x82\xAC.txt"; // only the se
 Texts Lines(const Report& report, const std::string& dataFile) {
     ScriptedDesktop desktop;
     Texts lines;
-    for (const Wording& line : ReportLines(report, dataFile, desktop)) {
-        lines.push_back(line.Utf8());
+    const LineSource source = ReportLines(report, dataFile, desktop);
+    for (auto line = source(); line; line = source()) {
+        lines.push_back(line->Utf8());
     }
     return lines;
 }
@@ -38,7 +39,7 @@ public:
         seen.emplace_back("written");
         return ScriptedDesktop::ReplaceFile(path, content);
     }
-    bool Print(std::span<const Wording> lines) override {
+    bool Print(const LineSource& lines) override {
         seen.emplace_back("printed");
         return ScriptedDesktop::Print(lines);
     }

@@ -62,7 +62,7 @@ TEST_F(GazetteerFileTest, IsReportedAsItsMarksSay) {
     ASSERT_EQ(m_desktop.reports.size(), 1U);
     EXPECT_EQ(m_desktop.reports[0].caption, "Read File Results");
     EXPECT_FALSE(m_desktop.reports[0].canPrintAndSave);
-    EXPECT_EQ(m_desktop.reports[0].items, ExpectedReport());
+    EXPECT_EQ(m_desktop.reports[0].items.All(), ExpectedReport());
     std::int64_t variations = 0;
     std::int64_t unusual = 0;
     for (std::int32_t i = 1; i <= lLineCount; ++i) {

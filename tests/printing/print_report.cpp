@@ -15,16 +15,16 @@ using namespace Ui;
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     const int count = argc == 2 ? std::atoi(argv[1]) : 0;
-    Report report;
+    std::vector<std::string> items;
     for (int i = 1; i <= count; ++i) {
         std::string item = "Item " + std::to_string(i) + " says that District <b>A</b> contains a duplicate";
         if (i % 10 == 0) {
             item += " - " + std::string(150, 'x') + " end" + std::to_string(i);
         }
-        report.items.push_back(item);
+        items.push_back(item);
     }
     AnsweringDesktop desktop;
     desktop.onBox = [](std::string_view text) { std::printf("%.*s\n", static_cast<int>(text.size()), text.data()); };
-    CommonRoutines::PrintReport(report, "/data/north.txt", desktop);
+    CommonRoutines::PrintReport({"Duplicate Check", std::move(items)}, "/data/north.txt", desktop);
     return 0;
 }

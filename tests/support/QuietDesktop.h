@@ -41,7 +41,7 @@ public:
     void EnterProgramFolder() override {}
     std::string GetSetting(std::string_view /*section*/, std::string_view /*key*/) override { return {}; }
     void SaveSetting(std::string_view /*section*/, std::string_view /*key*/, const std::string& /*value*/) override {}
-    bool Print(std::span<const CommonRoutines::Wording> /*lines*/) override { return false; }
+    bool Print(const CommonRoutines::LineSource& /*lines*/) override { return false; }
     std::string Today() override { return "05 Mar 2026"; }
     std::string ShortTime() override { return "14:07"; }
     void Beep() override {}

@@ -28,7 +28,7 @@ std::string InputPrompt(std::string_view prompt) {
 }
 
 std::string ReportPrompt(const Report& report) {
-    return "report " + report.caption + (report.canPrintAndSave ? ", printable:" : ":") + Listed(report.items);
+    return "report " + report.caption + (report.canPrintAndSave ? ", printable:" : ":") + Listed(report.items.All());
 }
 
 } // namespace
@@ -101,7 +101,7 @@ std::optional<std::string> ScriptedDesktop::InputBox(std::string_view prompt) {
 
 void ScriptedDesktop::ShowReport(const Report& report) {
     if (recordReports) {
-        reports.push_back(report);
+        reports.push_back({report.caption, report.items.All(), report.canPrintAndSave}); // as it is now
         return;
     }
     Play(ReportPrompt(report));
@@ -145,11 +145,11 @@ void ScriptedDesktop::SaveSetting(std::string_view section, std::string_view key
     settings[std::string(section) + '/' + std::string(key)] = value;
 }
 
-bool ScriptedDesktop::Print(std::span<const Wording> lines) {
+bool ScriptedDesktop::Print(const LineSource& lines) {
     if (hasPrinter) {
         printed.clear();
-        for (const Wording& line : lines) {
-            printed.push_back(line.Utf8());
+        for (auto line = lines(); line; line = lines()) {
+            printed.push_back(line->Utf8());
         }
     }
     return hasPrinter;

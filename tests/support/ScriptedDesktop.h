@@ -66,7 +66,7 @@ public:
     void EnterProgramFolder() override { ++programFolderEntries; }
     std::string GetSetting(std::string_view section, std::string_view key) override;
     void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override;
-    bool Print(std::span<const CommonRoutines::Wording> lines) override;
+    bool Print(const CommonRoutines::LineSource& lines) override;
     void Beep() override { ++beeps; }
     void ShowBusy(bool isBusy) override;
     void ShowProgress(std::string_view doing, double newPart) override;

@@ -2,10 +2,12 @@
 
 #include "ui/Text.h"
 
+#include <utility>
+
 namespace Ui {
 
-ReportModel::ReportModel(const std::vector<std::string>& items, QObject* parent)
-    : QAbstractListModel(parent), m_items(items) {}
+ReportModel::ReportModel(CommonRoutines::ReportItems items, QObject* parent)
+    : QAbstractListModel(parent), m_items(std::move(items)) {}
 
 int ReportModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_items.size());

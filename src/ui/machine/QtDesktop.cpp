@@ -5,13 +5,13 @@
 #include "ui/machine/DurableFile.h"
 #include "ui/machine/Memory.h"
 #include "ui/machine/PlainBoxes.h"
+#include "ui/machine/Printing.h"
 #include "ui/machine/ReadableName.h"
 #include "ui/machine/SettingsFile.h"
 #include "ui/widgets/ButtonMarks.h"
 #include "ui/windows/VarCheck.h"
 #include "ui/windows/frmCustomMessageBox.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -19,12 +19,8 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPageLayout>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QPushButton>
 #include <QStyle>
-#include <QTextDocument>
 #include <QTimer>
 #include <QUrl>
 
@@ -38,8 +34,6 @@ using namespace CommonRoutines;
 namespace {
 
 constexpr QLatin1String ProgramTitle("Quexal Editor");
-
-constexpr QMarginsF PageMargins(20, 20, 20, 20); // millimetres
 
 constexpr int PromptWidth = 438;
 
@@ -273,29 +267,8 @@ void QtDesktop::SaveSetting(std::string_view section, std::string_view key, cons
     SettingsFile::SetValue(SettingName(section, key), Text::PathToQt(value));
 }
 
-bool QtDesktop::Print(std::span<const Wording> lines) {
-    const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
-    const QList<QPrinterInfo> all = QPrinterInfo::availablePrinters();
-    if (standard.isNull() && all.isEmpty()) {
-        return false;
-    }
-    QPrinter printer(standard.isNull() ? all.constFirst() : standard, QPrinter::HighResolution);
-    QStringList text;
-    for (const Wording& line : lines) {
-        text.append(Text::WordingToQt(line).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
-    }
-    printer.setPageMargins(PageMargins, QPageLayout::Millimeter);
-    QTextDocument document;
-    QTextOption option = document.defaultTextOption();
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    document.setDefaultTextOption(option);
-    document.setDocumentMargin(0);
-    document.documentLayout()->setPaintDevice(&printer);
-    // A document without a page size of its own would be printed with page numbers among its lines.
-    document.setPageSize(printer.pageRect(QPrinter::DevicePixel).size());
-    document.setPlainText(text.join(QLatin1Char('\n')));
-    document.print(&printer);
-    return printer.printerState() != QPrinter::Error && printer.printerState() != QPrinter::Aborted;
+bool QtDesktop::Print(const LineSource& lines) {
+    return Printing::Print(lines);
 }
 
 std::string QtDesktop::Today() {

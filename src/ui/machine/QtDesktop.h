@@ -37,7 +37,7 @@ public:
     void EnterProgramFolder() override;
     std::string GetSetting(std::string_view section, std::string_view key) override;
     void SaveSetting(std::string_view section, std::string_view key, const std::string& value) override;
-    bool Print(std::span<const CommonRoutines::Wording> lines) override;
+    bool Print(const CommonRoutines::LineSource& lines) override;
     std::string Today() override;
     std::string ShortTime() override;
     void Beep() override;

@@ -196,7 +196,7 @@ TEST_F(MachineTest, WithoutAPrinterPrintingFails) {
     if (!QPrinterInfo::availablePrinters().isEmpty()) {
         GTEST_SKIP() << "this machine has a printer";
     }
-    EXPECT_FALSE(desktop.Print(std::vector<CommonRoutines::Wording>{"One line"}));
+    EXPECT_FALSE(desktop.Print([] { return std::nullopt; }));
 }
 
 TEST_F(MachineTest, TheWindowShowsThatTheProgramIsBusy) {

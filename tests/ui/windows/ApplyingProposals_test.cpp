@@ -103,7 +103,7 @@ TEST_F(ApplyingProposalsTest, IgnoredProposalsAreListed) {
     Click("cbApplyAll");
     ASSERT_EQ(desktop.reports.size(), 1U);
     EXPECT_EQ(desktop.reports[0].caption, "Details of Duplicates");
-    EXPECT_EQ(desktop.reports[0].items,
+    EXPECT_EQ(desktop.reports[0].items.All(),
               (std::vector<std::string>{"Variation ALFA duplicates Alfa", "Variation alpha duplicates Alpha"}));
     EXPECT_TRUE(desktop.reports[0].canPrintAndSave);
 }
@@ -116,7 +116,7 @@ TEST_F(ProposalsTest, DuplicatesThatWereThereBeforeAreListedAndStayInTheSummary)
                       BoxIcon::Information);
     Click("cbApplyAll");
     ASSERT_EQ(desktop.reports.size(), 1U);
-    EXPECT_EQ(desktop.reports[0].items,
+    EXPECT_EQ(desktop.reports[0].items.All(),
               (std::vector<std::string>{"Variation alfa duplicates Alfa",
                                         "The following duplicates already existed in this district",
                                         "Variation ALFA duplicates Alfa"}));

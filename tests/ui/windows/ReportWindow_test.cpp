@@ -181,7 +181,7 @@ TEST_F(ReportWindowTest, CtrlCCopiesTheSelectedLines) {
 }
 
 TEST_F(ReportWindowTest, OfALongReportOnlyTheVisibleLinesAreLookedAt) {
-    report.items.assign(100000, "District Alpha has duplicate variations.");
+    report.items = std::vector<std::string>(100000, "District Alpha has duplicate variations.");
     window = std::make_unique<VarCheck>(report, desktop, nullptr);
     CountingDelegate delegate;
     List().setItemDelegate(&delegate);

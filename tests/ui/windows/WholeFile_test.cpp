@@ -26,7 +26,8 @@ protected:
     void ExpectFinding() {
         ASSERT_EQ(desktop.reports.size(), 1U);
         EXPECT_EQ(desktop.reports[0].caption, "Duplicate Check");
-        EXPECT_EQ(desktop.reports[0].items, std::vector<std::string>{"Alpha and Beta both use the variation Alfa"});
+        EXPECT_EQ(desktop.reports[0].items.All(),
+                  std::vector<std::string>{"Alpha and Beta both use the variation Alfa"});
         EXPECT_TRUE(desktop.reports[0].canPrintAndSave);
         EXPECT_FALSE(desktop.busy);
     }
@@ -58,7 +59,7 @@ TEST_F(WholeFileTest, TheCheckSaysWhenNothingIsUsedTwice) {
     desktop.reports.clear();
     Click("cbCompleteCheck");
     ASSERT_EQ(desktop.reports.size(), 1U);
-    EXPECT_EQ(desktop.reports[0].items, std::vector<std::string>{"No duplicates found"});
+    EXPECT_EQ(desktop.reports[0].items.All(), std::vector<std::string>{"No duplicates found"});
 }
 
 TEST_F(WholeFileTest, TheSelectedVariationsAreSavedInTheOrderOfTheList) {

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "core/SeededHash.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace CommonRoutines {
+
+// A text that never changes, and that is there once for all its copies.
+class SharedText {
+public:
+    SharedText() = default;
+    explicit SharedText(std::string_view text) : m_text(std::make_shared<const std::string>(text)) {}
+
+    operator std::string_view() const { return m_text ? std::string_view(*m_text) : std::string_view(); }
+    friend std::string operator+(std::string a, const SharedText& b) { return a.append(std::string_view(b)); }
+    friend bool operator==(const SharedText& a, std::string_view b) { return std::string_view(a) == b; }
+
+private:
+    std::shared_ptr<const std::string> m_text;
+};
+
+// Makes equal texts one.
+class SharedTexts {
+public:
+    [[nodiscard]] SharedText Share(std::string_view text) {
+        const auto known = m_texts.find(text);
+        if (known != m_texts.end()) {
+            return known->second;
+        }
+        const SharedText shared(text);
+        m_texts.emplace(std::string_view(shared), shared);
+        return shared;
+    }
+    void Clear() { m_texts.clear(); }
+
+private:
+    std::unordered_map<std::string_view, SharedText, SeededHash> m_texts; // each by itself
+};
+
+} // namespace CommonRoutines
