@@ -9,6 +9,7 @@
 #include "driver/AnsweringDesktop.h"
 #include "edit/EditPanel.h"
 #include "file/DistrictFileReader.h"
+#include "recovery/RecoveryFile.h"
 #include "recovery/UnsavedChanges.h"
 #include "rules/Capitals.h"
 #include "rules/Duplicates.h"
@@ -201,6 +202,8 @@ void WritingAnUnsavedChange(benchmark::State& state) {
     Ui::AnsweringDesktop desktop;
     UnsavedChanges changes;
     changes.Begin(desktop, "/data/districts.txt", "bytes", Numbering::AsRead);
+    Districts.resize(4'712);
+    RecordOf(4'711).lVariationCount = 12;
     for ([[maybe_unused]] const auto round : state) {
         changes.Note(4'711, 12, "Ashby de la Zouch");
         changes.Write(desktop);
@@ -212,7 +215,10 @@ void WritingAnUnsavedChange(benchmark::State& state) {
 void GrowingABareFile(benchmark::State& state) {
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("bare")));
-    const std::string record = RecoveryRecord(4'711, 12, "Ashby de la Zouch");
+    RecoveryRecords one({}, Encoding::Windows1252);
+    const std::size_t header = one.Content().size();
+    one.AddChange({4'711, 12, "Ashby de la Zouch", {}});
+    const std::string record = one.Content().substr(header);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         state.SkipWithError("no file");
     }

@@ -1,5 +1,6 @@
-// Reads any bytes as a recovery file. One that is taken for whole must come back the same when it is
-// written again; made in a table, its changes must all be there afterwards, or none.
+// Reads any bytes as a recovery file. What is trusted of one must come back the same when it is
+// written again; made in a table, its changes must all be there afterwards, or none. A flipped bit costs nothing
+// that stands before it.
 
 #include "FuzzDesktop.h"
 
@@ -9,9 +10,13 @@
 #include "file/DistrictFileWriter.h"
 #include "recovery/RecoveryFile.h"
 #include "recovery/UnsavedChanges.h"
+#include "support/RecoveryText.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
+#include <map>
+#include <utility>
 
 using namespace CommonRoutines;
 
@@ -24,17 +29,6 @@ void Require(bool condition) {
     if (!condition) {
         std::abort();
     }
-}
-
-std::string Rewritten(const RecoveryFile& file) {
-    std::string content = RecoveryHeader(file.file);
-    for (const SlotChange& change : file.changes) {
-        content += RecoveryRecord(change.line, change.slot, change.text);
-    }
-    if (file.savedAs) {
-        content += SavingRecord(*file.savedAs);
-    }
-    return content;
 }
 
 void OpenWith(const std::string& leftOver) {
@@ -51,27 +45,61 @@ void OpenWith(const std::string& leftOver) {
 
 // Changes without checksums to begin with, since no mutation would get past those.
 RecoveryFile ChangesIn(std::string_view bytes) {
-    RecoveryFile file{IdentityOf("/data", DataFile), {}, std::nullopt};
+    RecoveryFile file;
+    file.file = IdentityOf("/data", DataFile);
     while (bytes.size() >= 3) {
         const auto length = std::min<std::size_t>(static_cast<unsigned char>(bytes[2]) % 40, bytes.size() - 3);
-        file.changes.push_back({bytes[0] % 5, bytes[1] % 6, std::string(bytes.substr(3, length))});
+        SlotChange& change =
+            file.changes.emplace_back(SlotChange{bytes[0] % 5, bytes[1] % 6, std::string(bytes.substr(3, length)), {}});
+        if (const int after = static_cast<unsigned char>(bytes[2]) / 40; after > 0) {
+            change.after = after - 1;
+        }
         bytes.remove_prefix(3 + length);
     }
     return file;
 }
 
-bool LastTextsAreInTable(const RecoveryFile& file) {
-    for (std::size_t i = 0; i < file.changes.size(); ++i) {
-        const SlotChange& change = file.changes[i];
-        const bool isLast = std::none_of(
-            file.changes.begin() + static_cast<std::ptrdiff_t>(i) + 1, file.changes.end(),
-            [&](const SlotChange& later) { return later.line == change.line && later.slot == change.slot; });
-        const DistrictRecord& record = RecordOf(change.line);
-        if (isLast && record.Variations[static_cast<std::size_t>(change.slot)].Text != change.text) {
-            return false;
+// What the lines hold once all changes have been made: by the numbers of the slots, in their order.
+using Slots = std::vector<std::pair<std::int32_t, std::string>>;
+
+std::map<std::int32_t, Slots> LinesWith(const RecoveryFile& file) {
+    std::map<std::int32_t, Slots> lines{{1, {{1, "Ashbye"}, {2, "!Asby"}}}, {3, {}}};
+    for (const SlotChange& change : file.changes) {
+        Slots& slots = lines.at(change.line);
+        const auto at = [&](std::int32_t number) {
+            return std::find_if(slots.begin(), slots.end(), [&](const auto& slot) { return slot.first == number; });
+        };
+        if (at(change.slot) != slots.end()) {
+            at(change.slot)->second = change.text;
+        } else if (change.after) {
+            const auto place = *change.after == 0 ? slots.begin() : at(*change.after) + 1;
+            slots.insert(place, {change.slot, change.text});
+        } else {
+            slots.emplace_back(change.slot, change.text);
         }
     }
-    return true;
+    return lines;
+}
+
+bool IsTable(const std::map<std::int32_t, Slots>& lines) {
+    return std::all_of(lines.begin(), lines.end(), [](const auto& line) {
+        const DistrictRecord& record = RecordOf(line.first);
+        bool isEqual = record.lVariationCount == std::ssize(line.second);
+        for (std::size_t i = 0; isEqual && i < line.second.size(); ++i) {
+            isEqual = record.Variations[i + 1].Text == line.second[i].second;
+        }
+        return isEqual;
+    });
+}
+
+void RequireTrustUpTo(std::size_t flipped, const std::string& content, const RecoveryFile& whole) {
+    std::string damaged = content;
+    damaged[flipped] = static_cast<char>(damaged[flipped] ^ 1);
+    const auto file = ParseRecoveryFile(damaged);
+    if (file) {
+        Require(file->changes.size() <= whole.changes.size());
+        Require(std::equal(file->changes.begin(), file->changes.end(), whole.changes.begin()));
+    }
 }
 
 } // namespace
@@ -79,15 +107,16 @@ bool LastTextsAreInTable(const RecoveryFile& file) {
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     const std::string bytes(reinterpret_cast<const char*>(data), size);
     if (const auto file = ParseRecoveryFile(bytes)) {
-        const auto again = ParseRecoveryFile(Rewritten(*file));
-        Require(again && again->file == file->file && again->changes == file->changes);
+        const auto again = ParseRecoveryFile(RecoveryText(*file));
+        Require(again && again->file == file->file && again->changes == file->changes && !again->isDamaged);
     }
     OpenWith(bytes);
 
     const RecoveryFile made = ChangesIn(bytes);
-    const std::string content = Rewritten(made);
+    const std::string content = RecoveryText(made);
     OpenWith(content);
-    Require(bChanged ? LastTextsAreInTable(made) : DistrictFileContent() == DataFile);
+    Require(bChanged ? IsTable(LinesWith(*ParseRecoveryFile(content))) : DistrictFileContent() == DataFile);
+    RequireTrustUpTo(size * 31 % content.size(), content, made);
     OpenWith(content.substr(0, content.size() - std::min(content.size(), size % 100)));
     return 0;
 }

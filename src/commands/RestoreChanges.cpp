@@ -3,10 +3,12 @@
 #include "core/Ansi.h"
 #include "core/Desktop.h"
 #include "core/State.h"
+#include "edit/RestoredLine.h"
 #include "edit/VariationList.h"
 #include "edit/Variations.h"
 #include "recovery/LeftOvers.h"
 #include "recovery/OpenFile.h"
+#include "recovery/SavesForOthers.h"
 #include "recovery/UnsavedChanges.h"
 #include "rules/Duplicates.h"
 
@@ -33,7 +35,8 @@ bool FitsTable(std::span<const SlotChange> changes) {
             return false;
         }
         auto& count = counts.try_emplace(change.line, RecordOf(change.line).lVariationCount).first->second;
-        if (change.slot > count + 1) {
+        const bool isNew = change.slot == count + 1;
+        if (change.slot > count + 1 || (change.after && (!isNew || *change.after > count))) {
             return false;
         }
         count = std::max(count, change.slot);
@@ -43,126 +46,166 @@ bool FitsTable(std::span<const SlotChange> changes) {
 
 // The lines that the changes are about, as they stand in the file: a repair of this reading must not be
 // mixed with another one of the same line.
-void UndoRepairs(const std::set<std::int32_t>& lines) {
-    for (const std::int32_t line : lines) {
-        const std::vector<std::string> fields = Unsaved.FieldsAsRead(line);
-        for (std::size_t k = 1; k < fields.size(); ++k) {
-            const bool blank = Ansi::Trim(fields[k]).empty();
-            StoreText(line, static_cast<std::int32_t>(k), blank ? DeletedText : std::string_view(fields[k]));
-        }
+void UndoRepairs(std::int32_t line) {
+    const std::vector<std::string> fields = Unsaved.FieldsAsRead(line);
+    for (std::size_t k = 1; k < fields.size(); ++k) {
+        const bool blank = Ansi::Trim(fields[k]).empty();
+        StoreText(line, static_cast<std::int32_t>(k), blank ? DeletedText : std::string_view(fields[k]));
     }
 }
 
-// Of several files with changes, each numbers its new variations from the end of the line as it was read.
-void MakeChanges(std::span<const SlotChange> changes, const std::map<std::int32_t, std::int32_t>& countsAsRead) {
-    std::map<std::pair<std::int32_t, std::int32_t>, std::int32_t> added;
-    for (const SlotChange& change : changes) {
-        if (change.slot <= countsAsRead.at(change.line)) {
-            StoreText(change.line, change.slot, change.text);
-        } else if (const auto slot = added.find({change.line, change.slot}); slot != added.end()) {
-            StoreText(change.line, slot->second, change.text);
-        } else {
-            added[{change.line, change.slot}] = AddSlot(change.line, change.text);
+// The changes of one line, those of each file together.
+using LineChanges = std::map<std::size_t, std::vector<const SlotChange*>>;
+
+void RestoreLine(std::int32_t line, const LineChanges& changes) {
+    UndoRepairs(line);
+    RestoredLine restored(line);
+    for (const auto& [file, changesOfFile] : changes) {
+        restored.BeginFile();
+        for (const SlotChange* change : changesOfFile) {
+            restored.Make(*change);
         }
     }
+    restored.Store();
+    FindDuplicateVariations(line);
+    static_cast<void>(ListVariations(line)); // only the counts matter
 }
 
 // Makes the changes of the wanted files, those of the oldest first, so that of two changes of one
 // variation the later one counts.
-void MakeAll(std::span<const LeftOver* const> wanted) {
-    std::set<std::int32_t> lines;
-    std::map<std::int32_t, std::int32_t> countsAsRead;
-    for (const LeftOver* leftOver : wanted) {
-        for (const SlotChange& change : leftOver->file->changes) {
-            lines.insert(change.line);
-            countsAsRead[change.line] = RecordOf(change.line).lVariationCount;
+void MakeAll(std::span<const LeftOver> wanted) {
+    std::map<std::int32_t, LineChanges> lines;
+    for (std::size_t file = 0; file < wanted.size(); ++file) {
+        for (const SlotChange& change : wanted[file].file->changes) {
+            lines[change.line][file].push_back(&change);
         }
     }
     bChanged = true;
-    UndoRepairs(lines);
-    for (const LeftOver* leftOver : wanted) {
-        MakeChanges(leftOver->file->changes, countsAsRead); // which notes them as this editor's own
-        Unsaved.TakeOver(leftOver->name);
+    for (const auto& [line, changes] : lines) {
+        RestoreLine(line, changes);
     }
-    for (const std::int32_t line : lines) {
-        FindDuplicateVariations(line);
-        static_cast<void>(ListVariations(line)); // only the counts matter
+    for (const LeftOver& leftOver : wanted) {
+        const bool hasMore = leftOver.file->isDamaged; // than could be read
+        Unsaved.TakeOver(leftOver.name, hasMore ? UnsavedChanges::Then::IsSetAside : UnsavedChanges::Then::Goes);
     }
 }
 
-std::string ChangesOf(Desktop& desktop, const LeftOver& leftOver) {
-    return "unsaved changes of " + desktop.State().TimeOf(leftOver.name);
-}
+// Goes through the left-over files, the latest first, and asks about those that have to do with the open file.
+class Asking {
+public:
+    explicit Asking(Desktop& desktop)
+        : m_desktop(desktop), m_folder(desktop.State()), m_saves(m_folder, Unsaved.File().path) {}
 
-void TellSetAside(Desktop& desktop, const LeftOver& leftOver, const std::string& what) {
-    const Wording place = Wording::OfPath(SetAside(desktop.State(), leftOver));
-    desktop.MsgBox(what + "  None of them has been made.  They are kept in\r\n" + place, BoxIcon::Exclamation);
-}
+    void AskAbout(const std::string& name);
+    // The files whose changes are wanted, the oldest first. They are locked.
+    [[nodiscard]] const std::vector<LeftOver>& Wanted() const { return m_wanted; }
 
-bool IsWanted(Desktop& desktop, const LeftOver& leftOver) {
-    const std::string& path = leftOver.file->file.path;
-    const bool isSamePath = path == Unsaved.File().path;
-    const Wording whose = isSamePath ? "to this file." : "to a file that was the same:\r\n" + Wording::OfPath(path);
-    return desktop.MsgBox("There are " + ChangesOf(desktop, leftOver) + " " + whose + "\r\nDo you want them back?",
-                          BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
-}
+private:
+    void Judge(LeftOver& leftOver);
+    void Offer(LeftOver& leftOver);
+    void TellOfProblem(const LeftOver& leftOver);
+    void TellSetAside(const LeftOver& leftOver, const std::string& what);
 
-// Whether the open file is what the editor of the changes saved before it was stopped, so that they are all in it.
-bool AreSaved(const RecoveryFile& leftOver) {
-    return leftOver.savedAs && leftOver.savedAs->HasBytesOf(Unsaved.File());
-}
+    [[nodiscard]] static bool IsOfOpenFile(const LeftOver& leftOver);
+    [[nodiscard]] std::string ChangesOf(const LeftOver& leftOver) {
+        return "unsaved changes of " + m_folder.TimeOf(leftOver.name);
+    }
 
-// Whether a left-over file holds nothing that another does not. Its editor was stopped while it took the
-// changes of the one over into the other.
-bool IsPartOf(const RecoveryFile& part, const RecoveryFile& whole) {
-    const auto& changes = whole.changes;
-    return part.file == whole.file &&
-           std::search(changes.begin(), changes.end(), part.changes.begin(), part.changes.end()) != changes.end();
-}
+    Desktop& m_desktop;
+    StateFolder& m_folder;
+    SavesForOthers m_saves;
+    std::vector<LeftOver> m_wanted;
+    std::set<std::string> m_held; // files whose changes are all in another one
+};
 
-// The left-over files that have to do with the open file, the latest first. Those of other files are given
-// back at once, so that another editor may ask about them.
-std::vector<LeftOver> LeftOversOfFile(StateFolder& folder) {
+bool Asking::IsOfOpenFile(const LeftOver& leftOver) {
     const FileIdentity& file = Unsaved.File();
-    std::vector<LeftOver> leftOvers = TakeLeftOvers(folder);
-    std::erase_if(leftOvers, [&](const LeftOver& leftOver) {
-        const bool isOfAnother =
-            leftOver.file && leftOver.file->file.path != file.path && !leftOver.file->file.HasBytesOf(file);
-        if (isOfAnother) {
-            GiveBack(folder, leftOver);
-        }
-        return isOfAnother;
-    });
-    return leftOvers;
+    return leftOver.file ? leftOver.file->file.path == file.path || leftOver.file->file.HasBytesOf(file)
+                         : RecoveryNames::MayBelongTo(leftOver.name, file.path);
 }
 
-// Asks about the left-over files, and returns those that are wanted, the oldest first.
-std::vector<const LeftOver*> AskFor(Desktop& desktop, std::span<const LeftOver> leftOvers) {
-    std::vector<const LeftOver*> asked;
-    std::vector<const LeftOver*> wanted;
-    for (const LeftOver& leftOver : leftOvers) {
-        const auto holdsIt = [&](const LeftOver* other) { return IsPartOf(*leftOver.file, *other->file); };
-        const std::string changes = ChangesOf(desktop, leftOver);
-        if (!leftOver.file) {
-            TellSetAside(desktop, leftOver, "The recovery file with " + changes + " is damaged.");
-        } else if (leftOver.file->changes.empty() || std::any_of(asked.begin(), asked.end(), holdsIt)) {
-            Drop(desktop.State(), leftOver);
-        } else if (AreSaved(*leftOver.file)) {
-            SetAside(desktop.State(), leftOver); // the saved file's name may not be on the disk yet
-        } else if (!leftOver.file->file.HasBytesOf(Unsaved.File())) {
-            TellSetAside(desktop, leftOver, "There are " + changes + " to an earlier state of this file.");
-        } else if (!FitsTable(leftOver.file->changes)) {
-            TellSetAside(desktop, leftOver, "The " + changes + " do not fit this file.");
-        } else {
-            asked.push_back(&leftOver);
-            if (IsWanted(desktop, leftOver)) {
-                wanted.insert(wanted.begin(), &leftOver);
-            } else {
-                SetAside(desktop.State(), leftOver);
-            }
-        }
+void Asking::AskAbout(const std::string& name) {
+    auto leftOver = TakeLeftOver(m_folder, name);
+    if (!leftOver) {
+        return;
     }
-    return wanted;
+    if (!IsOfOpenFile(*leftOver)) {
+        GiveBack(m_folder, *leftOver); // so that another editor may ask about it
+    } else if (!leftOver->problem.empty()) {
+        TellOfProblem(*leftOver);
+    } else {
+        Judge(*leftOver);
+    }
+}
+
+void Asking::Judge(LeftOver& leftOver) {
+    if (leftOver.isOfNewerVersion) {
+        leftOver.problem = "A newer version of this program has written it";
+        TellOfProblem(leftOver);
+        GiveBack(m_folder, leftOver);
+        return;
+    }
+    if (!leftOver.file) {
+        TellSetAside(leftOver, "The recovery file with " + ChangesOf(leftOver) + " is damaged.");
+        return;
+    }
+    RecoveryFile& file = *leftOver.file;
+    m_held.insert(file.holds.begin(), file.holds.end());
+    const bool isWhole = !file.isDamaged;
+    if (isWhole && (file.changes.empty() || m_held.contains(leftOver.name))) {
+        Drop(m_folder, leftOver);
+    } else if (isWhole && file.savedAs && file.savedAs->HasBytesOf(Unsaved.File())) {
+        SetAside(m_folder, leftOver.name); // the saved file's name may not be on the disk yet
+    } else if (!m_saves.CarryTo(Unsaved.File(), file)) {
+        TellSetAside(leftOver, "There are " + ChangesOf(leftOver) + " to an earlier state of this file.");
+    } else if (file.changes.empty() || !FitsTable(file.changes)) {
+        TellSetAside(leftOver, "The " + ChangesOf(leftOver) +
+                                   (file.isDamaged ? " are damaged from the first one on." : " do not fit this file."));
+    } else {
+        Offer(leftOver);
+    }
+}
+
+void Asking::Offer(LeftOver& leftOver) {
+    const RecoveryFile& file = *leftOver.file;
+    const bool isOfAnother = file.file.path != Unsaved.File().path;
+    Wording question = "There are " + ChangesOf(leftOver);
+    if (isOfAnother) {
+        question = question + " (made to " + Wording::OfPath(file.file.path) +
+                   ").  That file had the same content as this one.\r\nDo you want them in this file?";
+    } else {
+        question = question + " to this file.\r\nDo you want them back?";
+    }
+    if (file.isDamaged) {
+        question = question + "\r\nTheir file is damaged: only the first " + std::to_string(file.changes.size()) +
+                   " can be had.  It is kept aside.";
+    }
+    switch (m_desktop.MsgBox(question, BoxIcon::Question, BoxButtons::YesNoCancel)) {
+    case BoxAnswer::Yes:
+        m_wanted.insert(m_wanted.begin(), std::move(leftOver));
+        break;
+    case BoxAnswer::No:
+        if (!isOfAnother) {
+            m_desktop.MsgBox("The changes are kept in\r\n" + Wording::OfPath(SetAside(m_folder, leftOver.name)) +
+                                 "\r\nThey are offered again when \".aside\" is taken off that name.",
+                             BoxIcon::Information);
+            break;
+        }
+        [[fallthrough]]; // they stay for the file to which they were made
+    default:
+        GiveBack(m_folder, leftOver);
+    }
+}
+
+void Asking::TellOfProblem(const LeftOver& leftOver) {
+    m_desktop.MsgBox("There are unsaved changes to this file that cannot be had back now.\r\n" + leftOver.problem +
+                         ".\r\nThey stay in\r\n" + Wording::OfPath(m_folder.PathOf(leftOver.name)),
+                     BoxIcon::Exclamation);
+}
+
+void Asking::TellSetAside(const LeftOver& leftOver, const std::string& what) {
+    const Wording place = Wording::OfPath(SetAside(m_folder, leftOver.name));
+    m_desktop.MsgBox(what + "  None of them has been made.  They are kept in\r\n" + place, BoxIcon::Exclamation);
 }
 
 } // namespace
@@ -171,10 +214,20 @@ void RestoreChanges(Desktop& desktop) {
     if (TheOpenFile.Mark(desktop)) {
         TellOfAnotherEditor(desktop);
     }
-    const std::vector<LeftOver> leftOvers = LeftOversOfFile(desktop.State());
-    if (const std::vector<const LeftOver*> wanted = AskFor(desktop, leftOvers); !wanted.empty()) {
-        MakeAll(wanted);
+    const std::vector<std::string> names = RecoveryFiles(desktop.State());
+    if (const std::string problem = desktop.State().Problem(); !problem.empty()) {
+        desktop.MsgBox("It cannot be told whether there are unsaved changes to this file.\r\n" + problem + ".\r\n" +
+                           Wording::OfPath(desktop.State().PathOf({})),
+                       BoxIcon::Exclamation);
     }
+    Asking asking(desktop);
+    for (const std::string& name : names) {
+        asking.AskAbout(name);
+    }
+    if (!asking.Wanted().empty()) {
+        MakeAll(asking.Wanted());
+    }
+    SavesForOthers(desktop.State(), Unsaved.File().path).RemoveUnlessWanted(Unsaved.Name());
 }
 
 } // namespace Commands

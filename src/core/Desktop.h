@@ -19,7 +19,7 @@ namespace CommonRoutines {
 
 enum class BoxIcon { None, Critical, Question, Exclamation, Information };
 // The first button is the default one, which Enter presses; where a Yes could destroy something, it is No.
-enum class BoxButtons { Ok, OkCancel, YesNo, YesNoDefaultNo };
+enum class BoxButtons { Ok, OkCancel, YesNo, YesNoDefaultNo, YesNoCancel };
 enum class BoxAnswer { Ok, Cancel, Yes, No };
 
 // Numbers of the standard icons, as the box with chosen buttons takes them.

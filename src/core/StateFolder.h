@@ -26,10 +26,13 @@ public:
 
     // All files, locks among them, in the order of their names.
     virtual std::vector<std::string> Names() = 0;
-    // A name that no file has had, behind all earlier ones in their order.
+    // A name that no file has. It begins with a number that is higher than those of all files, whatever the clock
+    // says, and ends with one of the process.
     virtual std::string NewName() = 0;
 
     virtual std::optional<std::string> Read(const std::string& name) = 0;
+    // True when there is certainly no such file.
+    virtual bool IsGone(const std::string& name) = 0;
     // Puts a file there as a whole, and makes it go on behind its first `kept` bytes, which must be there.
     // True when that is on the disk. Where it fails, what was there before, or was to be kept, still is.
     virtual bool Replace(const std::string& name, std::string_view content) = 0;
@@ -41,6 +44,9 @@ public:
     // process has died is taken over.
     virtual LockResult Lock(const std::string& name) = 0;
     virtual void Unlock(const std::string& name) = 0;
+
+    // Why the last call of Names, Read or Lock could not do what it was asked for; empty when it could.
+    virtual std::string Problem() = 0;
 
     // For messages: the path of a file, and when it was last written, as Windows-1252.
     virtual std::string PathOf(const std::string& name) = 0;

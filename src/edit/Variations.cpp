@@ -15,6 +15,22 @@ void PutText(std::int32_t lDistrict, std::int32_t slot, std::string_view text) {
     SpellingChanged(lDistrict, slot, before, stored);
 }
 
+// An empty slot behind the last one, which does not count yet.
+std::int32_t NextSlot(std::int32_t lDistrict, std::size_t spare) {
+    DistrictRecord& district = RecordOf(lDistrict);
+    const std::int32_t slot = district.lVariationCount + 1;
+    if (slot >= std::ssize(district.Variations)) {
+        district.Variations.resize(static_cast<std::size_t>(slot) + 1 + spare);
+    }
+    VariationOf(lDistrict, slot) = {}; // one left from before may hold anything
+    return slot;
+}
+
+void PutIntoNextSlot(std::int32_t lDistrict, std::int32_t slot, std::string_view text) {
+    PutText(lDistrict, slot, text);
+    RecordOf(lDistrict).lVariationCount = slot; // last, in case that there is not enough memory
+}
+
 } // namespace
 
 VariationRecord& VariationOf(std::int32_t lDistrict, std::int32_t slot) {
@@ -38,16 +54,21 @@ void StoreText(std::int32_t lDistrict, std::int32_t slot, std::string_view text)
 }
 
 std::int32_t AddSlot(std::int32_t lDistrict, std::string_view text, std::int32_t spare) {
-    DistrictRecord& district = RecordOf(lDistrict);
-    const std::int32_t slot = district.lVariationCount + 1;
-    if (slot >= std::ssize(district.Variations)) {
-        district.Variations.resize(static_cast<std::size_t>(slot) + 1 + static_cast<std::size_t>(spare));
-    }
-    VariationOf(lDistrict, slot) = {}; // one left from before may hold anything
+    const std::int32_t slot = NextSlot(lDistrict, static_cast<std::size_t>(spare));
     Unsaved.Note(lDistrict, slot, text);
-    PutText(lDistrict, slot, text);
-    district.lVariationCount = slot; // last, in case that there is not enough memory
+    PutIntoNextSlot(lDistrict, slot, text);
     return slot;
+}
+
+void RestoreSlots(std::int32_t lDistrict, std::span<const std::string_view> texts) {
+    const auto count = static_cast<std::size_t>(RecordOf(lDistrict).lVariationCount);
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (i < count) {
+            PutText(lDistrict, static_cast<std::int32_t>(i) + 1, texts[i]);
+        } else {
+            PutIntoNextSlot(lDistrict, NextSlot(lDistrict, texts.size() - i), texts[i]);
+        }
+    }
 }
 
 } // namespace CommonRoutines

@@ -3,10 +3,11 @@
 #include "core/Records.h"
 
 #include <cstdint>
+#include <span>
 #include <string_view>
 
-// The slots of a district. Every change of a variation comes through StoreText or AddSlot: what is kept about
-// the texts follows, and the change is noted as unsaved. It is written when the command ends.
+// The slots of a district. Every change of a variation comes through StoreText, AddSlot or RestoreSlots: what is
+// kept about the texts follows, and the change is noted as unsaved. It is written when the command ends.
 namespace CommonRoutines {
 
 // The variation in a slot, 1 to lVariationCount.
@@ -21,5 +22,8 @@ void StoreText(std::int32_t lDistrict, std::int32_t slot, std::string_view text)
 // Adds a slot with a text behind the last one and returns it, making room for `spare` more when the
 // array has to grow.
 std::int32_t AddSlot(std::int32_t lDistrict, std::string_view text, std::int32_t spare = 0);
+
+// Gives a district these texts, at least as many as it has slots. The caller notes the changes.
+void RestoreSlots(std::int32_t lDistrict, std::span<const std::string_view> texts);
 
 } // namespace CommonRoutines

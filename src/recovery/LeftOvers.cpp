@@ -3,6 +3,10 @@
 #include "core/StateFolder.h"
 
 #include <algorithm>
+#include <charconv>
+#include <new>
+#include <set>
+#include <utility>
 
 namespace CommonRoutines {
 
@@ -10,50 +14,109 @@ namespace {
 
 constexpr std::string_view Ending = ".changes";
 constexpr std::string_view LockEnding = ".changes.lock";
+constexpr std::string_view SaveEnding = ".saved";
 constexpr std::string_view AsideEnding = ".aside";
 
-constexpr std::size_t MostSetAside = 3;
+std::uint64_t NumberOf(std::string_view name) {
+    std::uint64_t number = 0;
+    std::from_chars(name.data(), name.data() + name.size(), number);
+    return number;
+}
 
-std::vector<std::string> NamesWith(StateFolder& folder, std::string_view ending) {
-    std::vector<std::string> names = folder.Names();
+bool IsEarlier(const std::string& a, const std::string& b) {
+    return std::pair<std::uint64_t, std::string_view>(NumberOf(a), a) <
+           std::pair<std::uint64_t, std::string_view>(NumberOf(b), b);
+}
+
+std::vector<std::string> LatestFirst(std::vector<std::string> names, std::string_view ending) {
     std::erase_if(names, [&](const std::string& name) { return !name.ends_with(ending); });
+    std::sort(names.begin(), names.end(), IsEarlier);
+    std::reverse(names.begin(), names.end());
     return names;
 }
 
 // A lock without its file is from an editor that was stopped between the two.
-void RemoveDeadLocks(StateFolder& folder) {
-    for (const std::string& name : NamesWith(folder, LockEnding)) {
-        if (folder.Lock(name) == LockResult::Taken) {
+void RemoveDeadLocks(StateFolder& folder, const std::vector<std::string>& names) {
+    const std::set<std::string_view> all(names.begin(), names.end());
+    for (const std::string& name : names) {
+        const bool isLock = name.ends_with(LockEnding);
+        const std::string_view locked = std::string_view(name).substr(0, isLock ? name.rfind('.') : 0);
+        if (isLock && !all.contains(locked) && folder.Lock(name) == LockResult::Taken) {
             folder.Unlock(name);
         }
     }
 }
 
+std::string DigestOf(std::string_view dataFile) {
+    return IdentityOf({}, dataFile).digest;
+}
+
+// Reads a left-over file as far as that goes.
+LeftOver ReadLeftOver(StateFolder& folder, const std::string& name) {
+    LeftOver leftOver{name, std::nullopt, false, {}};
+    try {
+        const auto content = folder.Read(name);
+        if (content) {
+            leftOver.file = ParseRecoveryFile(*content);
+            leftOver.isOfNewerVersion = IsOfNewerVersion(*content);
+        } else {
+            leftOver.problem = folder.Problem();
+        }
+    } catch (const std::bad_alloc&) {
+        leftOver.problem = "There is not enough memory for it";
+    }
+    return leftOver;
+}
+
 } // namespace
 
-std::string RecoveryNames::New(StateFolder& folder) {
-    return folder.NewName().append(Ending);
+std::string RecoveryNames::New(StateFolder& folder, std::string_view dataFile) {
+    return folder.NewName() + '-' + DigestOf(dataFile).append(Ending);
+}
+
+std::string RecoveryNames::OfSave(StateFolder& folder, std::string_view dataFile) {
+    return folder.NewName() + '-' + DigestOf(dataFile).append(SaveEnding);
 }
 
 std::string RecoveryNames::LockOf(const std::string& name) {
     return name + ".lock";
 }
 
-std::vector<LeftOver> TakeLeftOvers(StateFolder& folder) {
-    RemoveDeadLocks(folder);
-    std::vector<LeftOver> leftOvers;
-    for (const std::string& name : NamesWith(folder, Ending)) {
-        if (folder.Lock(RecoveryNames::LockOf(name)) != LockResult::Taken) {
-            continue;
-        }
-        if (const auto content = folder.Read(name)) {
-            leftOvers.push_back({name, ParseRecoveryFile(*content)});
-        } else {
-            folder.Unlock(RecoveryNames::LockOf(name));
-        }
+bool RecoveryNames::MayBelongTo(std::string_view name, std::string_view dataFile) {
+    const std::string digest = DigestOf(dataFile);
+    name.remove_suffix(name.ends_with(Ending) ? Ending.size() : 0);
+    const std::string_view last = name.substr(name.rfind('-') + 1); // all of a name without one
+    return last.size() != digest.size() || last == digest;
+}
+
+std::vector<std::string> RecoveryFiles(StateFolder& folder) {
+    const std::vector<std::string> names = folder.Names();
+    RemoveDeadLocks(folder, names);
+    return LatestFirst(names, Ending);
+}
+
+std::vector<std::string> SavesOf(StateFolder& folder, std::string_view dataFile) {
+    std::vector<std::string> names = LatestFirst(folder.Names(), SaveEnding);
+    const std::string ending = DigestOf(dataFile).append(SaveEnding);
+    std::erase_if(names, [&](const std::string& name) { return !name.ends_with(ending); });
+    return names;
+}
+
+std::optional<LeftOver> TakeLeftOver(StateFolder& folder, const std::string& name) {
+    const LockResult lock = folder.Lock(RecoveryNames::LockOf(name));
+    if (lock == LockResult::HeldByAnother) {
+        return std::nullopt;
     }
-    std::reverse(leftOvers.begin(), leftOvers.end());
-    return leftOvers;
+    const std::string problem = folder.Problem();
+    LeftOver leftOver = ReadLeftOver(folder, name);
+    if (lock != LockResult::Taken) {
+        leftOver.problem = problem; // whose it is may be known all the same
+    }
+    const bool isGone = folder.IsGone(name);
+    if (lock == LockResult::Taken && (isGone || !leftOver.problem.empty())) {
+        GiveBack(folder, leftOver);
+    }
+    return isGone ? std::nullopt : std::optional(std::move(leftOver));
 }
 
 void GiveBack(StateFolder& folder, const LeftOver& leftOver) {
@@ -65,15 +128,11 @@ void Drop(StateFolder& folder, const LeftOver& leftOver) {
     GiveBack(folder, leftOver);
 }
 
-std::string SetAside(StateFolder& folder, const LeftOver& leftOver) {
-    const std::string aside = folder.NewName().append(AsideEnding); // the last in the order of names
-    const bool renamed = folder.Rename(leftOver.name, aside);
-    GiveBack(folder, leftOver);
-    std::vector<std::string> kept = NamesWith(folder, AsideEnding);
-    for (std::size_t i = 0; i + MostSetAside < kept.size(); ++i) {
-        folder.Remove(kept[i]);
-    }
-    return folder.PathOf(renamed ? aside : leftOver.name);
+std::string SetAside(StateFolder& folder, const std::string& name) {
+    const std::string aside = name + std::string(AsideEnding);
+    const bool isRenamed = folder.Rename(name, aside);
+    folder.Unlock(RecoveryNames::LockOf(name));
+    return folder.PathOf(isRenamed ? aside : name);
 }
 
 } // namespace CommonRoutines

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace CommonRoutines {
@@ -13,27 +14,41 @@ class StateFolder;
 // The recovery files of the state folder. One is left over when no living editor has its lock: its
 // editor was stopped, or its changes were neither saved nor given up.
 
+// A name begins with a number, by which the later of two is known, and ends with what is made from the path of
+// the data file, so that it is known whose changes are in a file that cannot be read.
 namespace RecoveryNames {
 
-[[nodiscard]] std::string New(StateFolder& folder);
+[[nodiscard]] std::string New(StateFolder& folder, std::string_view dataFile);
 [[nodiscard]] std::string LockOf(const std::string& name);
+// Of a save that is kept (recovery/SavesForOthers).
+[[nodiscard]] std::string OfSave(StateFolder& folder, std::string_view dataFile);
+// False when the name says that the changes belong to a file at another path.
+[[nodiscard]] bool MayBelongTo(std::string_view name, std::string_view dataFile);
 
 } // namespace RecoveryNames
 
 struct LeftOver {
     std::string name;
-    std::optional<RecoveryFile> file; // nothing when it is damaged
+    std::optional<RecoveryFile> file; // nothing when it is none, or cannot be read
+    bool isOfNewerVersion = false;
+    std::string problem; // why it cannot be had now; it is not locked then
 };
 
-// All left-over files, the latest first. Each is locked, so that no other editor takes it, until it is
-// given back, dropped or set aside.
-[[nodiscard]] std::vector<LeftOver> TakeLeftOvers(StateFolder& folder);
+// The names of all recovery files, those of living editors among them, the latest first.
+[[nodiscard]] std::vector<std::string> RecoveryFiles(StateFolder& folder);
+
+// The names of the saves of a data file that are kept, the latest first.
+[[nodiscard]] std::vector<std::string> SavesOf(StateFolder& folder, std::string_view dataFile);
+
+// Locks a left-over file, so that no other editor takes it until it is given back, dropped or set aside, and reads
+// it. Nothing when a living editor has it, or when it has gone.
+[[nodiscard]] std::optional<LeftOver> TakeLeftOver(StateFolder& folder, const std::string& name);
 
 void GiveBack(StateFolder& folder, const LeftOver& leftOver);
 void Drop(StateFolder& folder, const LeftOver& leftOver);
 
-// Keeps a left-over file where it is not offered any more, and no more than the last three of such.
-// Returns the path where it is kept, for a message.
-std::string SetAside(StateFolder& folder, const LeftOver& leftOver);
+// Keeps a left-over file where it is not offered any more, until the user deletes it: under its name with an
+// ending more. Without that it is offered again. Returns the path where it is kept, for a message.
+std::string SetAside(StateFolder& folder, const std::string& name);
 
 } // namespace CommonRoutines

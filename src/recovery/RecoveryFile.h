@@ -1,8 +1,10 @@
 #pragma once
 
 // The recovery file holds the changes of a table that no data file holds yet. Each is a line of its own, which
-// goes on the disk as soon as it is made. A file that can still be trusted is told from one that cannot by a
-// checksum in every line.
+// goes on the disk as soon as it is made. The checksum of a line covers the lines before it, so that a line that
+// is damaged, missing or in another place shows, and what stands before it can still be trusted.
+
+#include "core/Encoding.h"
 
 #include <cstdint>
 #include <optional>
@@ -31,28 +33,60 @@ struct SlotChange {
     std::int32_t line = 0;
     std::int32_t slot = 0;
     std::string text;
+    std::optional<std::int32_t> after; // of a new slot that is not the last: the one that it follows, 0 for none
 
     bool operator==(const SlotChange&) const = default;
 };
 
+// What has become of the slots of a line that a save has numbered anew: by their numbers from 1 on as the line was
+// read before, their numbers as it is read now, 0 for those that have gone.
+struct LineNumbers {
+    std::int32_t line = 0;
+    std::int32_t countNow = 0;
+    std::vector<std::int32_t> now;
+
+    bool operator==(const LineNumbers&) const = default;
+};
+
 struct RecoveryFile {
     FileIdentity file;
-    std::vector<SlotChange> changes; // in the order in which they were made
+    Encoding encoding = Encoding::Windows1252; // of the file, and of the texts
+    std::vector<SlotChange> changes;           // in the order in which they were made
     // What was to be saved with all of these changes in it, under whichever name. When it is there, they are.
     std::optional<FileIdentity> savedAs;
+    std::vector<std::string> holds;   // the names of left-over files whose changes are among these, all of them
+    std::vector<LineNumbers> numbers; // of the lines that the save has numbered anew; see SavesForOthers
+    bool isDamaged = false;           // something followed that cannot be trusted
 };
 
 // What identifies a file with these bytes. The digest is XXH3 of 128 bits, which tells versions of a
 // file apart at the speed of memory; it does not protect from somebody who forges one.
 [[nodiscard]] FileIdentity IdentityOf(std::string_view path, std::string_view bytes);
 
-// The beginning of a recovery file, and what each change and each attempt to save adds to it.
-[[nodiscard]] std::string RecoveryHeader(const FileIdentity& file);
-[[nodiscard]] std::string RecoveryRecord(std::int32_t line, std::int32_t slot, std::string_view text);
-[[nodiscard]] std::string SavingRecord(const FileIdentity& file);
+// The content of a recovery file as it grows.
+class RecoveryRecords {
+public:
+    RecoveryRecords(const FileIdentity& file, Encoding encoding);
 
-// A recovery file from its bytes; nothing when it is damaged, or is none. A last line without its end
-// was never written whole and does not count, nor do zero bytes that a power cut left at the end.
+    void AddChange(const SlotChange& change);
+    void AddSaving(const FileIdentity& file); // see RecoveryFile::savedAs
+    void AddHeld(std::string_view leftOver);  // see RecoveryFile::holds
+    void AddNumbers(const LineNumbers& numbers);
+
+    [[nodiscard]] const std::string& Content() const { return m_content; }
+
+private:
+    void AddLine(std::string_view body);
+
+    std::string m_content;
+    std::uint64_t m_checksum = 0; // of the lines so far
+};
+
+// A recovery file from its bytes, as far as it can be trusted; nothing when it is none. A last line without its
+// end was never written whole and does not count, nor do zero bytes that a power cut left at the end.
 [[nodiscard]] std::optional<RecoveryFile> ParseRecoveryFile(std::string_view content);
+
+// True of a recovery file in a format that is not known yet.
+[[nodiscard]] bool IsOfNewerVersion(std::string_view content);
 
 } // namespace CommonRoutines

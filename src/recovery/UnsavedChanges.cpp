@@ -3,6 +3,7 @@
 #include "core/Desktop.h"
 #include "core/State.h"
 #include "recovery/LeftOvers.h"
+#include "recovery/SavesForOthers.h"
 
 namespace CommonRoutines {
 
@@ -24,13 +25,6 @@ void RemoveFile(StateFolder& folder, std::string& name) {
     }
 }
 
-void RemoveFiles(StateFolder& folder, std::vector<std::string>& names) {
-    for (std::string& name : names) {
-        RemoveFile(folder, name);
-    }
-    names.clear();
-}
-
 } // namespace
 
 void UnsavedChanges::Begin(Desktop& desktop, const std::string& path, std::string_view bytes, Numbering numbering) {
@@ -45,29 +39,93 @@ void UnsavedChanges::Note(std::int32_t line, std::int32_t slot, std::string_view
     if (!m_following) {
         return;
     }
-    if (m_numbering == Numbering::AsRead) {
-        NoteInFile(line, slot, text);
-        return;
+    auto numbers = m_numbers.find(line);
+    if (numbers == m_numbers.end()) {
+        numbers = m_numbers.emplace(line, NumbersOf(line)).first;
     }
-    SlotNumbers& numbers = m_numbers.try_emplace(line, RecordOf(line)).first->second;
-    const SlotNumbers::Place place = numbers.TakePlace(slot);
-    NoteInFile(line, place.first, text);
+    const SlotNumbers::Place place = numbers->second.TakePlace(slot);
+    Records().AddChange({line, place.first, std::string(text), place.after});
     for (std::int32_t i = 1; i < place.count; ++i) {
-        NoteInFile(line, place.first + i, DeletedText);
+        Records().AddChange({line, place.first + i, std::string(DeletedText), std::nullopt});
     }
 }
 
-void UnsavedChanges::NoteInFile(std::int32_t line, std::int32_t slot, std::string_view text) {
-    if (m_content.empty()) {
-        m_content = RecoveryHeader(m_file);
+SlotNumbers UnsavedChanges::NumbersOf(std::int32_t line) const {
+    const auto numbers = m_numbers.find(line);
+    if (numbers != m_numbers.end()) {
+        return numbers->second;
     }
-    m_content += RecoveryRecord(line, slot, text);
+    const DistrictRecord& record = RecordOf(line);
+    return m_numbering == Numbering::AsSaved ? SlotNumbers(record) : SlotNumbers::AsRead(record.lVariationCount);
+}
+
+void UnsavedChanges::NoteRestored(std::int32_t line, std::span<const SlotChange> changes, SlotNumbers numbers) {
+    for (const SlotChange& change : changes) {
+        Records().AddChange(change);
+    }
+    m_numbers.insert_or_assign(line, std::move(numbers));
+}
+
+// The encoding is that of the table, which has been read by the time of the first change.
+RecoveryRecords& UnsavedChanges::Records() {
+    if (!m_records) {
+        m_records.emplace(m_file, eFileEncoding);
+    }
+    return *m_records;
 }
 
 void UnsavedChanges::NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes) {
-    if (!m_content.empty()) {
-        m_content += SavingRecord(IdentityOf(desktop.TruePath(path), bytes));
+    const FileIdentity saved = IdentityOf(desktop.TruePath(path), bytes);
+    if (m_records) {
+        m_records->AddSaving(saved);
         Write(desktop);
+    }
+    SavesForOthers saves(desktop.State(), m_file.path);
+    if (saved.path == m_file.path && !saved.HasBytesOf(m_file) && saves.AreWanted(m_name)) {
+        saves.Keep(RecordsOfSave(saved));
+    }
+}
+
+// What this editor has changed, and where the slots are numbered anew.
+RecoveryRecords UnsavedChanges::RecordsOfSave(const FileIdentity& saved) const {
+    RecoveryRecords records = m_records ? *m_records : RecoveryRecords(m_file, eFileEncoding);
+    for (std::int32_t line = 1; line <= lLineCount; ++line) {
+        const bool isAsSaved = m_numbering == Numbering::AsSaved && !m_numbers.contains(line);
+        const auto numbers = isAsSaved ? std::nullopt : NumbersNow(line);
+        if (numbers) {
+            records.AddNumbers(*numbers);
+        }
+    }
+    records.AddSaving(saved);
+    return records;
+}
+
+// The slots of a line as they will be numbered once it is saved; nothing when that is as before.
+std::optional<LineNumbers> UnsavedChanges::NumbersNow(std::int32_t line) const {
+    if (!IsDistrict(line)) {
+        return std::nullopt;
+    }
+    const SlotNumbers before = NumbersOf(line);
+    const SlotNumbers after(RecordOf(line));
+    LineNumbers numbers{line, after.FirstCount(), {}};
+    numbers.now.resize(static_cast<std::size_t>(before.FirstCount()));
+    for (std::int32_t slot = 1; slot <= RecordOf(line).lVariationCount; ++slot) {
+        const std::int32_t number = before.NumberOf(slot);
+        if (number > 0 && number <= before.FirstCount()) {
+            numbers.now[static_cast<std::size_t>(number) - 1] = after.NumberOf(slot);
+        }
+    }
+    bool isAsBefore = before.FirstCount() == after.FirstCount();
+    for (std::size_t i = 0; isAsBefore && i < numbers.now.size(); ++i) {
+        isAsBefore = numbers.now[i] == static_cast<std::int32_t>(i) + 1;
+    }
+    return isAsBefore ? std::nullopt : std::optional(std::move(numbers));
+}
+
+void UnsavedChanges::TakeOver(const std::string& leftOver, Then then) {
+    m_takenOver.push_back({leftOver, then});
+    if (m_records) {
+        m_records->AddHeld(leftOver);
     }
 }
 
@@ -80,10 +138,49 @@ void UnsavedChanges::Write(Desktop& desktop) {
     if (!AreUnwritten()) {
         return;
     }
-    if (TryToWrite(desktop.State())) {
-        RemoveFiles(desktop.State(), m_takenOver);
+    const Written written = TryToWrite(desktop.State());
+    if (written == Written::No) {
+        TellOfOutage(desktop);
         return;
     }
+    m_hasTold = false;
+    LeaveTakenOver(desktop.State());
+    if (written == Written::Anew) {
+        desktop.MsgBox("The recovery file of your changes had been removed.  It has been written anew.\r\n" +
+                           Wording::OfPath(desktop.State().PathOf(m_name)),
+                       BoxIcon::Exclamation);
+    }
+}
+
+UnsavedChanges::Written UnsavedChanges::TryToWrite(StateFolder& folder) {
+    const std::string_view content = m_records->Content();
+    const std::string_view added = content.substr(m_onDisk);
+    // What is taken over goes there as a whole, so that it is never found in two files in part.
+    bool isWritten = m_onDisk > 0 && m_takenOver.empty() && folder.Extend(m_name, m_onDisk, added);
+    const bool isGone = !isWritten && m_onDisk > 0 && folder.IsGone(m_name);
+    if (isGone) {
+        Unlock(folder, m_name); // its lock may have gone, too, and be another editor's
+        m_onDisk = 0;
+    }
+    isWritten = isWritten || (HasName(folder) && folder.Replace(m_name, content));
+    if (isWritten) {
+        m_onDisk = content.size();
+    }
+    return !isWritten ? Written::No : isGone ? Written::Anew : Written::Yes;
+}
+
+// A name of its own, which is locked.
+bool UnsavedChanges::HasName(StateFolder& folder) {
+    if (m_name.empty()) {
+        const std::string name = RecoveryNames::New(folder, m_file.path);
+        if (folder.Lock(RecoveryNames::LockOf(name)) == LockResult::Taken) {
+            m_name = name;
+        }
+    }
+    return !m_name.empty();
+}
+
+void UnsavedChanges::TellOfOutage(Desktop& desktop) {
     if (m_hasTold) {
         return;
     }
@@ -94,34 +191,27 @@ void UnsavedChanges::Write(Desktop& desktop) {
         BoxIcon::Exclamation);
 }
 
-bool UnsavedChanges::TryToWrite(StateFolder& folder) {
-    if (m_name.empty()) {
-        const std::string name = RecoveryNames::New(folder);
-        if (folder.Lock(RecoveryNames::LockOf(name)) != LockResult::Taken) {
-            return false;
+void UnsavedChanges::LeaveTakenOver(StateFolder& folder) {
+    for (TakenOver& leftOver : m_takenOver) {
+        if (leftOver.then == Then::IsSetAside) {
+            SetAside(folder, leftOver.name);
+        } else {
+            RemoveFile(folder, leftOver.name);
         }
-        m_name = name;
     }
-    const std::string_view content = m_content;
-    // Where the file has gone, it is written anew.
-    const bool written =
-        (m_onDisk > 0 && folder.Extend(m_name, m_onDisk, content.substr(m_onDisk))) || folder.Replace(m_name, content);
-    if (written) {
-        m_onDisk = m_content.size();
-    }
-    return written;
+    m_takenOver.clear();
 }
 
 void UnsavedChanges::Remove(Desktop& desktop) {
     RemoveFile(desktop.State(), m_name);
-    RemoveFiles(desktop.State(), m_takenOver);
+    LeaveTakenOver(desktop.State());
     Release(desktop);
 }
 
 void UnsavedChanges::Release(Desktop& desktop) {
     Unlock(desktop.State(), m_name);
-    for (std::string& name : m_takenOver) {
-        Unlock(desktop.State(), name);
+    for (TakenOver& leftOver : m_takenOver) {
+        Unlock(desktop.State(), leftOver.name);
     }
     const bool hasTold = m_hasTold;
     *this = {};

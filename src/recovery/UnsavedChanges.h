@@ -4,9 +4,12 @@
 #include "recovery/SlotNumbers.h"
 
 #include <cstdint>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace CommonRoutines {
@@ -29,8 +32,11 @@ public:
     // To be called before a slot of the table gets another text.
     void Note(std::int32_t line, std::int32_t slot, std::string_view text);
 
+    // Notes the changes of a line that has been restored, and under which numbers its slots are noted from now on.
+    void NoteRestored(std::int32_t line, std::span<const SlotChange> changes, SlotNumbers numbers);
+
     // Puts what has been noted on the disk. To be called before the user can do anything else. When it
-    // fails, the user is told, once for every file, and the next call tries again.
+    // fails, the user is told, once for every outage, and the next call tries again.
     void Write(Desktop& desktop);
 
     // The table is about to be saved as these bytes, under any name. Should the editor be stopped between that and
@@ -38,8 +44,9 @@ public:
     void NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes);
 
     // What is noted and not yet written holds what this left-over file does. Its lock is taken over; the
-    // file goes when it is not needed any more.
-    void TakeOver(const std::string& leftOver) { m_takenOver.push_back(leftOver); }
+    // file goes, or is set aside, when it is not needed any more.
+    enum class Then { Goes, IsSetAside };
+    void TakeOver(const std::string& leftOver, Then then = Then::Goes);
 
     // The fields of a line that is being repaired, as they stand in the file, and those of any line: empty
     // unless it has been repaired.
@@ -50,7 +57,7 @@ public:
     [[nodiscard]] bool HasChanges() const { return !m_content.empty(); }
 
     // True while there are changes that could not be written.
-    [[nodiscard]] bool AreUnwritten() const { return m_onDisk != m_content.size(); }
+    [[nodiscard]] bool AreUnwritten() const { return m_records && m_onDisk != m_records->Content().size(); }
 
     // The changes are in a data file, or not wanted any more. Those to come are not noted until the
     // next Begin.
@@ -59,23 +66,39 @@ public:
     // Leaves the recovery file, if there is one, to whoever opens the data file next.
     void Release(Desktop& desktop);
 
+    // The name of the recovery file; empty while there is none.
+    [[nodiscard]] const std::string& Name() const { return m_name; }
+
     // The data file to which the changes belong.
     [[nodiscard]] const FileIdentity& File() const { return m_file; }
 
 private:
-    void NoteInFile(std::int32_t line, std::int32_t slot, std::string_view text);
-    [[nodiscard]] bool TryToWrite(StateFolder& folder);
+    struct TakenOver {
+        std::string name;
+        Then then = Then::Goes;
+    };
+
+    enum class Written { Yes, Anew, No };
+
+    [[nodiscard]] RecoveryRecords& Records();
+    [[nodiscard]] SlotNumbers NumbersOf(std::int32_t line) const;
+    [[nodiscard]] std::optional<LineNumbers> NumbersNow(std::int32_t line) const;
+    [[nodiscard]] RecoveryRecords RecordsOfSave(const FileIdentity& saved) const;
+    [[nodiscard]] Written TryToWrite(StateFolder& folder);
+    [[nodiscard]] bool HasName(StateFolder& folder);
+    void LeaveTakenOver(StateFolder& folder);
+    void TellOfOutage(Desktop& desktop);
 
     bool m_following = false;
     Numbering m_numbering = Numbering::AsRead;
-    std::unordered_map<std::int32_t, SlotNumbers> m_numbers; // of lines changed since they were saved
+    std::unordered_map<std::int32_t, SlotNumbers> m_numbers; // of the lines that have been changed
     FileIdentity m_file;
-    std::string m_content; // of the whole file; empty until there is a change
+    std::optional<RecoveryRecords> m_records; // of the whole file; nothing until there is a change
     std::size_t m_onDisk = 0;
-    std::string m_name;                   // of the recovery file, which is locked; empty until there is one
-    std::vector<std::string> m_takenOver; // left-over files, which are locked
+    std::string m_name;                 // of the recovery file, which is locked; empty until there is one
+    std::vector<TakenOver> m_takenOver; // left-over files, which are locked
     std::unordered_map<std::int32_t, std::vector<std::string>> m_fields;
-    bool m_hasTold = false;
+    bool m_hasTold = false; // of this outage
 };
 
 extern UnsavedChanges Unsaved;

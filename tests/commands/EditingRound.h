@@ -175,7 +175,8 @@ public:
         if (!heir.desktop.state.Kept(".changes").empty()) {
             heir.desktop.ExpectBox(
                 "There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
-                CommonRoutines::BoxIcon::Question, CommonRoutines::BoxButtons::YesNo, CommonRoutines::BoxAnswer::Yes);
+                CommonRoutines::BoxIcon::Question, CommonRoutines::BoxButtons::YesNoCancel,
+                CommonRoutines::BoxAnswer::Yes);
         }
         heir.desktop.recordReports = true;
         heir.ExpectRepeatedNames(RepeatedNames());

@@ -86,7 +86,7 @@ protected:
     void ExpectOfferedAfterDeath(const std::string& path) {
         DieAndOpen(path, [this] {
             desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
-                              BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
+                              BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes);
         });
     }
 

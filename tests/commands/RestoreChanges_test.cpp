@@ -6,6 +6,7 @@
 #include "recovery/OpenMark.h"
 #include "recovery/UnsavedChanges.h"
 #include "support/Reading.h"
+#include "support/RecoveryText.h"
 
 using namespace CommonRoutines;
 using namespace Commands;
@@ -18,26 +19,39 @@ const std::string Content = HeaderOf("North") + "|Ash|Elm|Oak\r\n# note\r\n" + H
 class RestoreChangesTest : public EditTest {
 protected:
     // Puts a left-over recovery file into the folder.
+    void Leave(const RecoveryFile& file, const std::string& name = "0001") {
+        desktop.state.storage->files[name + ".changes"] = RecoveryText(file);
+    }
     void Leave(const std::vector<SlotChange>& changes, const std::string& bytes = Content,
                const std::string& path = DataFilePath, const std::string& name = "0001") {
-        std::string content = RecoveryHeader(IdentityOf(path, bytes));
-        for (const SlotChange& change : changes) {
-            content += RecoveryRecord(change.line, change.slot, change.text);
-        }
-        desktop.state.storage->files[name + ".changes"] = content;
+        RecoveryFile file;
+        file.file = IdentityOf(path, bytes);
+        file.changes = changes;
+        Leave(file, name);
     }
     void Open(const std::string& content = Content) {
         ReadText(desktop, content);
         RestoreChanges(desktop);
         Unsaved.Write(desktop); // as the end of a command does
     }
-    void ExpectQuestion(BoxAnswer answer) {
+    void ExpectQuestion(BoxAnswer answer, const std::string& name = "0001") {
         desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
-                          BoxIcon::Question, BoxButtons::YesNo, answer);
+                          BoxIcon::Question, BoxButtons::YesNoCancel, answer);
+        if (answer == BoxAnswer::No) {
+            desktop.ExpectBox("The changes are kept in\r\n/state/" + name +
+                                  ".changes.aside\r\nThey are offered again when \".aside\" is taken off that name.",
+                              BoxIcon::Information);
+        }
+    }
+    void ExpectSetAside(const std::string& what) {
+        desktop.ExpectBox(what + "  None of them has been made.  They are kept in\r\n/state/0001.changes.aside",
+                          BoxIcon::Exclamation);
     }
     // Names are given in order: the mark of the open file has the first one.
-    void ExpectSetAside(const std::string& what, const std::string& name = "1002") {
-        desktop.ExpectBox(what + "  None of them has been made.  They are kept in\r\n/state/" + name + ".aside",
+    static std::string Own(int number = 1002) { return RecoveryName(number, DataFilePath); }
+    void ExpectProblem(const std::string& problem, const std::string& name) {
+        desktop.ExpectBox("There are unsaved changes to this file that cannot be had back now.\r\n" + problem +
+                              ".\r\nThey stay in\r\n/state/" + name,
                           BoxIcon::Exclamation);
     }
     void ExpectUntouched() {
@@ -58,7 +72,12 @@ TEST_F(RestoreChangesTest, AskNothingWhereNothingIsLeft) {
 }
 
 TEST_F(RestoreChangesTest, YesBringsThemBackAsUnsavedChanges) {
-    Leave({{1, 2, "Fir"}, {1, 4, "Ivy"}, {3, 1, "\t"}, {3, 2, "Larch"}, {1, 4, "!Ivy"}, {1, 5, "%Elm"}});
+    Leave({{1, 2, "Fir", {}},
+           {1, 4, "Ivy", {}},
+           {3, 1, "\t", {}},
+           {3, 2, "Larch", {}},
+           {1, 4, "!Ivy", {}},
+           {1, 5, "%Elm", {}}});
     ExpectQuestion(BoxAnswer::Yes);
     Open();
     EXPECT_EQ(DistrictFileContent(),
@@ -68,7 +87,7 @@ TEST_F(RestoreChangesTest, YesBringsThemBackAsUnsavedChanges) {
 }
 
 TEST_F(RestoreChangesTest, TheProblemsOfTheirDistrictsAreCountedAnew) {
-    Leave({{1, 1, "ELM"}, {1, 4, "bad!"}, {3, 1, "%Yew"}});
+    Leave({{1, 1, "ELM", {}}, {1, 4, "bad!", {}}, {3, 1, "%Yew", {}}});
     ExpectQuestion(BoxAnswer::Yes);
     Open();
     EXPECT_EQ(DistrictAt(1).iDuplicateCount, 1);
@@ -78,10 +97,10 @@ TEST_F(RestoreChangesTest, TheProblemsOfTheirDistrictsAreCountedAnew) {
 }
 
 TEST_F(RestoreChangesTest, ThatAreBackAreThisEditorsOwn) {
-    Leave({{1, 2, "Fir"}});
+    Leave({{1, 2, "Fir", {}}});
     ExpectQuestion(BoxAnswer::Yes);
     Open();
-    EXPECT_EQ(desktop.state.Kept(), Texts{"1002.changes"});
+    EXPECT_EQ(desktop.state.Kept(), Texts{Own()});
     StoreText(1, 1, "Larch");
     Unsaved.Write(desktop);
     desktop.state.Die();
@@ -91,11 +110,12 @@ TEST_F(RestoreChangesTest, ThatAreBackAreThisEditorsOwn) {
 }
 
 TEST_F(RestoreChangesTest, ThatCannotBeWrittenAnewStayWhereTheyWere) {
-    Leave({{1, 2, "Fir"}});
+    Leave({{1, 2, "Fir", {}}});
     desktop.state.canWrite = false;
     ExpectQuestion(BoxAnswer::Yes);
     desktop.ExpectBox("Your changes cannot be written to the recovery file.  They are only safe once the file is "
-                      "saved.\r\n/state/1002.changes",
+                      "saved.\r\n/state/" +
+                          Own(),
                       BoxIcon::Exclamation);
     Open();
     EXPECT_EQ(desktop.state.Kept(), Texts{"0001.changes"});
@@ -104,23 +124,45 @@ TEST_F(RestoreChangesTest, ThatCannotBeWrittenAnewStayWhereTheyWere) {
 }
 
 TEST_F(RestoreChangesTest, NoKeepsThemAside) {
-    Leave({{1, 2, "Fir"}});
+    Leave({{1, 2, "Fir", {}}});
     ExpectQuestion(BoxAnswer::No);
     Open();
     ExpectUntouched();
-    EXPECT_EQ(desktop.state.Kept(), Texts{"1002.aside"});
+    EXPECT_EQ(desktop.state.Kept(), Texts{"0001.changes.aside"});
     Open(); // asks no more
 }
 
+TEST_F(RestoreChangesTest, SetAsideAreOfferedAgainUnderTheirOldName) {
+    Leave({{1, 2, "Fir", {}}});
+    ExpectQuestion(BoxAnswer::No);
+    Open();
+    ASSERT_TRUE(desktop.state.Rename("0001.changes.aside", "0001.changes"));
+    ExpectQuestion(BoxAnswer::Yes);
+    Open();
+    EXPECT_EQ(VariationAt(1, 2).Text, "Fir");
+}
+
+TEST_F(RestoreChangesTest, EscLeavesThemToBeOfferedAgain) {
+    Leave({{1, 2, "Fir", {}}});
+    for (int time = 0; time < 2; ++time) {
+        ExpectQuestion(BoxAnswer::Cancel);
+        Open();
+        ExpectUntouched();
+        EXPECT_EQ(desktop.state.Kept(), Texts{"0001.changes"});
+        EXPECT_FALSE(desktop.state.storage->locks.contains("0001.changes.lock"));
+    }
+}
+
 TEST_F(RestoreChangesTest, LeftTwiceByAnEditorThatWasStoppedWhileItTookThemOverAreOfferedOnce) {
-    const SlotChange fir{1, 2, "Fir"};
-    const SlotChange ivy{1, 4, "Ivy"};
     for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
         desktop.state.storage->files.clear();
-        Leave({fir}, Content, DataFilePath, "0001");
-        Leave({fir}, Content, DataFilePath, "0002");
-        Leave({fir, ivy}, Content, DataFilePath, "0003");
-        ExpectQuestion(answer);
+        Leave({{1, 2, "Fir", {}}}, Content, DataFilePath, "0001");
+        RecoveryFile both;
+        both.file = IdentityOf(DataFilePath, Content);
+        both.changes = {{1, 2, "Fir", {}}, {1, 4, "Ivy", {}}};
+        both.holds = {"0001.changes"};
+        Leave(both, "0002");
+        ExpectQuestion(answer, "0002");
         Open();
         EXPECT_EQ(desktop.state.Kept().size(), 1U);
         EXPECT_FALSE(desktop.state.storage->locks.contains("0001.changes.lock"));
@@ -129,12 +171,22 @@ TEST_F(RestoreChangesTest, LeftTwiceByAnEditorThatWasStoppedWhileItTookThemOverA
 }
 
 TEST_F(RestoreChangesTest, OfTheSameBytesElsewhereAreOfferedWithTheirPath) {
-    Leave({{1, 2, "Fir"}}, Content, "/data/before it was moved \xC4\x8D.txt");
-    desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to a file that was the same:\r\n" +
-                          Wording::OfPath("/data/before it was moved \xC4\x8D.txt") + "\r\nDo you want them back?",
-                      BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::Yes);
+    const auto expectQuestion = [&](BoxAnswer answer) {
+        desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 (made to " +
+                              Wording::OfPath("/data/before it was moved \xC4\x8D.txt") +
+                              ").  That file had the same content as this one.\r\nDo you want them in this file?",
+                          BoxIcon::Question, BoxButtons::YesNoCancel, answer);
+    };
+    Leave({{1, 2, "Fir", {}}}, Content, "/data/before it was moved \xC4\x8D.txt");
+    for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Cancel}) {
+        expectQuestion(answer); // they stay for the file to which they were made
+        Open();
+        EXPECT_EQ(desktop.state.Kept(), Texts{"0001.changes"});
+    }
+    expectQuestion(BoxAnswer::Yes);
     Open();
     EXPECT_EQ(VariationAt(1, 2).Text, "Fir");
+    EXPECT_EQ(desktop.state.Kept(), Texts{Own(1004)});
 }
 
 TEST_F(RestoreChangesTest, OfOtherFilesAreFreeWhileOthersAreAskedAbout) {
@@ -146,11 +198,11 @@ TEST_F(RestoreChangesTest, OfOtherFilesAreFreeWhileOthersAreAskedAbout) {
             return ScriptedDesktop::MsgBox(text, icon, buttons);
         }
     } watching;
-    Leave({{1, 2, "Fir"}}, "other bytes", "/data/other.txt", "0002");
-    Leave({{1, 2, "Fir"}});
+    Leave({{1, 2, "Fir", {}}}, "other bytes", "/data/other.txt", "0002");
+    Leave({{1, 2, "Fir", {}}});
     watching.state.storage = desktop.state.storage;
     watching.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
-                       BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No);
+                       BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Cancel);
     ReadText(watching, Content);
     RestoreChanges(watching);
     Unsaved.Write(watching);
@@ -159,7 +211,7 @@ TEST_F(RestoreChangesTest, OfOtherFilesAreFreeWhileOthersAreAskedAbout) {
 }
 
 TEST_F(RestoreChangesTest, OfOtherFilesAreLeftAlone) {
-    Leave({{1, 2, "Fir"}}, "other bytes", "/data/other.txt");
+    Leave({{1, 2, "Fir", {}}}, "other bytes", "/data/other.txt");
     Open();
     ExpectUntouched();
     EXPECT_EQ(desktop.state.Kept(), Texts{"0001.changes"});
@@ -167,54 +219,129 @@ TEST_F(RestoreChangesTest, OfOtherFilesAreLeftAlone) {
 }
 
 TEST_F(RestoreChangesTest, OfAnEarlierStateAreSetAside) {
-    Leave({{1, 2, "Fir"}}, "bytes of yesterday");
+    Leave({{1, 2, "Fir", {}}}, "bytes of yesterday");
     ExpectSetAside("There are unsaved changes of 05 Mar 2026 14:07 to an earlier state of this file.");
     Open();
     ExpectUntouched();
-    EXPECT_EQ(desktop.state.Kept(), Texts{"1002.aside"});
+    EXPECT_EQ(desktop.state.Kept(), Texts{"0001.changes.aside"});
 }
 
 TEST_F(RestoreChangesTest, ThatTheFileHasSinceTheyWereSavedAreSetAsideUnasked) {
-    Leave({{1, 2, "Fir"}}, "bytes of yesterday");
-    std::string& leftOver = desktop.state.storage->files["0001.changes"];
-    leftOver += SavingRecord(IdentityOf("/data/whatever.txt", Content));
+    Leave({{1, 2, "Fir", {}}}, "bytes of yesterday");
+    RecoveryFile saved = *ParseRecoveryFile(*desktop.state.Read("0001.changes"));
+    saved.savedAs = IdentityOf("/data/whatever.txt", Content);
+    Leave(saved);
     Open();
     ExpectUntouched();
-    EXPECT_EQ(desktop.state.Kept(), Texts{"1002.aside"});
+    EXPECT_EQ(desktop.state.Kept(), Texts{"0001.changes.aside"});
 }
 
 TEST_F(RestoreChangesTest, MadeAfterAnAttemptToSaveAreNotTakenForSaved) {
-    Leave({{1, 2, "Fir"}}, "bytes of yesterday");
-    std::string& leftOver = desktop.state.storage->files["0001.changes"];
-    leftOver += SavingRecord(IdentityOf(DataFilePath, Content)) + RecoveryRecord(1, 3, "Larch");
+    Leave({{1, 2, "Fir", {}}}, "bytes of yesterday");
+    RecoveryRecords records(IdentityOf(DataFilePath, "bytes of yesterday"), Encoding::Windows1252);
+    records.AddSaving(IdentityOf(DataFilePath, Content));
+    records.AddChange({1, 3, "Larch", {}});
+    desktop.state.storage->files["0001.changes"] = records.Content();
     ExpectSetAside("There are unsaved changes of 05 Mar 2026 14:07 to an earlier state of this file.");
     Open();
     ExpectUntouched();
 }
 
 TEST_F(RestoreChangesTest, OfASaveThatDidNotComeAboutAreOffered) {
-    Leave({{1, 2, "Fir"}});
-    desktop.state.storage->files["0001.changes"] += SavingRecord(IdentityOf(DataFilePath, "never written"));
+    Leave({{1, 2, "Fir", {}}});
+    RecoveryFile saving = *ParseRecoveryFile(*desktop.state.Read("0001.changes"));
+    saving.savedAs = IdentityOf(DataFilePath, "never written");
+    Leave(saving);
     ExpectQuestion(BoxAnswer::Yes);
     Open();
     EXPECT_EQ(VariationAt(1, 2).Text, "Fir");
 }
 
-TEST_F(RestoreChangesTest, ThatAreDamagedAreSetAside) {
-    Leave({{1, 2, "Fir"}, {1, 1, "Larch"}});
+TEST_F(RestoreChangesTest, WhoseHeaderIsDamagedAreSetAside) {
+    Leave({{1, 2, "Fir", {}}, {1, 1, "Larch", {}}});
     desktop.state.storage->files["0001.changes"][70] ^= 1;
     ExpectSetAside("The recovery file with unsaved changes of 05 Mar 2026 14:07 is damaged.");
     Open();
     ExpectUntouched();
-    EXPECT_EQ(desktop.state.Kept(), Texts{"1002.aside"});
+    EXPECT_EQ(desktop.state.Kept(), Texts{"0001.changes.aside"});
+}
+
+TEST_F(RestoreChangesTest, ThatAreDamagedAreOfferedUpToThere) {
+    Leave({{1, 2, "Fir", {}}, {1, 1, "Larch", {}}, {1, 3, "Ivy", {}}});
+    std::string& content = desktop.state.storage->files["0001.changes"];
+    content[content.find("Larch")] ^= 1;
+    const std::string damaged = content;
+    desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?\r\n"
+                      "Their file is damaged: only the first 1 can be had.  It is kept aside.",
+                      BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes);
+    Open();
+    EXPECT_EQ(SlotsOf(1), (Texts{"Ash", "Fir", "Oak"}));
+    EXPECT_EQ(desktop.state.Kept(), (Texts{"0001.changes.aside", Own()}));
+    EXPECT_EQ(desktop.state.Read("0001.changes.aside"), damaged);
+}
+
+TEST_F(RestoreChangesTest, ThatAreDamagedFromTheFirstOneOnAreSetAside) {
+    Leave({{1, 2, "Fir", {}}});
+    std::string& content = desktop.state.storage->files["0001.changes"];
+    content[content.find("Fir")] ^= 1;
+    ExpectSetAside("The unsaved changes of 05 Mar 2026 14:07 are damaged from the first one on.");
+    Open();
+    ExpectUntouched();
+}
+
+TEST_F(RestoreChangesTest, OfANewerVersionAreNamedAndStay) {
+    const std::string name = Own(1);
+    desktop.state.storage->files[name] = "Quexal Editor, unsaved changes, version 3\nwhatever\n";
+    ExpectProblem("A newer version of this program has written it", name);
+    Open();
+    ExpectUntouched();
+    EXPECT_EQ(desktop.state.Kept(), Texts{name});
+    EXPECT_FALSE(desktop.state.storage->locks.contains(name + ".lock"));
+}
+
+TEST_F(RestoreChangesTest, ThatCannotBeLockedOrReadAreNamedWithTheReasonAndStay) {
+    Leave({{1, 2, "Fir", {}}});
+    desktop.state.canLock = false;
+    ExpectProblem("Permission denied", "0001.changes");
+    Open();
+    ExpectUntouched();
+    desktop.state.canLock = true;
+    desktop.state.unreadable = {"0001.changes"};
+    ExpectProblem("Input/output error", "0001.changes");
+    Open();
+    ExpectUntouched();
+    desktop.state.unreadable.clear();
+    ExpectQuestion(BoxAnswer::Yes);
+    Open();
+    EXPECT_EQ(VariationAt(1, 2).Text, "Fir");
+}
+
+TEST_F(RestoreChangesTest, OfAnotherFileThatCannotBeReadAreNotNamed) {
+    const std::string name = RecoveryName(1, "/data/other.txt");
+    desktop.state.storage->files[name] = "any";
+    desktop.state.unreadable = {name};
+    Open();
+    ExpectUntouched();
+}
+
+TEST_F(RestoreChangesTest, ThatCannotBeListedAreNamedAsWell) {
+    Leave({{1, 2, "Fir", {}}});
+    desktop.state.canList = false;
+    desktop.ExpectBox("It cannot be told whether there are unsaved changes to this file.\r\nToo many open files."
+                      "\r\n/state/",
+                      BoxIcon::Exclamation);
+    Open();
+    ExpectUntouched();
 }
 
 TEST_F(RestoreChangesTest, OfWhichOneDoesNotFitAreNotMadeAtAll) {
-    const SlotChange misfits[] = {{2, 1, "Fir"}, {4, 1, "Fir"}, {2147483647, 1, "Fir"},
-                                  {1, 5, "Fir"}, {3, 3, "Fir"}, {1, 2147483647, "Fir"}};
+    const SlotChange misfits[] = {{2, 1, "Fir", {}}, {4, 1, "Fir", {}}, {2147483647, 1, "Fir", {}},
+                                  {1, 5, "Fir", {}}, {3, 3, "Fir", {}}, {1, 2147483647, "Fir", {}},
+                                  {1, 4, "Fir", 4},  {1, 3, "Fir", 1},  {1, 4, "Fir", 2147483647}};
     for (const SlotChange& misfit : misfits) {
-        Leave({{1, 1, "Larch"}, misfit, {1, 2, "Fir"}});
-        ExpectSetAside(DoNotFit, std::to_string(1002 + desktop.state.storage->names));
+        Leave({{1, 1, "Larch", {}}, misfit, {1, 2, "Fir", {}}});
+        desktop.state.storage->files.erase("0001.changes.aside");
+        ExpectSetAside(DoNotFit);
         Open();
         ExpectUntouched();
         desktop.CheckDone();
@@ -222,23 +349,23 @@ TEST_F(RestoreChangesTest, OfWhichOneDoesNotFitAreNotMadeAtAll) {
 }
 
 TEST_F(RestoreChangesTest, MayNameASlotOnceAnEarlierOneHasMadeIt) {
-    Leave({{3, 2, "Fir"}, {3, 3, "Larch"}, {3, 3, "Ivy"}});
+    Leave({{3, 2, "Fir", {}}, {3, 3, "Larch", {}}, {3, 3, "Ivy", {}}});
     ExpectQuestion(BoxAnswer::Yes);
     Open();
     EXPECT_EQ(SlotsOf(3), (Texts{"Yew", "Fir", "Ivy"}));
 }
 
 TEST_F(RestoreChangesTest, WithoutAnyAreRemovedUnasked) {
-    Leave({});
+    Leave(std::vector<SlotChange>());
     Open();
     ExpectUntouched();
     EXPECT_EQ(desktop.state.Kept(), Texts());
 }
 
 TEST_F(RestoreChangesTest, TheLatestAreAskedAboutFirst) {
-    Leave({{1, 1, "Older"}}, Content, DataFilePath, "0001");
-    Leave({{1, 1, "Newer"}}, Content, DataFilePath, "0002");
-    ExpectQuestion(BoxAnswer::No);
+    Leave({{1, 1, "Older", {}}}, Content, DataFilePath, "0001");
+    Leave({{1, 1, "Newer", {}}}, Content, DataFilePath, "0002");
+    ExpectQuestion(BoxAnswer::No, "0002");
     ExpectQuestion(BoxAnswer::Yes);
     Open();
     EXPECT_EQ(VariationAt(1, 1).Text, "Older");
@@ -247,9 +374,10 @@ TEST_F(RestoreChangesTest, TheLatestAreAskedAboutFirst) {
 
 // Of one variation the later change counts; what was added by either is there.
 TEST_F(RestoreChangesTest, OfTwoEditorsCanBothBeHadBack) {
-    Leave({{1, 1, "Older"}, {1, 2, "Fir"}, {1, 4, "Ivy"}, {1, 4, "!Ivy"}}, Content, DataFilePath, "0001");
-    Leave({{1, 1, "Newer"}, {1, 4, "Larch"}, {3, 2, "Oak"}}, Content, DataFilePath, "0002");
-    ExpectQuestion(BoxAnswer::Yes);
+    Leave({{1, 1, "Older", {}}, {1, 2, "Fir", {}}, {1, 4, "Ivy", {}}, {1, 4, "!Ivy", {}}}, Content, DataFilePath,
+          "0001");
+    Leave({{1, 1, "Newer", {}}, {1, 4, "Larch", {}}, {3, 2, "Oak", {}}}, Content, DataFilePath, "0002");
+    ExpectQuestion(BoxAnswer::Yes, "0002");
     ExpectQuestion(BoxAnswer::Yes);
     Open();
     EXPECT_EQ(SlotsOf(1), (Texts{"Newer", "Fir", "Oak", "!Ivy", "Larch"}));
@@ -322,4 +450,45 @@ TEST_F(RestoreChangesTest, ThatBeganWithAnotherRepairReplaceTheOneOfThisReading)
     ExpectQuestion(BoxAnswer::Yes);
     Open(content);
     EXPECT_EQ(SlotsOf(1), before);
+}
+
+TEST_F(RestoreChangesTest, MayBringAVariationBackBetweenTwoOthers) {
+    Leave({{1, 4, "Fir", 1}, {1, 5, "Ivy", 0}, {1, 6, "Larch", 4}, {1, 4, "Fir Tree", {}}, {1, 7, "Yew", {}}});
+    ExpectQuestion(BoxAnswer::Yes);
+    Open();
+    const Texts expected{"Ivy", "Ash", "Fir Tree", "Larch", "Elm", "Oak", "Yew"};
+    EXPECT_EQ(SlotsOf(1), expected);
+    // What is changed afterwards comes back in its place, too.
+    StoreText(1, 3, DeletedText);
+    StoreText(1, 5, "Elms");
+    AddSlot(1, "Box");
+    Unsaved.Write(desktop);
+    desktop.state.Die();
+    desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
+                      BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes);
+    Open();
+    EXPECT_EQ(SlotsOf(1), (Texts{"Ivy", "Ash", "\t", "Larch", "Elms", "Oak", "Yew", "Box"}));
+}
+
+TEST_F(RestoreChangesTest, OfTwoFilesStandEachInItsPlace) {
+    Leave({{1, 4, "Fir", 1}, {1, 5, "Ivy", 4}}, Content, DataFilePath, "0001");
+    Leave({{1, 4, "Box", 1}, {1, 5, "Yew", {}}, {1, 6, "Larch", 4}}, Content, DataFilePath, "0002");
+    ExpectQuestion(BoxAnswer::Yes, "0002");
+    ExpectQuestion(BoxAnswer::Yes);
+    Open();
+    EXPECT_EQ(SlotsOf(1), (Texts{"Ash", "Box", "Larch", "Fir", "Ivy", "Elm", "Oak", "Yew"}));
+}
+
+// A thousand files, each with the same change a thousand times, are looked through in no time.
+TEST_F(RestoreChangesTest, MadeToTakeLongTakeNoTime) {
+    const std::vector<SlotChange> changes(1000, SlotChange{1, 1, "Ash", {}});
+    for (int i = 0; i < 1000; ++i) {
+        Leave(changes, Content, DataFilePath, "1" + std::to_string(i));
+        desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
+                          BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Cancel);
+    }
+    Leave(std::vector<SlotChange>(200'000, SlotChange{1, 4, "Fir", {}}), Content, DataFilePath, "0001");
+    ExpectQuestion(BoxAnswer::Yes);
+    Open();
+    EXPECT_EQ(SlotsOf(1), (Texts{"Ash", "Elm", "Oak", "Fir"}));
 }

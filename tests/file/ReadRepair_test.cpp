@@ -186,8 +186,8 @@ TEST_F(ReadRepairTest, EveryRepairIsNotedSlotBySlot) {
                                  "0 variations with capitalisation problems"});
     Read("|!|Elm|%|Oak|%|Fir||!");
     const auto file = ParseRecoveryFile(*m_desktop.state.Read(m_desktop.state.Kept().back()));
-    const std::vector<SlotChange> expected{{1, 2, "!Elm"}, {1, 1, "\t"}, {1, 2, "!Elm%"},
-                                           {1, 3, "\t"},   {1, 5, "\t"}, {1, 8, "Yew"}};
+    const std::vector<SlotChange> expected{{1, 2, "!Elm", {}}, {1, 1, "\t", {}}, {1, 2, "!Elm%", {}},
+                                           {1, 3, "\t", {}},   {1, 5, "\t", {}}, {1, 8, "Yew", {}}};
     EXPECT_EQ(file->changes, expected);
 }
 

@@ -12,7 +12,8 @@ class SlotNumbersTest : public StateTest {
 protected:
     static std::string Place(SlotNumbers& numbers, std::int32_t slot) {
         const SlotNumbers::Place place = numbers.TakePlace(slot);
-        return std::to_string(place.first) + "x" + std::to_string(place.count);
+        const std::string after = place.after ? " after " + std::to_string(*place.after) : "";
+        return std::to_string(place.first) + "x" + std::to_string(place.count) + after;
     }
 };
 
@@ -29,10 +30,47 @@ TEST_F(SlotNumbersTest, CountOnlyWhatIsSaved) {
 TEST_F(SlotNumbersTest, GiveANewPlaceToAFreeSlotAndToANewOne) {
     SlotNumbers numbers(DistrictAt(AddDistrict("North", {"Ash", "\t", "Elm"})));
     EXPECT_EQ(Place(numbers, 4), "3x1");
-    EXPECT_EQ(Place(numbers, 2), "4x1");
+    EXPECT_EQ(Place(numbers, 2), "4x1 after 1");
     EXPECT_EQ(Place(numbers, 4), "3x1");
     EXPECT_EQ(Place(numbers, 2), "4x1");
     EXPECT_EQ(Place(numbers, 5), "5x1");
+}
+
+TEST_F(SlotNumbersTest, SayWhatANewPlaceFollows) {
+    SlotNumbers numbers(DistrictAt(AddDistrict("North", {"\t", "\t", "Ash|Oak", "\t", "\t", "\t", "Elm", "\t"})));
+    EXPECT_EQ(Place(numbers, 5), "4x1 after 2");
+    EXPECT_EQ(Place(numbers, 6), "5x1 after 4");
+    EXPECT_EQ(Place(numbers, 4), "6x1 after 2");
+    EXPECT_EQ(Place(numbers, 2), "7x1 after 0");
+    EXPECT_EQ(Place(numbers, 1), "8x1 after 0");
+    EXPECT_EQ(Place(numbers, 8), "9x1");
+}
+
+TEST_F(SlotNumbersTest, OfSlotsInAnotherOrderGoOnBehindTheHighest) {
+    SlotNumbers numbers({2, 5, 1});
+    EXPECT_EQ(numbers.FirstCount(), 5);
+    EXPECT_EQ(Place(numbers, 2), "5x1");
+    EXPECT_EQ(Place(numbers, 4), "6x1");
+    EXPECT_EQ(numbers.NumberOf(1), 2);
+    EXPECT_EQ(numbers.NumberOf(4), 6);
+    EXPECT_EQ(numbers.NumberOf(5), 0);
+}
+
+TEST_F(SlotNumbersTest, AsReadAreThoseOfTheSlots) {
+    SlotNumbers numbers = SlotNumbers::AsRead(2);
+    EXPECT_EQ(numbers.FirstCount(), 2);
+    EXPECT_EQ(Place(numbers, 2), "2x1");
+    EXPECT_EQ(Place(numbers, 3), "3x1");
+    EXPECT_EQ(Place(numbers, 1), "1x1");
+}
+
+// A million slots that nobody can tell apart, taken in the least convenient order.
+TEST_F(SlotNumbersTest, AreFoundQuicklyWhateverTheOrder) {
+    SlotNumbers numbers(DistrictAt(AddDistrict("North", std::vector<std::string>(400'000, "\t"))));
+    static_cast<void>(numbers.TakePlace(400'001));
+    for (std::int32_t slot = 400'000; slot > 0; --slot) {
+        ASSERT_EQ(numbers.TakePlace(slot).after, 0);
+    }
 }
 
 TEST_F(SlotNumbersTest, KnowTheFieldsThatABarMakes) {
@@ -52,7 +90,7 @@ TEST_F(SlotNumbersTest, BeginAtOneWhereTheWholeLineIsReadAsTheHeader) {
     DistrictAt(district).HeaderText = "|North+1+Shire+1837+3+9999+0+A+B";
     SlotNumbers numbers(DistrictAt(district));
     EXPECT_EQ(Place(numbers, 2), "1x1");
-    EXPECT_EQ(Place(numbers, 1), "2x1");
+    EXPECT_EQ(Place(numbers, 1), "2x1 after 0");
 }
 
 TEST_F(SlotNumbersTest, AreThoseOfTheLineReadAgain) {
@@ -65,5 +103,5 @@ TEST_F(SlotNumbersTest, AreThoseOfTheLineReadAgain) {
     for (const auto& [slot, text] : {std::pair(2, "Ash"), {3, "Elm"}, {5, "Oak"}}) {
         EXPECT_EQ(VariationAt(1, numbers.TakePlace(slot).first).Text, text);
     }
-    EXPECT_EQ(Place(numbers, 1), "5x1");
+    EXPECT_EQ(Place(numbers, 1), "5x1 after 0");
 }

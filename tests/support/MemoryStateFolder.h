@@ -22,6 +22,8 @@ public:
     std::shared_ptr<Storage> storage;
     bool canWrite = true;
     bool canLock = true;
+    bool canList = true;
+    std::set<std::string> unreadable;
 
     // What the system does for a process that ends, however it ends.
     void Die() {
@@ -44,6 +46,10 @@ public:
     }
 
     std::vector<std::string> Names() override {
+        m_problem = canList ? "" : "Too many open files";
+        if (!canList) {
+            return {};
+        }
         std::set<std::string> names = storage->locks;
         for (const auto& [name, content] : storage->files) {
             names.insert(name);
@@ -54,8 +60,11 @@ public:
 
     std::optional<std::string> Read(const std::string& name) override {
         const auto file = storage->files.find(name);
-        return file == storage->files.end() ? std::nullopt : std::optional(file->second);
+        const bool isRead = file != storage->files.end() && !unreadable.contains(name);
+        m_problem = isRead ? "" : "Input/output error";
+        return isRead ? std::optional(file->second) : std::nullopt;
     }
+    bool IsGone(const std::string& name) override { return !storage->files.contains(name); }
     bool Replace(const std::string& name, std::string_view content) override {
         if (canWrite) {
             storage->files[name] = content;
@@ -83,6 +92,7 @@ public:
     bool Remove(const std::string& name) override { return storage->files.erase(name) > 0; }
 
     CommonRoutines::LockResult Lock(const std::string& name) override {
+        m_problem = canLock ? "" : "Permission denied";
         if (!canLock) {
             return CommonRoutines::LockResult::Impossible;
         }
@@ -99,9 +109,12 @@ public:
         }
     }
 
+    std::string Problem() override { return m_problem; }
+
     std::string PathOf(const std::string& name) override { return "/state/" + name; }
     std::string TimeOf(const std::string& /*name*/) override { return "05 Mar 2026 14:07"; }
 
 private:
     std::set<std::string> m_locks;
+    std::string m_problem;
 };

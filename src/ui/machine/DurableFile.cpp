@@ -14,14 +14,10 @@
 #endif
 
 #include <algorithm>
-#include <limits>
 
 namespace DurableFile {
 
 namespace {
-
-// Positions in a file are 32-bit numbers.
-constexpr qint64 LargestFile = std::numeric_limits<std::int32_t>::max();
 
 #ifdef Q_OS_UNIX
 

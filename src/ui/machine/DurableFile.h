@@ -3,13 +3,18 @@
 #include <QString>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
 
 // Files that survive faults: of the disk, of the program, of the power.
 namespace DurableFile {
+
+// Positions in a file are 32-bit numbers.
+inline constexpr qint64 LargestFile = std::numeric_limits<std::int32_t>::max();
 
 // Is told, now and then, which part (0 to 1) of a file has been read or is on the disk.
 using Listener = std::function<void(double part)>;

@@ -37,10 +37,12 @@ LockResult FileLock::Take(const QString& path) {
     for (;;) {
         const int handle = open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
         if (handle < 0) {
+            m_problem = qt_error_string(errno);
             return LockResult::Impossible;
         }
         if (flock(handle, LOCK_EX | LOCK_NB) != 0) {
             const bool held = errno == EWOULDBLOCK;
+            m_problem = held ? QString() : qt_error_string(errno);
             close(handle);
             return held ? LockResult::HeldByAnother : LockResult::Impossible;
         }
@@ -55,7 +57,9 @@ LockResult FileLock::Take(const QString& path) {
 
 void FileLock::Release() {
     if (m_handle >= 0) {
-        QFile::remove(m_path); // while it is locked, so that nobody else's is removed
+        if (IsStillThere(m_handle, QFile::encodeName(m_path).constData())) {
+            QFile::remove(m_path); // while it is locked, so that nobody else's is removed
+        }
         close(m_handle);
         m_handle = -1;
     }
@@ -70,7 +74,11 @@ LockResult FileLock::Take(const QString& path) {
     if (m_lock->tryLock(0)) {
         return LockResult::Taken;
     }
-    return m_lock->error() == QLockFile::LockFailedError ? LockResult::HeldByAnother : LockResult::Impossible;
+    if (m_lock->error() == QLockFile::LockFailedError) {
+        return LockResult::HeldByAnother;
+    }
+    m_problem = QStringLiteral("No lock can be made");
+    return LockResult::Impossible;
 }
 
 void FileLock::Release() {

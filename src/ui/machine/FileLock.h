@@ -23,10 +23,13 @@ public:
 
     // To be called once. A file that is there and locked by nobody is taken over.
     [[nodiscard]] CommonRoutines::LockResult Take(const QString& path);
-    // Removes the file, if it has been taken.
+    // Removes the file, if it has been taken and is still there.
     void Release();
+    // Why it was impossible to take; empty otherwise.
+    [[nodiscard]] const QString& Problem() const { return m_problem; }
 
 private:
+    QString m_problem;
 #ifdef Q_OS_UNIX
     QString m_path;
     int m_handle = -1;

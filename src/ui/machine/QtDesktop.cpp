@@ -60,6 +60,8 @@ QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
     case BoxButtons::YesNo:
     case BoxButtons::YesNoDefaultNo:
         return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     case BoxButtons::Ok:
         break;
     }

@@ -12,14 +12,40 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
+#include <charconv>
+#include <filesystem>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 namespace Ui {
 
 using namespace CommonRoutines;
 
 namespace {
 
-constexpr QFileDevice::Permissions OnlyForTheUser =
-    QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+// What is made meanwhile is for nobody else, from the moment that it is made.
+class OnlyForTheUser {
+public:
+#ifdef Q_OS_UNIX
+    OnlyForTheUser() : m_before(umask(S_IRWXG | S_IRWXO)) {}
+    ~OnlyForTheUser() {
+        umask(m_before);
+    }
+#else
+    OnlyForTheUser() = default; // the folder lies among what is the user's alone
+    ~OnlyForTheUser() = default;
+#endif
+    OnlyForTheUser(const OnlyForTheUser&) = delete;
+    OnlyForTheUser& operator=(const OnlyForTheUser&) = delete;
+
+private:
+#ifdef Q_OS_UNIX
+    mode_t m_before;
+#endif
+};
 
 QString FolderPath() {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
@@ -34,11 +60,22 @@ QString FolderPath() {
 #endif
 }
 
-// What is kept here is for nobody else to read.
+// A folder that was there is closed to others, too. One behind a link is somebody's own arrangement.
 void MakeFolder() {
-    const QString path = FolderPath();
-    QDir().mkpath(path);
-    QFile::setPermissions(path, OnlyForTheUser);
+    const QFileInfo folder(FolderPath());
+    QDir().mkpath(folder.filePath());
+    if (!folder.isSymLink()) {
+        QFile::setPermissions(folder.filePath(),
+                              QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    }
+}
+
+// The number that a name begins with. One that nothing here has given is no reason to run out of numbers.
+quint64 NumberOf(const std::string& name) {
+    constexpr quint64 greatest = 1'000'000'000'000;
+    quint64 number = 0;
+    std::from_chars(name.data(), name.data() + name.size(), number);
+    return number <= greatest ? number : 0;
 }
 
 } // namespace
@@ -49,31 +86,51 @@ QString QtStateFolder::FilePath(const std::string& name) {
 
 std::vector<std::string> QtStateFolder::Names() {
     std::vector<std::string> names;
-    const QStringList found = QDir(FolderPath()).entryList(QDir::Files | QDir::Hidden, QDir::NoSort);
-    names.reserve(static_cast<std::size_t>(found.size()));
-    for (const QString& name : found) {
-        names.push_back(Text::PathFromQt(name));
+    std::error_code error;
+    std::filesystem::directory_iterator entry(QDir(FolderPath()).filesystemAbsolutePath(), error);
+    while (!error && entry != std::filesystem::directory_iterator()) {
+        if (std::error_code other; entry->is_regular_file(other)) {
+            names.push_back(entry->path().filename().string());
+        }
+        entry.increment(error);
     }
+    const bool isMissing = error == std::errc::no_such_file_or_directory;
+    m_problem = error && !isMissing ? Ansi::FromUtf8(error.message()) : std::string();
     std::sort(names.begin(), names.end());
     return names;
 }
 
 std::string QtStateFolder::NewName() {
-    // By the process no other one has the name, and by the time none that had its number before.
-    QString name;
-    do {
-        name = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz-")) +
-               QString::number(QCoreApplication::applicationPid());
-    } while (name == m_lastName);
-    m_lastName = name;
-    return Text::PathFromQt(name);
+    constexpr int digits = 8; // so that file managers, too, show the files in their order
+    for (const std::string& name : Names()) {
+        m_lastNumber = std::max(m_lastNumber, NumberOf(name));
+    }
+    return Text::PathFromQt(QStringLiteral("%1-%2")
+                                .arg(++m_lastNumber, digits, 10, QLatin1Char('0'))
+                                .arg(QCoreApplication::applicationPid()));
 }
 
 std::optional<std::string> QtStateFolder::Read(const std::string& name) {
-    return DurableFile::Read(FilePath(name));
+    auto content = DurableFile::Read(FilePath(name));
+    m_problem.clear();
+    if (!content) {
+        QFile file(FilePath(name));
+        const bool isTooLarge = file.size() > DurableFile::LargestFile;
+        m_problem = isTooLarge                       ? "It is larger than 2 GiB"
+                    : file.open(QIODevice::ReadOnly) ? "Not all of it can be read"
+                                                     : Text::FromQt(file.errorString());
+    }
+    return content;
+}
+
+bool QtStateFolder::IsGone(const std::string& name) {
+    std::error_code error;
+    const auto status = std::filesystem::symlink_status(QFileInfo(FilePath(name)).filesystemFilePath(), error);
+    return status.type() == std::filesystem::file_type::not_found;
 }
 
 bool QtStateFolder::Replace(const std::string& name, std::string_view content) {
+    const OnlyForTheUser guard;
     MakeFolder();
     return DurableFile::Replace(FilePath(name), content);
 }
@@ -94,9 +151,11 @@ LockResult QtStateFolder::Lock(const std::string& name) {
     if (m_locks.contains(name)) {
         return LockResult::HeldByAnother;
     }
+    const OnlyForTheUser guard;
     MakeFolder();
     auto lock = std::make_unique<FileLock>();
     const LockResult result = lock->Take(FilePath(name));
+    m_problem = Text::FromQt(lock->Problem());
     if (result == LockResult::Taken) {
         m_locks.emplace(name, std::move(lock));
     }

@@ -109,6 +109,8 @@ TEST_F(StandardBoxesTest, HaveTheirButtons) {
     EXPECT_EQ(boxButtons, QMessageBox::Yes | QMessageBox::No);
     Look("Text", BoxIcon::None, BoxButtons::YesNoDefaultNo, "No");
     EXPECT_EQ(boxButtons, QMessageBox::Yes | QMessageBox::No);
+    Look("Text", BoxIcon::None, BoxButtons::YesNoCancel, "Cancel");
+    EXPECT_EQ(boxButtons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
 }
 
 TEST_F(StandardBoxesTest, AnswerWithTheButtonPressed) {
@@ -121,6 +123,8 @@ TEST_F(StandardBoxesTest, AnswerWithTheButtonPressed) {
     EXPECT_EQ(answer(BoxButtons::OkCancel, "Cancel"), BoxAnswer::Cancel);
     EXPECT_EQ(answer(BoxButtons::YesNo, "Yes"), BoxAnswer::Yes);
     EXPECT_EQ(answer(BoxButtons::YesNo, "No"), BoxAnswer::No);
+    EXPECT_EQ(answer(BoxButtons::YesNoCancel, "No"), BoxAnswer::No);
+    EXPECT_EQ(answer(BoxButtons::YesNoCancel, "Cancel"), BoxAnswer::Cancel);
 }
 
 TEST_F(StandardBoxesTest, EscNeverMeansYesAndEnterTakesTheFirstButton) {
@@ -131,6 +135,7 @@ TEST_F(StandardBoxesTest, EscNeverMeansYesAndEnterTakesTheFirstButton) {
     EXPECT_EQ(answer(BoxButtons::Ok, Qt::Key_Escape), BoxAnswer::Ok);
     EXPECT_EQ(answer(BoxButtons::OkCancel, Qt::Key_Escape), BoxAnswer::Cancel);
     EXPECT_EQ(answer(BoxButtons::YesNo, Qt::Key_Escape), BoxAnswer::No);
+    EXPECT_EQ(answer(BoxButtons::YesNoCancel, Qt::Key_Escape), BoxAnswer::Cancel);
     EXPECT_EQ(answer(BoxButtons::OkCancel, Qt::Key_Return), BoxAnswer::Ok);
     EXPECT_EQ(answer(BoxButtons::YesNo, Qt::Key_Return), BoxAnswer::Yes);
 }

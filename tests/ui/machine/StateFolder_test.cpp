@@ -30,6 +30,12 @@ protected:
     QString Home() const { return m_home.filePath(QStringLiteral("states")); }
     QString FolderPath() const { return Home() + QStringLiteral("/quexal-editor"); }
 
+    static unsigned ModeOf(const QString& path) {
+        struct stat status {};
+        EXPECT_EQ(stat(path.toUtf8().constData(), &status), 0);
+        return status.st_mode & 0777U;
+    }
+
 private:
     QTemporaryDir m_home;
     QByteArray m_before;
@@ -62,9 +68,7 @@ TEST_F(StateFolderTest, IsNotMadeByLookingIntoIt) {
 TEST_F(StateFolderTest, IsOnlyForTheUser) {
     ASSERT_TRUE(QDir().mkpath(FolderPath())); // one that was there before is no exception
     ASSERT_TRUE(folder.Replace("a", "content"));
-    struct stat status {};
-    ASSERT_EQ(stat(FolderPath().toUtf8().constData(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777U, 0700U);
+    EXPECT_EQ(ModeOf(FolderPath()), 0700U);
 }
 
 TEST_F(StateFolderTest, KeepsItsFilesInTheOrderOfTheirNames) {
@@ -86,6 +90,69 @@ TEST_F(StateFolderTest, GivesNamesThatGetGreater) {
         EXPECT_LT(last, next);
         last = next;
     }
+}
+
+TEST_F(StateFolderTest, NumbersNamesBehindAllThatAreThereWhateverTheClockSays) {
+    for (const char* name : {"00000041-1-abc.changes", "7-1.changes.aside", "99999999999999999999999.changes", "x"}) {
+        ASSERT_TRUE(folder.Replace(name, "content"));
+    }
+    EXPECT_TRUE(folder.NewName().starts_with("00000042-")) << folder.NewName();
+    EXPECT_TRUE(folder.NewName().starts_with("00000043-"));
+    ASSERT_TRUE(folder.Replace("20260102-030405-678-9.changes", "content")); // as names were once given
+    EXPECT_TRUE(folder.NewName().starts_with("20260103-"));
+}
+
+TEST_F(StateFolderTest, BehindALinkKeepsTheRightsOfItsTarget) {
+    const QString target = Home() + QStringLiteral("/elsewhere");
+    ASSERT_TRUE(QDir().mkpath(target));
+    ASSERT_EQ(chmod(target.toUtf8().constData(), 0755), 0);
+    ASSERT_TRUE(QFile::link(target, FolderPath()));
+    ASSERT_TRUE(folder.Replace("a", "content"));
+    EXPECT_EQ(ModeOf(target), 0755U);
+    EXPECT_EQ(ModeOf(target + QStringLiteral("/a")), 0600U);
+}
+
+TEST_F(StateFolderTest, MakesFilesForTheUserAlone) {
+    const mode_t before = umask(0);
+    EXPECT_TRUE(folder.Replace("a", "content"));
+    EXPECT_TRUE(folder.Replace("a", "other content"));
+    EXPECT_EQ(folder.Lock("b.lock"), LockResult::Taken);
+    EXPECT_EQ(umask(before), 0U); // of other files it is as it was
+    EXPECT_EQ(ModeOf(FolderPath() + QStringLiteral("/a")), 0600U);
+    EXPECT_EQ(ModeOf(FolderPath() + QStringLiteral("/b.lock")), 0600U);
+}
+
+TEST_F(StateFolderTest, KnowsWhatHasGone) {
+    EXPECT_TRUE(folder.IsGone("a"));
+    ASSERT_TRUE(folder.Replace("a", "content"));
+    EXPECT_FALSE(folder.IsGone("a"));
+}
+
+TEST_F(StateFolderTest, SaysWhyItCannot) {
+    static_cast<void>(folder.Names());
+    EXPECT_EQ(folder.Problem(), ""); // that there is no folder yet is none
+    EXPECT_FALSE(folder.Read("a"));
+    EXPECT_EQ(folder.Problem(), "No such file or directory");
+    ASSERT_TRUE(folder.Replace("a", "content"));
+    EXPECT_TRUE(folder.Read("a"));
+    EXPECT_EQ(folder.Problem(), "");
+    ASSERT_TRUE(QFile::resize(FolderPath() + QStringLiteral("/a"), DurableFile::LargestFile + 1));
+    EXPECT_FALSE(folder.Read("a"));
+    EXPECT_EQ(folder.Problem(), "It is larger than 2 GiB");
+    ASSERT_TRUE(QDir(FolderPath()).removeRecursively());
+    ASSERT_TRUE(QDir().mkpath(FolderPath() + QStringLiteral("/b.lock")));
+    EXPECT_EQ(folder.Lock("b.lock"), LockResult::Impossible);
+    EXPECT_EQ(folder.Problem(), "Is a directory");
+}
+
+// A lock that is gone may be another editor's by now.
+TEST_F(StateFolderTest, UnlocksOnlyItsOwn) {
+    QtStateFolder other;
+    ASSERT_EQ(folder.Lock("a.lock"), LockResult::Taken);
+    ASSERT_TRUE(folder.Remove("a.lock"));
+    ASSERT_EQ(other.Lock("a.lock"), LockResult::Taken);
+    folder.Unlock("a.lock");
+    EXPECT_EQ(folder.Names(), Texts{"a.lock"});
 }
 
 TEST_F(StateFolderTest, LetsAFileGoOnBehindWhatIsKept) {

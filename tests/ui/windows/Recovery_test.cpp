@@ -5,6 +5,7 @@
 #include "recovery/OpenFile.h"
 #include "recovery/RecoveryFile.h"
 #include "recovery/UnsavedChanges.h"
+#include "support/RecoveryText.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -36,7 +37,7 @@ protected:
     void ExpectWantedBack(BoxAnswer answer) {
         ExpectOpening();
         desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
-                          BoxIcon::Question, BoxButtons::YesNo, answer);
+                          BoxIcon::Question, BoxButtons::YesNoCancel, answer);
     }
     void ExpectOpening() {
         if (!m_expectsOpening) {
@@ -62,7 +63,7 @@ private:
 
 TEST_F(RecoveryTest, AnOkWritesTheChange) {
     Add("Fir");
-    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Fir"}}));
+    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Fir", {}}}));
 }
 
 TEST_F(RecoveryTest, ADeletionAMarkerAndAnUndoWriteTheirs) {
@@ -71,14 +72,14 @@ TEST_F(RecoveryTest, ADeletionAMarkerAndAnUndoWriteTheirs) {
     desktop.ExpectBox("Are you sure you want to delete variation Elm", BoxIcon::Question, BoxButtons::YesNo,
                       BoxAnswer::Yes);
     Click("cbDelete");
-    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 2, "\t"}}));
+    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 2, "\t", {}}}));
     ClickRow("lvVariations", QStringLiteral("Ash"));
     Click("cbShriek");
-    EXPECT_EQ(OnDisk().back(), (SlotChange{1, 1, "!Ash"}));
+    EXPECT_EQ(OnDisk().back(), (SlotChange{1, 1, "!Ash", {}}));
     Click("cbUndo");
-    EXPECT_EQ(OnDisk().back(), (SlotChange{1, 1, "Ash"}));
+    EXPECT_EQ(OnDisk().back(), (SlotChange{1, 1, "Ash", {}}));
     Click("cbUndo");
-    EXPECT_EQ(OnDisk().back(), (SlotChange{1, 2, "Elm"}));
+    EXPECT_EQ(OnDisk().back(), (SlotChange{1, 2, "Elm", {}}));
     EXPECT_EQ(OnDisk().size(), 4U);
 }
 
@@ -98,7 +99,11 @@ TEST_F(RecoveryTest, ChangesComeBackAfterADeath) {
 
 TEST_F(RecoveryTest, ChangesThatAreNotWantedBackAreKeptAside) {
     Add("Fir");
+    const std::string name = desktop.state.Kept(".changes").front();
     ExpectWantedBack(BoxAnswer::No);
+    desktop.ExpectBox("The changes are kept in\r\n/state/" + name +
+                          ".aside\r\nThey are offered again when \".aside\" is taken off that name.",
+                      BoxIcon::Information);
     DieAndOpenAgain();
     EXPECT_FALSE(bChanged);
     EXPECT_EQ(desktop.state.Kept(".aside").size(), 1U);
@@ -205,7 +210,7 @@ TEST_F(RecoveryTest, GivingThemUpWhenOpeningRemovesThem) {
     EXPECT_EQ(desktop.state.Kept(), std::vector<std::string>());
     EXPECT_EQ(VariationAt(1, 2).Text, "Elm");
     Add("Larch");
-    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Larch"}}));
+    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Larch", {}}}));
 }
 
 TEST_F(RecoveryTest, GivingThemUpForAFileThatIsThenNotChosenKeepsThem) {
@@ -213,17 +218,18 @@ TEST_F(RecoveryTest, GivingThemUpForAFileThatIsThenNotChosenKeepsThem) {
     ExpectLooseChanges(BoxAnswer::Yes);
     desktop.ExpectOpen(std::nullopt);
     Click("cbOpen");
-    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Fir"}}));
+    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Fir", {}}}));
     ClickRow("lbComments", QStringLiteral(" All")); // which lists the districts of the table again
     Add("Larch");
-    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Fir"}, {1, 4, "Larch"}}));
+    EXPECT_EQ(OnDisk(), (std::vector<SlotChange>{{1, 3, "Fir", {}}, {1, 4, "Larch", {}}}));
 }
 
 TEST_F(RecoveryTest, ChangesThatAreNowhereOnADiskAreAskedAboutAfterAFailedSave) {
     desktop.state.canWrite = false;
     desktop.canWrite = false;
     desktop.ExpectBox("Your changes cannot be written to the recovery file.  They are only safe once the file is "
-                      "saved.\r\n/state/1002.changes",
+                      "saved.\r\n/state/" +
+                          RecoveryName(1002, DataFilePath),
                       BoxIcon::Exclamation);
     Add("Fir");
     desktop.ExpectSave(DataFilePath);
@@ -258,7 +264,8 @@ TEST_F(RecoveryTest, AFileThatCannotBeReadIsNotMarkedAsOpen) {
 TEST_F(RecoveryTest, AFullDiskIsToldOnceAndEditingGoesOn) {
     desktop.state.canWrite = false;
     desktop.ExpectBox("Your changes cannot be written to the recovery file.  They are only safe once the file is "
-                      "saved.\r\n/state/1002.changes",
+                      "saved.\r\n/state/" +
+                          RecoveryName(1002, DataFilePath),
                       BoxIcon::Exclamation);
     Add("Fir");
     Add("Larch");

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "recovery/RecoveryFile.h"
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace CommonRoutines {
+
+class StateFolder;
+
+// A save may pass by changes that somebody else has made to the same file: another editor that is still open, or
+// one whose recovery file could not be read or was not wanted yet. Such a save is kept, with what has become of the
+// slots. So those changes can still be had back, and do not belong to an earlier state for ever.
+class SavesForOthers {
+public:
+    // Those of the file at this path.
+    SavesForOthers(StateFolder& folder, std::string path) : m_folder(folder), m_path(std::move(path)) {}
+
+    // Whether there are changes of others; `own` is the name of the recovery file that is none of theirs.
+    [[nodiscard]] bool AreWanted(const std::string& own);
+    void Keep(const RecoveryRecords& save);
+    // Removes all, once there are no changes of others any more.
+    void RemoveUnlessWanted(const std::string& own);
+
+    // Makes changes to an earlier state of the file changes to its present one. Of one variation the later change
+    // counts, which is the one that was saved. False when it is not known how the one state became the other.
+    [[nodiscard]] bool CarryTo(const FileIdentity& now, RecoveryFile& changes);
+
+private:
+    [[nodiscard]] const std::vector<RecoveryFile>& All();
+    [[nodiscard]] std::vector<const RecoveryFile*> Between(const FileIdentity& before, const FileIdentity& now);
+
+    StateFolder& m_folder;
+    std::string m_path;
+    std::optional<std::vector<RecoveryFile>> m_all; // once they have been read, the latest first
+};
+
+} // namespace CommonRoutines

@@ -1,0 +1,140 @@
+// Changes that somebody else has made to a file which is saved meanwhile.
+
+#include "recovery/SavesForOthers.h"
+
+#include "commands/RestoreChanges.h"
+#include "edit/EditTest.h"
+#include "edit/Variations.h"
+#include "file/DistrictFileWriter.h"
+#include "recovery/UnsavedChanges.h"
+#include "support/Reading.h"
+#include "support/RecoveryText.h"
+
+using namespace CommonRoutines;
+
+namespace {
+
+const std::string Content = HeaderOf("North") + "|Ash|Elm|Oak|Yew\r\n# note\r\n" + HeaderOf("South") + "||Ivy\r\n";
+const std::string Theirs = "0001.changes";
+
+class SavesForOthersTest : public EditTest {
+protected:
+    // What another editor has made of the file.
+    void Leave(const std::vector<SlotChange>& changes) {
+        RecoveryFile file;
+        file.file = IdentityOf(DataFilePath, Content);
+        file.changes = changes;
+        desktop.state.storage->files[Theirs] = RecoveryText(file);
+    }
+    // Opens the file, of which nobody can have the changes.
+    void OpenWithoutThem(const std::string& content = Content) {
+        desktop.recordReports = true;
+        ASSERT_EQ(other.Lock(Theirs + ".lock"), LockResult::Taken);
+        ReadText(desktop, content);
+        Commands::RestoreChanges(desktop);
+    }
+    void Save() {
+        Unsaved.Write(desktop);
+        desktop.ExpectSave(DataFilePath);
+        desktop.ExpectBox("File Saved to " + DataFilePath, BoxIcon::Information);
+        SaveDistrictFile(desktop);
+    }
+    // The other editor dies, and somebody wants its changes.
+    std::string OpenWithThem() {
+        other.Unlock(Theirs + ".lock");
+        desktop.state.Die();
+        desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
+                          BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes);
+        ReadText(desktop, std::string(desktop.files[DataFilePath]));
+        Commands::RestoreChanges(desktop);
+        Unsaved.Write(desktop);
+        return DistrictFileContent();
+    }
+
+    ScriptedDesktop desktop;
+    MemoryStateFolder other{desktop.state.storage};
+};
+
+} // namespace
+
+TEST_F(SavesForOthersTest, ChangesOfALivingEditorAreMadeToWhatWasSavedMeanwhile) {
+    Leave({{1, 1, "Ashes", {}}, {1, 3, "Oaks", {}}, {1, 4, "Yews", {}}, {1, 5, "New", {}}, {3, 2, "Ivies", {}}});
+    OpenWithoutThem();
+    StoreText(1, 2, DeletedText);
+    StoreText(1, 4, "Yew Tree");
+    AddSlot(1, "Mine");
+    Save();
+    ASSERT_EQ(desktop.files[DataFilePath],
+              HeaderOf("North") + "|Ash|Oak|Yew Tree|Mine\r\n# note\r\n" + HeaderOf("South") + "|Ivy\r\n");
+    EXPECT_EQ(OpenWithThem(), HeaderOf("North") + "|Ashes|Oaks|Yew Tree|Mine|New\r\n# note\r\n" + HeaderOf("South") +
+                                  "|Ivies\r\n"); // of a variation that both changed, the text that was saved later
+}
+
+TEST_F(SavesForOthersTest, TheyAreMadeAfterSeveralSavesAsWell) {
+    Leave({{1, 4, "Yews", {}}, {1, 5, "After Elm", 2}, {1, 6, "New", {}}, {1, 6, "Newer", {}}});
+    OpenWithoutThem();
+    StoreText(1, 2, DeletedText);
+    Save();
+    StoreText(1, 1, DeletedText);
+    AddSlot(1, "Mine");
+    Save();
+    StoreText(1, 2, "Elm"); // back again
+    Save();
+    EXPECT_EQ(OpenWithThem(),
+              HeaderOf("North") + "|After Elm|Elm|Oak|Yews|Mine|Newer\r\n# note\r\n" + HeaderOf("South") + "|Ivy\r\n");
+}
+
+TEST_F(SavesForOthersTest, ASaveThatChangesNoMoreThanTheBlankVariationsIsKeptToo) {
+    Leave({{3, 2, "Ivies", {}}, {3, 3, "New", {}}});
+    OpenWithoutThem();
+    Save();
+    EXPECT_EQ(OpenWithThem(),
+              HeaderOf("North") + "|Ash|Elm|Oak|Yew\r\n# note\r\n" + HeaderOf("South") + "|Ivies|New\r\n");
+}
+
+TEST_F(SavesForOthersTest, ATextThatWasSavedAsSeveralVariationsIsCounted) {
+    Leave({{1, 3, "Oaks", {}}, {1, 5, "New", {}}});
+    OpenWithoutThem();
+    StoreText(1, 1, "Ash|Fir");
+    Save();
+    EXPECT_EQ(OpenWithThem(),
+              HeaderOf("North") + "|Ash|Fir|Elm|Oaks|Yew|New\r\n# note\r\n" + HeaderOf("South") + "|Ivy\r\n");
+}
+
+TEST_F(SavesForOthersTest, NothingIsKeptWhereNobodyHasChanges) {
+    desktop.recordReports = true;
+    ReadText(desktop, Content);
+    Commands::RestoreChanges(desktop);
+    AddSlot(1, "Mine");
+    Save();
+    EXPECT_EQ(desktop.state.Kept(), Texts());
+}
+
+TEST_F(SavesForOthersTest, WhatIsKeptGoesOnceTheChangesAreHadBack) {
+    Leave({{1, 1, "Ashes", {}}});
+    OpenWithoutThem();
+    StoreText(1, 2, DeletedText);
+    Save();
+    EXPECT_EQ(desktop.state.Kept(".saved").size(), 1U);
+    OpenWithThem();
+    Save();
+    ReadText(desktop, std::string(desktop.files[DataFilePath]));
+    Commands::RestoreChanges(desktop);
+    EXPECT_EQ(desktop.state.Kept(), Texts());
+}
+
+// Another program has written the file since.
+TEST_F(SavesForOthersTest, OfAStateThatNoSaveLedToTheyAreSetAside) {
+    Leave({{1, 1, "Ashes", {}}});
+    OpenWithoutThem();
+    StoreText(1, 2, DeletedText);
+    Save();
+    other.Unlock(Theirs + ".lock");
+    desktop.state.Die();
+    desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to an earlier state of this file.  None of them "
+                      "has been made.  They are kept in\r\n/state/0001.changes.aside",
+                      BoxIcon::Exclamation);
+    ReadText(desktop, Content + "\r\n");
+    Commands::RestoreChanges(desktop);
+    EXPECT_FALSE(bChanged);
+}
