@@ -54,7 +54,7 @@ public:
     [[nodiscard]] std::vector<std::string> FieldsAsRead(std::int32_t line) const;
 
     // True while there are changes that no data file holds.
-    [[nodiscard]] bool HasChanges() const { return !m_content.empty(); }
+    [[nodiscard]] bool HasChanges() const { return m_records.has_value(); }
 
     // True while there are changes that could not be written.
     [[nodiscard]] bool AreUnwritten() const { return m_records && m_onDisk != m_records->Content().size(); }

@@ -34,7 +34,7 @@ SessionDesktop::SessionDesktop() {
 BoxAnswer SessionDesktop::MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons) {
     const BoxAnswer answer = AnsweringDesktop::MsgBox(text, icon, buttons);
     const bool refuses =
-        buttons == BoxButtons::YesNo && text.Utf8().starts_with(UnsavedChanges) && !wantsUnsavedChanges;
+        buttons == BoxButtons::YesNoCancel && text.Utf8().starts_with(UnsavedChanges) && !wantsUnsavedChanges;
     return refuses || text.Utf8().starts_with(LosesChanges) ? BoxAnswer::No : answer;
 }
 
