@@ -47,12 +47,11 @@ void SaveReport(const Report& report, const std::string& dataFile, Desktop& desk
         return;
     }
     desktop.ShowBusy(true);
-    std::string content;
-    const LineSource lines = ReportLines(report, dataFile, desktop);
-    for (auto line = lines(); line; line = lines()) {
-        content += line->InCodePage() + "\r\n";
-    }
-    desktop.ReplaceFile(*path, content);
+    const auto piece = [lines = ReportLines(report, dataFile, desktop)] {
+        const auto line = lines();
+        return line ? std::optional(line->InCodePage() + "\r\n") : std::nullopt;
+    };
+    desktop.PutTogether(piece, [&](std::string_view content) { return desktop.ReplaceFile(*path, content); });
     desktop.ShowBusy(false);
 }
 

@@ -38,6 +38,10 @@ public:
     bool ReplaceFile(const std::string& path, std::string_view content) override {
         return m_machine.ReplaceFile(path, content);
     }
+    bool PutTogether(const CommonRoutines::PieceSource& pieces,
+                     const std::function<bool(std::string_view)>& use) override {
+        return m_machine.PutTogether(pieces, use);
+    }
     std::string TruePath(const std::string& path) override { return m_machine.TruePath(path); }
     CommonRoutines::StateFolder& State() override { return m_machine.State(); }
     bool ShowDocument(const std::string& path) override { return m_machine.ShowDocument(path); }

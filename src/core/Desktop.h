@@ -10,6 +10,7 @@
 #include "core/Wording.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -40,6 +41,9 @@ struct FileRequest {
     bool asksBeforeReplacing = true;
 };
 
+// The next piece of a content; nothing behind the last one.
+using PieceSource = std::function<std::optional<std::string>()>;
+
 class Desktop {
 public:
     Desktop() = default;
@@ -68,6 +72,9 @@ public:
     virtual bool HasContent(const std::string& path) = 0;
     // Replaces a file at once and as a whole. False when that failed: the old file is then as it was.
     virtual bool ReplaceFile(const std::string& path, std::string_view content) = 0;
+    // Hands over the pieces as one content, which may be larger than any memory, and returns what `use` does. False,
+    // without handing it over, where there is no room for it.
+    virtual bool PutTogether(const PieceSource& pieces, const std::function<bool(std::string_view)>& use) = 0;
     // The path without links in it; the path itself when nothing is there.
     virtual std::string TruePath(const std::string& path) = 0;
     // What the program keeps for the next time, should it stop unexpectedly.

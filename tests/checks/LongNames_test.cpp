@@ -26,6 +26,14 @@ public:
         first = report.items[0];
         last = report.items[lines - 1];
         PrintReport(report, "/data/north.txt", *this);
+        SaveReport(report, "/data/north.txt", *this);
+    }
+    std::optional<std::string> ChooseFileToSave(const FileRequest& /*request*/) override { return "/data/list.txt"; }
+    bool PutTogether(const PieceSource& pieces, const std::function<bool(std::string_view)>& /*use*/) override {
+        for (auto piece = pieces(); piece; piece = pieces()) {
+            saved += piece->size();
+        }
+        return true;
     }
     bool Print(const LineSource& source) override {
         for (auto line = source(); line; line = source()) {
@@ -36,6 +44,7 @@ public:
 
     std::size_t lines = 0;
     std::size_t printed = 0;
+    std::size_t saved = 0;
     std::string first;
     std::string last;
 };
@@ -62,6 +71,7 @@ protected:
         EXPECT_TRUE(desktop.first == line);
         EXPECT_TRUE(desktop.last == line);
         EXPECT_GT(desktop.printed, lines * line.size());
+        EXPECT_GT(desktop.saved, lines * line.size());
     }
 };
 

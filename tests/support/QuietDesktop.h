@@ -34,6 +34,14 @@ public:
     std::optional<std::string> ReadFile(const std::string& /*path*/) override { return std::nullopt; }
     bool HasContent(const std::string& /*path*/) override { return false; }
     bool ReplaceFile(const std::string& /*path*/, std::string_view /*content*/) override { return true; }
+    bool PutTogether(const CommonRoutines::PieceSource& pieces,
+                     const std::function<bool(std::string_view)>& use) override {
+        std::string content;
+        for (auto piece = pieces(); piece; piece = pieces()) {
+            content += *piece;
+        }
+        return use(content);
+    }
     std::string TruePath(const std::string& path) override { return path; }
     CommonRoutines::StateFolder& State() override { return state; }
     bool ShowDocument(const std::string& /*path*/) override { return true; }

@@ -8,6 +8,7 @@
 #include "ui/machine/Printing.h"
 #include "ui/machine/ReadableName.h"
 #include "ui/machine/SettingsFile.h"
+#include "ui/machine/Spool.h"
 #include "ui/widgets/ButtonMarks.h"
 #include "ui/windows/VarCheck.h"
 #include "ui/windows/frmCustomMessageBox.h"
@@ -241,6 +242,10 @@ bool QtDesktop::HasContent(const std::string& path) {
 bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
     return DurableFile::Replace(Text::PathToQt(path), content,
                                 [this](double part) { ShowProgress("Writing the file", part); });
+}
+
+bool QtDesktop::PutTogether(const PieceSource& pieces, const std::function<bool(std::string_view)>& use) {
+    return Spool::Use(pieces, use);
 }
 
 std::string QtDesktop::TruePath(const std::string& path) {

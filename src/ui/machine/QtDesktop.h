@@ -30,6 +30,8 @@ public:
     std::optional<std::string> ReadFile(const std::string& path) override;
     bool HasContent(const std::string& path) override;
     bool ReplaceFile(const std::string& path, std::string_view content) override;
+    bool PutTogether(const CommonRoutines::PieceSource& pieces,
+                     const std::function<bool(std::string_view)>& use) override;
     std::string TruePath(const std::string& path) override;
     CommonRoutines::StateFolder& State() override { return m_state; }
     bool ShowDocument(const std::string& path) override;
