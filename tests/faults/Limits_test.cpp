@@ -45,13 +45,14 @@ TEST_F(LimitsTest, WhereNoFileMayGrowAtAllThatIsSaidAndEditingGoesOn) {
 
 TEST_F(LimitsTest, WithoutAFreeHandleThatIsSaidAndEditingGoesOn) {
     // The fifth edit reads a file.
-    const std::string said = SaidWhen({"open", place.file, "handles", "edits", "1", "4", "save", place.file, "close",
-                                       "unlimited", "edits", "5", std::to_string(Edits)});
+    const std::string said = SaidWhen({"open", place.file, "handles", "0", "edits", "1", "4", "save", place.file,
+                                       "close", "unlimited", "edits", "5", std::to_string(Edits)});
     EXPECT_NE(said.find(Warning), std::string::npos) << said;
     EXPECT_NE(said.find("\nsaving\nbox This will loose your changes.\nstill open\n"), std::string::npos) << said;
 }
 
 TEST_F(LimitsTest, WithoutAFreeHandleAFileIsNotOpenedAndLaterItIs) {
-    const std::string said = SaidWhen(Steps{"handles", "open", place.file, "unlimited", "open", place.file} + edits);
+    const std::string said =
+        SaidWhen(Steps{"handles", "0", "open", place.file, "unlimited", "open", place.file} + edits);
     EXPECT_TRUE(said.starts_with("box The file cannot be read:\n")) << said;
 }

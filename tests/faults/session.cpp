@@ -5,7 +5,7 @@
 //   close                closes the window, but keeps what that would lose
 //   pause                stops until it is continued
 //   largest SIZE         from now on, no file may grow beyond this size
-//   handles              from now on, no further file may be opened
+//   handles COUNT        from now on, no more than so many further files may be open at a time
 //   unlimited            takes these two back
 //   refuse               from now on, unsaved changes of an earlier session are not wanted
 // What is reached is printed, a line each: "opened", "edit NUMBER", "saving", "saved" when the program said so,
@@ -88,7 +88,7 @@ void Play(SessionWindow& window, Steps& steps) {
     } else if (step == "largest") {
         Limit(RLIMIT_FSIZE, std::stoul(steps.Next()));
     } else if (step == "handles") {
-        Limit(RLIMIT_NOFILE, FirstFreeHandle());
+        Limit(RLIMIT_NOFILE, FirstFreeHandle() + std::stoul(steps.Next()));
     } else if (step == "unlimited") {
         Limit(RLIMIT_FSIZE, RLIM_INFINITY);
         Limit(RLIMIT_NOFILE, RLIM_INFINITY);

@@ -70,12 +70,14 @@ void MakeFolder() {
     }
 }
 
-// The number that a name begins with. One that nothing here has given is no reason to run out of numbers.
+// The number that a name begins with. One that nothing here has given is no reason to run out of numbers, and marks
+// of open files begin with something else.
 quint64 NumberOf(const std::string& name) {
     constexpr quint64 greatest = 1'000'000'000'000;
     quint64 number = 0;
-    std::from_chars(name.data(), name.data() + name.size(), number);
-    return number <= greatest ? number : 0;
+    const char* const end = std::from_chars(name.data(), name.data() + name.size(), number).ptr;
+    const bool isNumber = end != name.data() + name.size() && *end == '-';
+    return isNumber && number <= greatest ? number : 0;
 }
 
 } // namespace
