@@ -31,7 +31,7 @@ public:
         if (known != m_texts.end()) {
             return known->second;
         }
-        const SharedText shared(text);
+        SharedText shared(text);
         m_texts.emplace(std::string_view(shared), shared);
         return shared;
     }

@@ -1,4 +1,4 @@
-// Limits that the system sets a program: the size of a file, and how many files may be open at once.
+// Limits that the system sets a program: the size of a file, how many files may be open at once, and the memory.
 
 #include "FaultTest.h"
 
@@ -55,4 +55,38 @@ TEST_F(LimitsTest, WithoutAFreeHandleAFileIsNotOpenedAndLaterItIs) {
     const std::string said =
         SaidWhen(Steps{"handles", "0", "open", place.file, "unlimited", "open", place.file} + edits);
     EXPECT_TRUE(said.starts_with("box The file cannot be read:\n")) << said;
+}
+
+TEST_F(LimitsTest, WithoutMemoryWhatCannotBeDoneIsSaidAndNothingIsLost) {
+    const std::string gazetteer = ContentOf(QUEXAL_DATA_DIR "/gazetteer-gb.txt").value();
+    PrepareDisk(gazetteer);
+    const Steps steps{"open",
+                      place.file,
+                      "edits",
+                      "1",
+                      "2",
+                      "memory",
+                      "0",
+                      "edits",
+                      "3",
+                      "4",
+                      "check",
+                      "save",
+                      place.file,
+                      "close",
+                      "unlimited",
+                      "check",
+                      "edits",
+                      "5",
+                      std::to_string(Edits),
+                      "save",
+                      place.file};
+    Session session(place, steps);
+    session.Finish();
+    const std::string tooLittle = "\nbox There is not enough memory for that.\n";
+    const std::string refused = "\nedit 4" + tooLittle + "checked\nsaving" + tooLittle +
+                                "box This will loose your changes.\nstill open\nchecked\n";
+    EXPECT_NE(session.Said().find(refused), std::string::npos) << session.Said();
+    EXPECT_TRUE(session.Said().ends_with("\nsaving\nsaved\nfinished\n")) << session.Said();
+    ExpectContent(place.file, SavedWithoutFault(gazetteer, Edits));
 }

@@ -64,6 +64,11 @@ void SessionWindow::Save(const std::string& path) {
     Click("cbSave");
 }
 
+void SessionWindow::Check() {
+    ClickRow("lvAlpha", 0); // where the command is enabled
+    Click("cbCompleteCheck");
+}
+
 void SessionWindow::MakeEdit(int number) {
     constexpr int undo = 0;
     constexpr int kinds = 7;

@@ -29,6 +29,8 @@ public:
     void MakeEdit(int number);
     // Saves, where there is something to save.
     void Save(const std::string& path);
+    // Runs the complete check.
+    void Check();
     // Closes the window. False when it asked whether unsaved changes may be lost, and so stayed open.
     bool Close() { return Window().close(); }
 

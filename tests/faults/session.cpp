@@ -2,14 +2,16 @@
 //   open PATH            opens a data file
 //   edits FIRST LAST     makes the edits with these numbers
 //   save PATH            saves, where there is something to save
+//   check                runs the complete check
 //   close                closes the window, but keeps what that would lose
 //   pause                stops until it is continued
 //   largest SIZE         from now on, no file may grow beyond this size
+//   memory SIZE          from now on, no more memory may be taken than this
 //   handles COUNT        from now on, no more than so many further files may be open at a time
-//   unlimited            takes these two back
+//   unlimited            takes these limits back
 //   refuse               from now on, unsaved changes of an earlier session are not wanted
 // What is reached is printed, a line each: "opened", "edit NUMBER", "saving", "saved" when the program said so,
-// "nothing to save", "closed" or "still open", "box TEXT" for every box, and "finished" after the last step.
+// "nothing to save", "checked", "closed" or "still open", "box TEXT" for every box, and "finished" after the last step.
 
 #include "SessionWindow.h"
 
@@ -18,6 +20,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <fstream>
 #include <string>
 
 #include <sys/resource.h>
@@ -57,6 +60,15 @@ void MakeEdits(SessionWindow& window, int first, int last) {
     }
 }
 
+rlim_t MemoryTaken() {
+    rlim_t pages = 0;
+    std::ifstream file("/proc/self/statm");
+    for (int number = 0; number < 6; ++number) {
+        file >> pages;
+    }
+    return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
+}
+
 // As far as it may be raised again.
 void Limit(__rlimit_resource resource, rlim_t most) {
     rlimit limit{};
@@ -81,17 +93,23 @@ void Play(SessionWindow& window, Steps& steps) {
         MakeEdits(window, first, std::stoi(steps.Next()));
     } else if (step == "save") {
         window.Save(steps.Next());
+    } else if (step == "check") {
+        window.Check();
+        Milestone("checked");
     } else if (step == "close") {
         Milestone(window.Close() ? "closed" : "still open");
     } else if (step == "pause") {
         std::raise(SIGSTOP);
     } else if (step == "largest") {
         Limit(RLIMIT_FSIZE, std::stoul(steps.Next()));
+    } else if (step == "memory") {
+        Limit(RLIMIT_DATA, MemoryTaken() + std::stoul(steps.Next()));
     } else if (step == "handles") {
         Limit(RLIMIT_NOFILE, FirstFreeHandle() + std::stoul(steps.Next()));
     } else if (step == "unlimited") {
         Limit(RLIMIT_FSIZE, RLIM_INFINITY);
         Limit(RLIMIT_NOFILE, RLIM_INFINITY);
+        Limit(RLIMIT_DATA, RLIM_INFINITY);
     } else if (step == "refuse") {
         window.desktop.wantsUnsavedChanges = false;
     } else {

@@ -10,6 +10,7 @@
 #include <QTextLayout>
 #include <QTextOption>
 
+#include <algorithm>
 #include <vector>
 
 namespace Printing {
@@ -46,22 +47,25 @@ public:
     // False when the printer takes no more.
     [[nodiscard]] bool Add(const QString& text) {
         QTextLayout layout(text, QGuiApplication::font(), &m_printer);
-        for (const QTextLine& line : Wrapped(layout, m_size.width())) {
-            if (m_used > 0 && m_used + line.height() > m_size.height()) {
-                if (!m_printer.newPage()) {
-                    return false;
-                }
-                m_used = 0;
-            }
-            line.draw(&m_painter, QPointF(0, m_used - line.y()));
-            m_used += line.height();
-        }
-        return true;
+        return std::ranges::all_of(Wrapped(layout, m_size.width()),
+                                   [this](const QTextLine& line) { return Draw(line); });
     }
 
     [[nodiscard]] bool End() { return m_painter.end() && m_printer.printerState() != QPrinter::Error; }
 
 private:
+    bool Draw(const QTextLine& line) {
+        if (m_used > 0 && m_used + line.height() > m_size.height()) {
+            if (!m_printer.newPage()) {
+                return false;
+            }
+            m_used = 0;
+        }
+        line.draw(&m_painter, QPointF(0, m_used - line.y()));
+        m_used += line.height();
+        return true;
+    }
+
     QPrinter& m_printer;
     QSizeF m_size;
     QPainter m_painter;
