@@ -17,5 +17,6 @@ int main(int argc, char* argv[]) {
     desktop.SetWindow(&form);
     form.LoadForm();
     form.show();
+    form.MendFiles();
     return QApplication::exec();
 }

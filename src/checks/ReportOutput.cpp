@@ -2,6 +2,7 @@
 
 #include "core/Desktop.h"
 #include "core/Paths.h"
+#include "recovery/SaveCopy.h"
 
 namespace CommonRoutines {
 
@@ -51,7 +52,8 @@ void SaveReport(const Report& report, const std::string& dataFile, Desktop& desk
         const auto line = lines();
         return line ? std::optional(line->InCodePage() + "\r\n") : std::nullopt;
     };
-    desktop.PutTogether(piece, [&](std::string_view content) { return desktop.ReplaceFile(*path, content); });
+    // Where that fails its window stands, so that it can be saved elsewhere.
+    desktop.PutTogether(piece, [&](std::string_view content) { return WriteFile(desktop, *path, content); });
     desktop.ShowBusy(false);
 }
 

@@ -1,6 +1,7 @@
 #include "checks/SaveVariations.h"
 
 #include "core/Desktop.h"
+#include "recovery/SaveCopy.h"
 
 namespace CommonRoutines {
 
@@ -17,7 +18,7 @@ void SaveSelectedVariations(std::span<const std::string> variations, Desktop& de
         content += variation + "\r\n";
     }
     const Wording name = Wording::OfPath(*path);
-    if (desktop.ReplaceFile(*path, content)) {
+    if (WriteFile(desktop, *path, content)) {
         desktop.MsgBox(std::to_string(variations.size()) + " Variations Saved to " + name, BoxIcon::Information);
     } else {
         desktop.MsgBox("The file cannot be written:\r\n" + name, BoxIcon::Exclamation);

@@ -11,6 +11,7 @@
 #include "file/CommentTypes.h"
 #include "file/DistrictFileReader.h"
 #include "file/DistrictFileWriter.h"
+#include "recovery/SaveCopy.h"
 #include "recovery/UnsavedChanges.h"
 #include "rules/Capitals.h"
 
@@ -52,6 +53,7 @@ void ResetWindow(Session& session) {
 
 void ReadAndShow(Session& session, const std::string& path) {
     session.isOpening = true;
+    MendFile(session.desktop, path);
     if (bChanged) {
         Unsaved.Remove(session.desktop); // they were given up; until now the choice of a file could be cancelled
     }
@@ -79,6 +81,10 @@ void ReadAndShow(Session& session, const std::string& path) {
 }
 
 } // namespace
+
+void MendFiles(Session& session) {
+    CommonRoutines::MendFiles(session.desktop);
+}
 
 void Start(Session& session) {
     ClearUndoRing();

@@ -17,6 +17,9 @@ struct Settings {
 // What happens once before the window is used: the word list is read, all is set for "no file".
 void Start(Session& session);
 
+// Offers to finish what an editor was stopped at while it overwrote files. To be called once the window is shown.
+void MendFiles(Session& session);
+
 // Asks for a data file and opens it, unless what no file holds, a text in the edit box included, is to be kept.
 // Cancelled, it leaves an emptied window and the old table.
 void Open(Session& session);

@@ -42,9 +42,16 @@ public:
                      const std::function<bool(std::string_view)>& use) override {
         return m_machine.PutTogether(pieces, use);
     }
+    bool StaysInPlace(const std::string& path) override { return m_machine.StaysInPlace(path); }
+    bool OverwriteFile(const std::string& path, std::string_view content) override {
+        return m_machine.OverwriteFile(path, content);
+    }
+    std::string StampOf(const std::string& path) override { return m_machine.StampOf(path); }
     std::string TruePath(const std::string& path) override { return m_machine.TruePath(path); }
     CommonRoutines::StateFolder& State() override { return m_machine.State(); }
     bool ShowDocument(const std::string& path) override { return m_machine.ShowDocument(path); }
+    bool MayMakeFilesIn(const std::string& folder) override { return m_machine.MayMakeFilesIn(folder); }
+    std::string DocumentsFolder() override { return m_machine.DocumentsFolder(); }
     std::string ProgramFolder() override { return m_machine.ProgramFolder(); }
     void EnterProgramFolder() override { m_machine.EnterProgramFolder(); }
     std::string GetSetting(std::string_view section, std::string_view key) override {

@@ -10,6 +10,7 @@
 #include "commands/WindowMode.h"
 #include "core/State.h"
 #include "edit/UndoJournal.h"
+#include "recovery/SaveCopy.h"
 
 #include <algorithm>
 #include <optional>
@@ -54,6 +55,7 @@ std::optional<ProposalList> ReadChangeFile(Desktop& desktop, const std::string& 
 
 void ReadAndShow(Session& session, const std::string& path) {
     RememberFolder(session, path, Settings::ChangeFolder);
+    MendFile(session.desktop, path);
     auto list = ReadChangeFile(session.desktop, path);
     if (!list) {
         return;

@@ -62,7 +62,7 @@ public:
     virtual void ShowReport(const Report& report) = 0;
 
     // The full path chosen; nothing when the dialogue was cancelled. For saving, read-only files are
-    // refused.
+    // refused, and names of files that could not be made.
     virtual std::optional<std::string> ChooseFileToOpen(const FileRequest& request) = 0;
     virtual std::optional<std::string> ChooseFileToSave(const FileRequest& request) = 0;
 
@@ -75,6 +75,13 @@ public:
     // Hands over the pieces as one content, which may be larger than any memory, and returns what `use` does. False,
     // without handing it over, where there is no room for it.
     virtual bool PutTogether(const PieceSource& pieces, const std::function<bool(std::string_view)>& use) = 0;
+    // True where a new file cannot take the place of the one with this name, or may not: it would let others read
+    // it, or lose its owner, its rights or its other names. Such a file has to be overwritten where it is.
+    virtual bool StaysInPlace(const std::string& path) = 0;
+    // Writes over a file where it is, or makes it. False when that failed: a part may have been written then.
+    virtual bool OverwriteFile(const std::string& path, std::string_view content) = 0;
+    // Tells one state of a file from another, as far as its size and its times do; empty where no file is.
+    virtual std::string StampOf(const std::string& path) = 0;
     // The path without links in it; the path itself when nothing is there.
     virtual std::string TruePath(const std::string& path) = 0;
     // What the program keeps for the next time, should it stop unexpectedly.
@@ -83,6 +90,9 @@ public:
     // Shows a document in the desktop's own viewer. False when it is not there, or when nothing can show it.
     virtual bool ShowDocument(const std::string& path) = 0;
 
+    // Whether files can be made in a folder, and the folder where the user's own ones are.
+    virtual bool MayMakeFilesIn(const std::string& folder) = 0;
+    virtual std::string DocumentsFolder() = 0;
     // The folder of the program itself, and making it the current folder.
     virtual std::string ProgramFolder() = 0;
     virtual void EnterProgramFolder() = 0;

@@ -4,6 +4,7 @@
 #include "core/Paths.h"
 #include "core/State.h"
 #include "recovery/OpenFile.h"
+#include "recovery/SaveCopy.h"
 #include "recovery/UnsavedChanges.h"
 
 #include <optional>
@@ -68,7 +69,7 @@ void SaveDistrictFile(Desktop& desktop) {
     desktop.ShowBusy(true);
     const std::string content = Encoded(DistrictFileContent(), eFileEncoding);
     Unsaved.NoteSaving(desktop, *path, content);
-    const bool saved = desktop.ReplaceFile(*path, content);
+    const bool saved = WriteFile(desktop, *path, content);
     const bool isOpenElsewhere = saved && TheOpenFile.MoveTo(desktop, *path, content);
     if (!saved && OpenFile::IsAt(desktop, *path) && desktop.ReadFile(*path) == content) {
         // It is there, but perhaps not to stay. What is changed from now on belongs to it; what was

@@ -259,6 +259,17 @@ FileIdentity IdentityOf(std::string_view path, std::string_view bytes) {
     return {std::string(path), bytes.size(), Hex(digest.high64) + Hex(digest.low64)};
 }
 
+std::string IdentityLine(const FileIdentity& file) {
+    const std::string body = Identity(file);
+    return Hex(Checksum(body)) + ' ' + body + LineEnd;
+}
+
+std::optional<FileIdentity> ParseIdentityLine(std::string_view lineWithoutEnd) {
+    const std::string_view body = lineWithoutEnd.substr(std::min(CheckLength + 1, lineWithoutEnd.size()));
+    const bool isWhole = lineWithoutEnd.starts_with(Hex(Checksum(body)) + ' ');
+    return isWhole ? ParseIdentity(body) : std::nullopt;
+}
+
 RecoveryRecords::RecoveryRecords(const FileIdentity& file, Encoding encoding)
     : m_content(std::string(Title) + std::to_string(CurrentVersion)), m_checksum(Checksum(m_content)) {
     m_content += LineEnd;

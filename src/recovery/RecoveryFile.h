@@ -63,6 +63,10 @@ struct RecoveryFile {
 // file apart at the speed of memory; it does not protect from somebody who forges one.
 [[nodiscard]] FileIdentity IdentityOf(std::string_view path, std::string_view bytes);
 
+// An identity as a line with a checksum and an end, and back; nothing when the line is damaged.
+[[nodiscard]] std::string IdentityLine(const FileIdentity& file);
+[[nodiscard]] std::optional<FileIdentity> ParseIdentityLine(std::string_view lineWithoutEnd);
+
 // The content of a recovery file as it grows.
 class RecoveryRecords {
 public:

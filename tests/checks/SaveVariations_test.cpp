@@ -61,6 +61,16 @@ TEST_F(SaveVariationsTest, AFileThatCannotBeWrittenIsNotSaidToBeSaved) {
     EXPECT_TRUE(desktop.files.empty());
 }
 
+TEST_F(SaveVariationsTest, AFileThatStaysInItsPlaceIsOverwritten) {
+    desktop.files[path] = "old";
+    desktop.inPlace = {path};
+    desktop.ExpectSave(path);
+    desktop.ExpectBox("1 Variations Saved to /data/chosen.txt", BoxIcon::Information);
+    Save({"Elm"});
+    EXPECT_EQ(desktop.files[path], "Elm\r\n");
+    EXPECT_TRUE(desktop.state.Names().empty());
+}
+
 TEST_F(SaveVariationsTest, AFileNameIsSaidAsItIs) {
     const std::string foreign = "/data/\xC3\xA9t\xC3\xA9-\xE2\x82\xAC-\xCE\xA9.txt";
     desktop.ExpectSave(foreign);

@@ -14,6 +14,7 @@ public:
         m_form.LoadForm();
         m_form.show();
         Activate(m_form);
+        m_form.MendFiles();
     }
 
     DesktopKind desktop;

@@ -10,6 +10,7 @@
 //                         pretend      every call that has data put on the disk succeeds and does nothing
 //                         kill-before  the program is killed before the call
 //                         kill-after   the program is killed when the call has been made
+//                         tear         a write takes nine tenths, and the program is killed
 //                         stop         the program is stopped before every call
 //   QUEXAL_FAULT_CALL     the number of the call, from 1 on
 //   QUEXAL_FAULT_ERROR    the number of the error with which it fails
@@ -120,7 +121,7 @@ public:
     Met& operator=(const Met&) = delete;
     ~Met() {
         const int error = errno;
-        if (Is("kill-after")) {
+        if (Is("kill-after") || Is("tear")) {
             std::raise(SIGKILL);
         }
         errno = error;
@@ -133,7 +134,12 @@ public:
         return m_fails;
     }
     [[nodiscard]] bool Pretends() const { return m_watched && TheSettings().action == "pretend"; }
-    [[nodiscard]] std::size_t Shortened(std::size_t size) const { return Is("short") && size > 1 ? size / 2 : size; }
+    [[nodiscard]] std::size_t Shortened(std::size_t size) const {
+        if (Is("tear")) {
+            return size - size / 10;
+        }
+        return Is("short") && size > 1 ? size / 2 : size;
+    }
 
 private:
     // Whether this is the call that the action is for.

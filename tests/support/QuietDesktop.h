@@ -42,9 +42,14 @@ public:
         }
         return use(content);
     }
+    bool StaysInPlace(const std::string& /*path*/) override { return false; }
+    bool OverwriteFile(const std::string& /*path*/, std::string_view /*content*/) override { return true; }
+    std::string StampOf(const std::string& /*path*/) override { return {}; }
     std::string TruePath(const std::string& path) override { return path; }
     CommonRoutines::StateFolder& State() override { return state; }
     bool ShowDocument(const std::string& /*path*/) override { return true; }
+    bool MayMakeFilesIn(const std::string& /*folder*/) override { return true; }
+    std::string DocumentsFolder() override { return "/documents"; }
     std::string ProgramFolder() override { return "/program"; }
     void EnterProgramFolder() override {}
     std::string GetSetting(std::string_view /*section*/, std::string_view /*key*/) override { return {}; }

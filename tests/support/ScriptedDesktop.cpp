@@ -129,6 +129,25 @@ bool ScriptedDesktop::ReplaceFile(const std::string& path, std::string_view cont
     return canWrite && !failsAfterWriting;
 }
 
+bool ScriptedDesktop::OverwriteFile(const std::string& path, std::string_view content) {
+    const bool isTorn = failingOverwrites > 0 || diesOverwriting;
+    if (isTorn) {
+        files[path].replace(0, content.size() / 2, content.substr(0, content.size() / 2));
+        failingOverwrites -= failingOverwrites > 0 ? 1 : 0;
+    } else if (canWrite) {
+        files[path] = content;
+    }
+    if (diesOverwriting) {
+        throw Killed();
+    }
+    return !isTorn && canWrite;
+}
+
+std::string ScriptedDesktop::StampOf(const std::string& path) {
+    const auto file = files.find(path);
+    return file == files.end() ? std::string() : std::to_string(touched[path]) + ' ' + file->second;
+}
+
 bool ScriptedDesktop::ShowDocument(const std::string& path) {
     if (hasViewer) {
         shownDocuments.push_back(path);

@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <variant>
 #include <vector>
@@ -15,6 +16,8 @@
 class ScriptedDesktop : public QuietDesktop {
 public:
     ~ScriptedDesktop() override;
+
+    struct Killed {}; // what ends a program that dies
 
     // The script.
     void ExpectBox(const CommonRoutines::Wording& text, CommonRoutines::BoxIcon icon,
@@ -43,7 +46,12 @@ public:
     bool hasViewer = true;
     bool hasPrinter = true;
     bool canWrite = true;
-    bool failsAfterWriting = false; // says so though the file is in its place
+    bool failsAfterWriting = false;     // says so though the file is in its place
+    std::set<std::string> inPlace;      // files that cannot be replaced by new ones
+    int failingOverwrites = 0;          // how many of the next ones write a part only
+    bool diesOverwriting = false;       // by an exception, having written a part
+    bool mayMakeFiles = true;           // in any folder
+    std::map<std::string, int> touched; // how often a file was written anew with what it had
     int beeps = 0;
     bool busy = false;
     std::vector<std::string> tasks;          // what was done, one after the other, since it was last busy
@@ -62,6 +70,10 @@ public:
     std::optional<std::string> ReadFile(const std::string& path) override;
     bool HasContent(const std::string& path) override { return files.contains(path) && !files[path].empty(); }
     bool ReplaceFile(const std::string& path, std::string_view content) override;
+    bool StaysInPlace(const std::string& path) override { return inPlace.contains(path); }
+    bool OverwriteFile(const std::string& path, std::string_view content) override;
+    std::string StampOf(const std::string& path) override;
+    bool MayMakeFilesIn(const std::string& /*folder*/) override { return mayMakeFiles; }
     bool ShowDocument(const std::string& path) override;
     void EnterProgramFolder() override { ++programFolderEntries; }
     std::string GetSetting(std::string_view section, std::string_view key) override;

@@ -21,6 +21,8 @@ namespace {
 
 #ifdef Q_OS_UNIX
 
+constexpr mode_t ReadableByAll = 0666; // the user's mask takes away what others may not do
+
 // Of what is kept about a file, only its size matters here, which is put on the disk with its content.
 bool SyncContent(int handle) {
     return fdatasync(handle) == 0;
@@ -38,8 +40,19 @@ bool SyncFolder(const QString& folder) {
     return synced;
 }
 
+// The toolkit would empty a file that it opens for writing alone, and one need not be allowed to read it. A file of
+// somebody else in a folder for all may only be opened without leave to make one.
+bool OpenWithoutEmptying(QFile& file, bool isNew) {
+    const QByteArray name = QFile::encodeName(file.fileName());
+    const int handle = open(name.constData(), O_WRONLY | O_CLOEXEC | (isNew ? O_CREAT : 0), ReadableByAll);
+    return handle >= 0 && file.open(handle, QIODevice::WriteOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+}
+
 #else
 
+bool OpenWithoutEmptying(QFile& file, bool /*isNew*/) {
+    return file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+}
 // There the toolkit's own flushing has to do.
 bool SyncContent(int /*handle*/) {
     return true;
@@ -91,6 +104,7 @@ bool Replace(const QString& path, std::string_view content, const Listener& list
         return false;
     }
     QSaveFile file(path);
+    // The toolkit lets nobody else read the new file until it has the rights of the old one.
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
@@ -105,6 +119,28 @@ bool Replace(const QString& path, std::string_view content, const Listener& list
     }
     // A link leads to the folder in which the name of the new file stands.
     return file.commit() && SyncFolder(QFileInfo(QFileInfo(path).canonicalFilePath()).absolutePath());
+}
+
+bool Overwrite(const QString& path, std::string_view content, const Listener& listener) {
+    const QFileInfo target(path);
+    const bool isNew = !target.exists();
+    QFile file(path);
+    if ((!isNew && !target.isFile()) || !OpenWithoutEmptying(file, isNew)) {
+        return false;
+    }
+    // The old end goes last: what is given up on the disk might not be had back.
+    const auto size = static_cast<qint64>(content.size());
+    const bool isWritten = InPieces(content.size(), listener,
+                                    [&](std::size_t start, std::size_t length) {
+                                        const auto piece = static_cast<qint64>(length);
+                                        return file.write(content.data() + start, piece) == piece;
+                                    }) &&
+                           (file.size() == size || file.resize(size)) && SyncContent(file.handle());
+    const QFileInfo written(QFileInfo(path).canonicalFilePath());
+    if (isNew && !isWritten) {
+        QFile::remove(written.filePath());
+    }
+    return isWritten && (!isNew || SyncFolder(written.absolutePath()));
 }
 
 bool Extend(const QString& path, std::size_t kept, std::string_view added) {

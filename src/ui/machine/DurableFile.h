@@ -29,6 +29,10 @@ using Listener = std::function<void(double part)>;
 // regular files are replaced, and only in folders that may be written to.
 [[nodiscard]] bool Replace(const QString& path, std::string_view content, const Listener& listener = {});
 
+// Writes over a file where it is, so that it stays the same file to everybody, or makes it. True when that is on
+// the disk. Where it fails, a part may have been written; a file that was made is removed.
+[[nodiscard]] bool Overwrite(const QString& path, std::string_view content, const Listener& listener = {});
+
 // Lets a file go on with `added` behind its first `kept` bytes, which it must have. True when that is on
 // the disk. Where it fails, a part of what was to be added may follow the bytes that were kept.
 [[nodiscard]] bool Extend(const QString& path, std::size_t kept, std::string_view added);

@@ -3,6 +3,7 @@
 #include "ui/Text.h"
 #include "ui/machine/DateTimeText.h"
 #include "ui/machine/DurableFile.h"
+#include "ui/machine/FilePlace.h"
 #include "ui/machine/Memory.h"
 #include "ui/machine/PlainBoxes.h"
 #include "ui/machine/Printing.h"
@@ -14,6 +15,7 @@
 #include "ui/windows/frmCustomMessageBox.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
@@ -21,6 +23,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QStyle>
 #include <QTimer>
 #include <QUrl>
@@ -104,9 +107,14 @@ QString SettingName(std::string_view section, std::string_view key) {
     return Text::ToQt(section) + QLatin1Char('/') + Text::ToQt(key);
 }
 
+// Also where no file is and none could be made.
 bool IsReadOnly(const QString& path) {
     const QFileInfo file(path);
-    return file.exists() && !file.isWritable();
+    if (file.exists()) {
+        return !file.isWritable();
+    }
+    const QFileInfo made(file.isSymLink() ? file.symLinkTarget() : path);
+    return !QFileInfo(made.absolutePath()).isWritable();
 }
 
 // The toolkit's label takes the focus from a click alone. It may only take it by Tab when a button has it already,
@@ -248,6 +256,27 @@ bool QtDesktop::PutTogether(const PieceSource& pieces, const std::function<bool(
     return Spool::Use(pieces, use);
 }
 
+bool QtDesktop::StaysInPlace(const std::string& path) {
+    return FilePlace::MustBeKept(Text::PathToQt(path));
+}
+
+bool QtDesktop::OverwriteFile(const std::string& path, std::string_view content) {
+    return DurableFile::Overwrite(Text::PathToQt(path), content,
+                                  [this](double part) { ShowProgress("Writing the file", part); });
+}
+
+std::string QtDesktop::StampOf(const std::string& path) {
+    const QFileInfo file(Text::PathToQt(path));
+    if (!file.exists()) {
+        return {};
+    }
+    std::string stamp = std::to_string(file.size());
+    for (const QDateTime& time : {file.lastModified(), file.metadataChangeTime()}) {
+        stamp += ' ' + std::to_string(time.toMSecsSinceEpoch());
+    }
+    return stamp;
+}
+
 std::string QtDesktop::TruePath(const std::string& path) {
     const QString truePath = QFileInfo(Text::PathToQt(path)).canonicalFilePath();
     return truePath.isEmpty() ? path : Text::PathFromQt(truePath);
@@ -256,6 +285,16 @@ std::string QtDesktop::TruePath(const std::string& path) {
 bool QtDesktop::ShowDocument(const std::string& path) {
     const QString file = Text::PathToQt(path);
     return QFileInfo::exists(file) && QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+}
+
+bool QtDesktop::MayMakeFilesIn(const std::string& folder) {
+    const QFileInfo info(Text::PathToQt(folder));
+    return info.isDir() && info.isWritable() && info.isExecutable(); // which lets one enter it
+}
+
+std::string QtDesktop::DocumentsFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return Text::PathFromQt(QFileInfo(documents).isDir() ? documents : QDir::homePath());
 }
 
 std::string QtDesktop::ProgramFolder() {

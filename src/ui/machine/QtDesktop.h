@@ -32,9 +32,14 @@ public:
     bool ReplaceFile(const std::string& path, std::string_view content) override;
     bool PutTogether(const CommonRoutines::PieceSource& pieces,
                      const std::function<bool(std::string_view)>& use) override;
+    bool StaysInPlace(const std::string& path) override;
+    bool OverwriteFile(const std::string& path, std::string_view content) override;
+    std::string StampOf(const std::string& path) override;
     std::string TruePath(const std::string& path) override;
     CommonRoutines::StateFolder& State() override { return m_state; }
     bool ShowDocument(const std::string& path) override;
+    bool MayMakeFilesIn(const std::string& folder) override;
+    std::string DocumentsFolder() override;
     std::string ProgramFolder() override;
     void EnterProgramFolder() override;
     std::string GetSetting(std::string_view section, std::string_view key) override;

@@ -177,6 +177,10 @@ void Form1::LoadForm() {
     Run(Commands::Start);
 }
 
+void Form1::MendFiles() {
+    Run(Commands::MendFiles);
+}
+
 void Form1::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     FitWindowToScreen();

@@ -27,6 +27,8 @@ public:
 
     // What happens once before the window is used: the word list is read, all is set for "no file".
     void LoadForm();
+    // What happens once when the window is shown: there may be files to mend.
+    void MendFiles();
 
 protected:
     void showEvent(QShowEvent* event) override;

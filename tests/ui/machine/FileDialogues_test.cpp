@@ -31,7 +31,14 @@ protected:
     void ChooseNext(const std::string& path) {
         guide.Next([path](QWidget& dialogue) { DialogueGuide::ChooseFile(dialogue, path); });
     }
+    void LetOthersOnlyEnterFolder() const {
+        QFile::setPermissions(QString::fromStdString(Folder()),
+                              ForAllToRead | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
+    }
+    void ExpectRefused(const std::string& path, bool isThere);
     FileRequest InFolder() const { return {"", Folder(), "", ""}; }
+
+    static constexpr QFile::Permissions ForAllToRead = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
 
 private:
     QTemporaryDir m_folder;
@@ -51,6 +58,35 @@ private:
 
     uid_t m_real;
 };
+
+// To choose this file is refused with a message, and the dialogue comes again.
+void FileDialoguesTest::ExpectRefused(const std::string& path, bool isThere) {
+    const AsOrdinaryUser user;
+    // The same dialogue comes up again, which the guide takes for answered.
+    QTimer again;
+    bool cameAgain = false;
+    guide.Next([&](QWidget& dialogue) {
+        if (isThere) {
+            PressNext("Yes");
+        }
+        guide.Next([](QWidget& refusal) {
+            EXPECT_EQ(dynamic_cast<QMessageBox&>(refusal).text(),
+                      QStringLiteral("This file is read-only. Please choose another name."));
+            DialogueGuide::Press(refusal, "OK");
+        });
+        DialogueGuide::ChooseFile(dialogue, path);
+        QObject::connect(&again, &QTimer::timeout, &dialogue, [&] {
+            if (QApplication::activeModalWidget() == &dialogue && guide.AllAnswered()) {
+                again.stop();
+                cameAgain = true;
+                dynamic_cast<QFileDialog&>(dialogue).reject();
+            }
+        });
+        again.start(10);
+    });
+    EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), std::nullopt);
+    EXPECT_TRUE(cameAgain);
+}
 
 } // namespace
 
@@ -148,33 +184,26 @@ TEST_F(FileDialoguesTest, ANameThatLooksLikeMarkupIsShownAsItIs) {
 
 TEST_F(FileDialoguesTest, AReadOnlyFileIsRefusedAndTheDialogueComesAgain) {
     const std::string path = Existing("data.txt");
-    constexpr QFile::Permissions forAllToRead = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
-    QFile::setPermissions(QString::fromStdString(path), forAllToRead);
-    QFile::setPermissions(QString::fromStdString(Folder()),
-                          forAllToRead | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
+    QFile::setPermissions(QString::fromStdString(path), ForAllToRead);
+    LetOthersOnlyEnterFolder();
+    ExpectRefused(path, true);
+}
+
+TEST_F(FileDialoguesTest, SoIsANewNameInAFolderInWhichNoFileCanBeMade) {
+    LetOthersOnlyEnterFolder();
+    ExpectRefused(Path("new.txt"), false);
+}
+
+TEST_F(FileDialoguesTest, AFileThatMayBeWrittenIsChosenThoughNoneCanBeMadeBesideIt) {
+    const std::string path = Existing("data.txt");
+    QFile::setPermissions(QString::fromStdString(path), ForAllToRead | QFile::WriteGroup | QFile::WriteOther);
+    LetOthersOnlyEnterFolder();
     const AsOrdinaryUser user;
-    // The same dialogue comes up again, which the guide takes for answered.
-    QTimer again;
-    bool cameAgain = false;
     guide.Next([&](QWidget& dialogue) {
         PressNext("Yes");
-        guide.Next([](QWidget& refusal) {
-            EXPECT_EQ(dynamic_cast<QMessageBox&>(refusal).text(),
-                      QStringLiteral("This file is read-only. Please choose another name."));
-            DialogueGuide::Press(refusal, "OK");
-        });
         DialogueGuide::ChooseFile(dialogue, path);
-        QObject::connect(&again, &QTimer::timeout, &dialogue, [&] {
-            if (QApplication::activeModalWidget() == &dialogue && guide.AllAnswered()) {
-                again.stop();
-                cameAgain = true;
-                dynamic_cast<QFileDialog&>(dialogue).reject();
-            }
-        });
-        again.start(10);
     });
-    EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), std::nullopt);
-    EXPECT_TRUE(cameAgain);
+    EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), path);
 }
 
 TEST_F(FileDialoguesTest, AForeignFileNameComesThroughUnchanged) {

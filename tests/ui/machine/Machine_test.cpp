@@ -12,9 +12,12 @@
 #include <QPrinterInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <fcntl.h>
 #include <fstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -124,12 +127,35 @@ TEST_F(MachineTest, AReplacedFileKeepsItsPermissions) {
     EXPECT_EQ(file.st_mode & 0777U, static_cast<unsigned>(S_IRUSR | S_IWUSR | S_IRGRP));
 }
 
-TEST_F(MachineTest, AnotherNameOfTheFileKeepsTheOldContent) {
+TEST_F(MachineTest, AStampTellsWhetherAFileWasWrittenSince) {
+    EXPECT_EQ(desktop.StampOf(Path("file")), "");
     ASSERT_TRUE(desktop.ReplaceFile(Path("file"), "old"));
-    ASSERT_EQ(link(Path("file").c_str(), Path("other").c_str()), 0);
-    EXPECT_TRUE(desktop.ReplaceFile(Path("file"), "new"));
-    EXPECT_EQ(desktop.ReadFile(Path("file")), "new");
-    EXPECT_EQ(desktop.ReadFile(Path("other")), "old");
+    const std::string before = desktop.StampOf(Path("file"));
+    EXPECT_NE(before, "");
+    EXPECT_EQ(desktop.StampOf(Path("file")), before);
+    constexpr int longerThanAClockTick = 20; // milliseconds
+    QThread::msleep(longerThanAClockTick);
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), "new"));
+    EXPECT_NE(desktop.StampOf(Path("file")), before);
+}
+
+TEST_F(MachineTest, AFileWrittenWithItsOldSizeAndTimeHasAnotherStamp) {
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), "old"));
+    struct stat file {};
+    ASSERT_EQ(stat(Path("file").c_str(), &file), 0);
+    const std::string before = desktop.StampOf(Path("file"));
+    QThread::msleep(20);
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), "new"));
+    const std::array<timespec, 2> times{file.st_atim, file.st_mtim};
+    ASSERT_EQ(utimensat(AT_FDCWD, Path("file").c_str(), times.data(), 0), 0);
+    EXPECT_NE(desktop.StampOf(Path("file")), before);
+}
+
+TEST_F(MachineTest, TheUsersOwnFolderIsOneInWhichFilesCanBeMade) {
+    EXPECT_TRUE(desktop.MayMakeFilesIn(desktop.DocumentsFolder()));
+    EXPECT_FALSE(desktop.MayMakeFilesIn(Path("missing")));
+    ASSERT_TRUE(desktop.ReplaceFile(Path("file"), ""));
+    EXPECT_FALSE(desktop.MayMakeFilesIn(Path("file")));
 }
 
 TEST_F(MachineTest, AFileWhoseNameIsNoUtf8IsRead) {
