@@ -293,11 +293,12 @@ enum class Outcome { Read, Unreadable, NotWanted };
 Outcome ReadTable(Desktop& desktop) {
     ForgetTable(); // before the file is read, so that two files are never in memory at once
     TheOpenFile.Close(desktop);
+    std::string stamp = desktop.StampOf(sDataFileName); // before reading: what is changed meanwhile is not what is read
     auto content = desktop.ReadFile(sDataFileName);
     if (!content) {
         return Outcome::Unreadable;
     }
-    TheOpenFile.BeginReading(desktop, sDataFileName, *content);
+    TheOpenFile.BeginReading(desktop, sDataFileName, *content, std::move(stamp));
     eFileEncoding = EncodingOf(*content);
     content = Decoded(std::move(*content), eFileEncoding);
     if (!IsWanted(desktop, *content)) {

@@ -42,11 +42,22 @@ std::optional<std::string> ChooseTarget(Desktop& desktop) {
 }
 
 // A file without lines may hold the mark of its encoding, which is written again.
-bool MayReplace(Desktop& desktop, const std::string& path) {
+bool MayEmpty(Desktop& desktop, const std::string& path) {
     return lLineCount > 0 || !desktop.HasContent(path) || desktop.ReadFile(path) == Encoded({}, eFileEncoding) ||
            desktop.MsgBox("There are no lines to save.  This will empty the file:\r\n" + Wording::OfPath(path) +
                               "\r\nAre you sure you want to do this?",
                           BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
+}
+
+// What another program has written since must not be lost unasked.
+bool MayReplaceChanged(Desktop& desktop, const std::string& path) {
+    desktop.ShowBusy(true);
+    const bool wasChanged = TheOpenFile.WasChangedAt(desktop, path);
+    desktop.ShowBusy(false);
+    return !wasChanged || desktop.MsgBox("This file is not what was opened or last saved any more.  Another program "
+                                         "has changed it:\r\n" +
+                                             Wording::OfPath(path) + "\r\nDo you want to replace it?",
+                                         BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
 }
 
 } // namespace
@@ -63,7 +74,7 @@ std::string DistrictFileContent() {
 
 void SaveDistrictFile(Desktop& desktop) {
     const auto path = ChooseTarget(desktop);
-    if (!path || !MayReplace(desktop, *path)) {
+    if (!path || !MayReplaceChanged(desktop, *path) || !MayEmpty(desktop, *path)) {
         return;
     }
     desktop.ShowBusy(true);

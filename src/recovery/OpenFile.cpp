@@ -3,6 +3,8 @@
 #include "core/Desktop.h"
 #include "recovery/UnsavedChanges.h"
 
+#include <utility>
+
 namespace CommonRoutines {
 
 OpenFile TheOpenFile;
@@ -11,20 +13,32 @@ bool OpenFile::IsAt(Desktop& desktop, const std::string& path) {
     return desktop.TruePath(path) == Unsaved.File().path;
 }
 
+bool OpenFile::WasChangedAt(Desktop& desktop, const std::string& path) const {
+    const std::string stamp = desktop.StampOf(path);
+    if (!IsAt(desktop, path) || stamp.empty() || stamp == m_stamp) {
+        return false;
+    }
+    const auto bytes = desktop.ReadFile(path);
+    return !bytes || !IdentityOf(path, *bytes).HasBytesOf(Unsaved.File());
+}
+
 void OpenFile::Close(Desktop& desktop) {
     m_path.clear();
+    m_stamp.clear();
     m_mark.Clear(desktop);
     Unsaved.Release(desktop);
 }
 
-void OpenFile::BeginReading(Desktop& desktop, const std::string& path, std::string_view bytes) {
+void OpenFile::BeginReading(Desktop& desktop, const std::string& path, std::string_view bytes, std::string stamp) {
     m_path = path;
+    m_stamp = std::move(stamp);
     Unsaved.Begin(desktop, path, bytes, Numbering::AsRead);
 }
 
 bool OpenFile::MoveTo(Desktop& desktop, const std::string& path, std::string_view bytes) {
     const bool isAnother = !IsAt(desktop, path);
     m_path = path;
+    m_stamp = desktop.StampOf(path);
     Unsaved.Remove(desktop);
     Unsaved.Begin(desktop, path, bytes, Numbering::AsSaved);
     return isAnother && m_mark.Set(desktop, path);

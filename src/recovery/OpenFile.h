@@ -17,11 +17,13 @@ public:
     [[nodiscard]] const std::string& Path() const { return m_path; }
     // Whether that file is at this path, whatever links lead there.
     [[nodiscard]] static bool IsAt(Desktop& desktop, const std::string& path);
+    // Whether it is at this path and holds anything but what was read or last saved. A file that has vanished does not.
+    [[nodiscard]] bool WasChangedAt(Desktop& desktop, const std::string& path) const;
 
     // No file is open from now on. What has not been saved stays left over.
     void Close(Desktop& desktop);
-    // The table is about to be read from these bytes.
-    void BeginReading(Desktop& desktop, const std::string& path, std::string_view bytes);
+    // The table is about to be read from these bytes. The stamp is what the file had before they were read.
+    void BeginReading(Desktop& desktop, const std::string& path, std::string_view bytes, std::string stamp);
     // The file that was read is shown from now on. True when another editor has it open, too.
     [[nodiscard]] bool Mark(Desktop& desktop) { return m_mark.Set(desktop, m_path); }
     // The table has been saved as these bytes. True when this is another file, and another editor has it open.
@@ -29,6 +31,7 @@ public:
 
 private:
     std::string m_path;
+    std::string m_stamp; // of what was read or last saved
     OpenMark m_mark;
 };
 

@@ -43,6 +43,13 @@ protected:
         }
         session.Run(Save);
     }
+    void ExpectChanged(const std::string& path, BoxAnswer answer) { ExpectChanged(path, answer, desktop); }
+    static void ExpectChanged(const std::string& path, BoxAnswer answer, ScriptedDesktop& asked) {
+        asked.ExpectBox(
+            "This file is not what was opened or last saved any more.  Another program has changed it:\r\n" + path +
+                "\r\nDo you want to replace it?",
+            BoxIcon::Question, BoxButtons::YesNoDefaultNo, answer);
+    }
     // The path that a save would propose.
     std::string Proposed() {
         SaveTo(std::nullopt);
@@ -194,6 +201,99 @@ TEST_F(FileCommandsTest, AFileThatIsNotChosenLeavesTheOpenOneAsItWas) {
     desktop.ExpectOpen(std::nullopt);
     session.Run(Open);
     ExpectOpen(DataFilePath, CopyPath);
+}
+
+// Changes of other programs
+
+TEST_F(FileCommandsTest, AFileThatAnotherProgramHasChangedIsReplacedOnlyAfterAYes) {
+    Change("Fir");
+    const std::string theirs = HeaderOf("Alpha") + "|Oak\r\n";
+    desktop.files[DataFilePath] = theirs;
+    desktop.ExpectSave(DataFilePath);
+    ExpectChanged(DataFilePath, BoxAnswer::No);
+    session.Run(Save);
+    EXPECT_EQ(desktop.files[DataFilePath], theirs);
+    EXPECT_FALSE(bChanged); // as after a cancelled dialogue
+    EXPECT_EQ(desktop.state.Kept(".changes").size(), 1U);
+    desktop.ExpectSave(DataFilePath);
+    ExpectChanged(DataFilePath, BoxAnswer::Yes);
+    desktop.ExpectBox("File Saved to " + DataFilePath, BoxIcon::Information);
+    session.Run(Save);
+    EXPECT_EQ(desktop.files[DataFilePath], HeaderOf("Alpha") + "|Fir|Elm\r\n");
+    SaveTo(DataFilePath); // asks no more
+}
+
+TEST_F(FileCommandsTest, AFileThatWasWrittenAnewWithTheSameContentIsReplacedUnasked) {
+    ++desktop.touched[DataFilePath];
+    Change("Fir");
+    SaveTo(DataFilePath);
+}
+
+TEST_F(FileCommandsTest, AFileThatHasVanishedIsWrittenAgainUnasked) {
+    desktop.files.erase(DataFilePath);
+    Change("Fir");
+    SaveTo(DataFilePath);
+    EXPECT_EQ(desktop.files[DataFilePath], HeaderOf("Alpha") + "|Fir|Elm\r\n");
+}
+
+TEST_F(FileCommandsTest, AnotherFileIsReplacedUnasked) {
+    desktop.files[CopyPath] = "something else";
+    SaveTo(CopyPath);
+    desktop.files[CopyPath] = "what another program wrote";
+    desktop.ExpectSave(CopyPath);
+    ExpectChanged(CopyPath, BoxAnswer::No);
+    session.Run(Save);
+    SaveTo(DataFilePath); // which is another one now
+}
+
+TEST_F(FileCommandsTest, AFileThatChangesWhileItIsReadIsAskedAbout) {
+    class Changing : public ScriptedDesktop {
+    public:
+        std::optional<std::string> ReadFile(const std::string& path) override {
+            auto content = ScriptedDesktop::ReadFile(path);
+            if (path == CopyPath) {
+                files[path] = "newer";
+            }
+            return content;
+        }
+    } changing;
+    changing.recordReports = true;
+    changing.files[CopyPath] = HeaderOf("Alpha") + "|Ash\r\n";
+    Session reading{changing, screen};
+    reading.Run([](Session& now) { OpenPath(now, CopyPath); });
+    changing.ExpectSave(CopyPath);
+    ExpectChanged(CopyPath, BoxAnswer::No, changing);
+    reading.Run(Save);
+    EXPECT_EQ(changing.files[CopyPath], "newer");
+}
+
+// Files that stay in place
+
+TEST_F(FileCommandsTest, AFileThatWasTornWhileItWasSavedIsMendedBeforeItIsOpened) {
+    Change("Fir");
+    desktop.inPlace = {DataFilePath};
+    desktop.failingOverwrites = 2;
+    desktop.ExpectSave(DataFilePath);
+    desktop.confirmsBoxes = true;
+    session.Run(Save);
+    desktop.confirmsBoxes = false;
+    EXPECT_EQ(screen.shown.openFile, DataFilePath);
+    DieAndOpen(DataFilePath, [this] {
+        desktop.ExpectBox("The editor was stopped on 05 Mar 2026 14:07 while it wrote this file, which may be damaged:"
+                          "\r\n" +
+                              DataFilePath + "\r\nDo you want it to be written now, in place of what it holds?",
+                          BoxIcon::Question, BoxButtons::YesNoDefaultNo, BoxAnswer::Yes);
+    });
+    EXPECT_EQ(VariationAt(1, 1).Text, "Fir"); // and nothing is left to be offered
+}
+
+TEST_F(FileCommandsTest, WithoutThePlaceForACopyASaveFailsSilentlyAndKeepsTheFile) {
+    desktop.inPlace = {DataFilePath};
+    const std::string before = desktop.files[DataFilePath];
+    desktop.state.canWrite = false;
+    desktop.ExpectSave(DataFilePath);
+    session.Run(Save);
+    EXPECT_EQ(desktop.files[DataFilePath], before);
 }
 
 TEST_F(FileCommandsTest, BeforeChangesAreLostNoIsTheDefault) {

@@ -75,7 +75,7 @@ TEST_F(DistrictFileWriterTest, AFileReadComesBackTrimmedAndWithoutBlankVariation
 }
 
 TEST_F(DistrictFileWriterTest, SavingProposesTheOpenFileAndSaysWhereItWent) {
-    TheOpenFile.BeginReading(m_desktop, "/data/north/districts.txt", "");
+    TheOpenFile.BeginReading(m_desktop, "/data/north/districts.txt", "", "");
     AddRetained("# note");
     m_desktop.ExpectSave("/data/caf\xC3\xA9/new.txt");
     m_desktop.ExpectBox("File Saved to /data/caf\xE9/new.txt", BoxIcon::Information);
@@ -94,8 +94,8 @@ TEST_F(DistrictFileWriterTest, ANameThatTheCodePageLacksIsSaidAsItIs) {
 }
 
 TEST_F(DistrictFileWriterTest, SavingReplacesTheOldContent) {
-    TheOpenFile.BeginReading(m_desktop, "C:\\data\\old.txt", "");
     m_desktop.files["C:\\data\\old.txt"] = "a much longer old content";
+    TheOpenFile.BeginReading(m_desktop, "C:\\data\\old.txt", m_desktop.files["C:\\data\\old.txt"], "");
     AddRetained("# new");
     m_desktop.ExpectSave("C:\\data\\old.txt");
     m_desktop.ExpectBox("File Saved to C:\\data\\old.txt", BoxIcon::Information);
@@ -140,7 +140,7 @@ TEST_F(DistrictFileWriterTest, WhereNothingIsLostNothingIsAsked) {
 }
 
 TEST_F(DistrictFileWriterTest, ATableWhoseReadingWasQuitProposesNoName) {
-    TheOpenFile.BeginReading(m_desktop, "/data/north/districts.txt", "");
+    TheOpenFile.BeginReading(m_desktop, "/data/north/districts.txt", "", "");
     iRepairAction = Quit;
     m_desktop.ExpectSave(std::nullopt);
     SaveDistrictFile(m_desktop);

@@ -22,7 +22,7 @@ protected:
 
     OpenFileTest() {
         other.state.storage = desktop.state.storage;
-        TheOpenFile.BeginReading(desktop, Read, "bytes");
+        TheOpenFile.BeginReading(desktop, Read, "bytes", {});
         EXPECT_FALSE(TheOpenFile.Mark(desktop));
     }
     // Whether another editor that opens a file now is told.
