@@ -2,6 +2,7 @@
 
 #include "core/Desktop.h"
 #include "core/Paths.h"
+#include "recovery/OpenFile.h"
 #include "recovery/SaveCopy.h"
 
 namespace CommonRoutines {
@@ -37,14 +38,32 @@ void PrintReport(const Report& report, const std::string& dataFile, Desktop& des
     }
 }
 
+namespace {
+
+// Of an installed program the folder is not the user's.
+std::string FolderToStartIn(Desktop& desktop) {
+    std::string folder = desktop.ProgramFolder();
+    return desktop.MayMakeFilesIn(folder) ? folder : desktop.DocumentsFolder();
+}
+
+// The list replaces any file unasked but the one with the districts.
+bool MayReplace(Desktop& desktop, const std::string& path, const std::string& dataFile) {
+    const bool isDataFile = OpenFile::IsAt(desktop, path) || desktop.TruePath(path) == desktop.TruePath(dataFile);
+    return !isDataFile || desktop.MsgBox("This is the data file itself:\r\n" + Wording::OfPath(path) +
+                                             "\r\nDo you want the list to replace it?",
+                                         BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
+}
+
+} // namespace
+
 void SaveReport(const Report& report, const std::string& dataFile, Desktop& desktop) {
     FileRequest request;
     request.fileName = ReportFileName(dataFile);
-    request.folder = desktop.ProgramFolder();
+    request.folder = FolderToStartIn(desktop);
     request.defaultExtension = "txt";
     request.asksBeforeReplacing = false; // a newer report takes the place of the one before
     const auto path = desktop.ChooseFileToSave(request);
-    if (!path) {
+    if (!path || !MayReplace(desktop, *path, dataFile)) {
         return;
     }
     desktop.ShowBusy(true);

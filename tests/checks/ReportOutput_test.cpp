@@ -1,6 +1,8 @@
 #include "checks/ReportOutput.h"
 
+#include "recovery/OpenFile.h"
 #include "support/ScriptedDesktop.h"
+#include "support/Table.h"
 
 #include <gtest/gtest.h>
 
@@ -51,6 +53,19 @@ public:
         seen.emplace_back(isBusy ? "busy" : "free");
         ScriptedDesktop::ShowBusy(isBusy);
     }
+};
+
+// A report about a data file that is there.
+class SavedReportTest : public StateTest {
+protected:
+    SavedReportTest() { desktop.files[DataFile] = "districts"; }
+    void ExpectDataFileQuestion(BoxAnswer answer) {
+        desktop.ExpectBox("This is the data file itself:\r\n" + DataFile + "\r\nDo you want the list to replace it?",
+                          BoxIcon::Question, BoxButtons::YesNoDefaultNo, answer);
+    }
+
+    const std::string DataFile = "/data/north.txt";
+    ScriptedDesktop desktop;
 };
 
 } // namespace
@@ -169,6 +184,42 @@ TEST(ReportOutputTest, AFailedSaveSaysNothingAndKeepsTheFile) {
     desktop.ExpectSave("/reports/mine.txt");
     SaveReport(TwoFindings, "/data/north.txt", desktop);
     EXPECT_EQ(desktop.files["/reports/mine.txt"], "kept");
+}
+
+TEST_F(SavedReportTest, WhereTheProgramsFolderIsNotTheUsersTheirOwnIsProposed) {
+    desktop.mayMakeFiles = false;
+    desktop.ExpectSave(std::nullopt);
+    SaveReport(TwoFindings, "/data/north.txt", desktop);
+    EXPECT_EQ(desktop.lastRequest.folder, "/documents");
+    EXPECT_EQ(desktop.lastRequest.fileName, "Dupe_north.txt");
+}
+
+TEST_F(SavedReportTest, TheDataFileIsReplacedOnlyAfterAYes) {
+    desktop.ExpectSave(DataFile);
+    ExpectDataFileQuestion(BoxAnswer::No);
+    SaveReport(NoFindings, DataFile, desktop);
+    EXPECT_EQ(desktop.files[DataFile], "districts");
+    desktop.ExpectSave(DataFile);
+    ExpectDataFileQuestion(BoxAnswer::Yes);
+    SaveReport(NoFindings, DataFile, desktop);
+    EXPECT_TRUE(desktop.files[DataFile].starts_with("Duplicate Check on File /data/north.txt\r\n"));
+}
+
+TEST_F(SavedReportTest, TheFileThatWasLastSavedIsADataFileToo) {
+    TheOpenFile.BeginReading(desktop, DataFile, "districts", {});
+    desktop.ExpectSave(DataFile);
+    ExpectDataFileQuestion(BoxAnswer::No);
+    SaveReport(NoFindings, "/data/opened-before.txt", desktop);
+    EXPECT_EQ(desktop.files[DataFile], "districts");
+}
+
+TEST_F(SavedReportTest, AFileThatStaysInItsPlaceIsOverwritten) {
+    desktop.files["/reports/mine.txt"] = "old";
+    desktop.inPlace = {"/reports/mine.txt"};
+    desktop.ExpectSave("/reports/mine.txt");
+    SaveReport(NoFindings, DataFile, desktop);
+    EXPECT_TRUE(desktop.files["/reports/mine.txt"].starts_with("Duplicate Check on File"));
+    EXPECT_TRUE(desktop.state.Names().empty());
 }
 
 // Printing
