@@ -55,7 +55,7 @@ bool MayReplaceChanged(Desktop& desktop, const std::string& path) {
     const bool wasChanged = TheOpenFile.WasChangedAt(desktop, path);
     desktop.ShowBusy(false);
     return !wasChanged || desktop.MsgBox("This file is not what was opened or last saved any more.  Another program "
-                                         "has changed it:\r\n" +
+                                         "may have changed it:\r\n" +
                                              Wording::OfPath(path) + "\r\nDo you want to replace it?",
                                          BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
 }

@@ -46,8 +46,8 @@ protected:
     void ExpectChanged(const std::string& path, BoxAnswer answer) { ExpectChanged(path, answer, desktop); }
     static void ExpectChanged(const std::string& path, BoxAnswer answer, ScriptedDesktop& asked) {
         asked.ExpectBox(
-            "This file is not what was opened or last saved any more.  Another program has changed it:\r\n" + path +
-                "\r\nDo you want to replace it?",
+            "This file is not what was opened or last saved any more.  Another program may have changed it:\r\n" +
+                path + "\r\nDo you want to replace it?",
             BoxIcon::Question, BoxButtons::YesNoDefaultNo, answer);
     }
     // The path that a save would propose.

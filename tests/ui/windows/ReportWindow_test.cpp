@@ -141,6 +141,20 @@ TEST_F(ReportWindowTest, SaveListWritesWhatPrintPrintsWithoutAMessage) {
     EXPECT_EQ(desktop.files["/data/list.txt"], content);
 }
 
+TEST_F(ReportWindowTest, AListThatCannotBeSavedCanBeSavedElsewhere) {
+    Show();
+    desktop.canWrite = false;
+    desktop.ExpectSave("/full/list.txt");
+    Click("cbSave");
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(List().model()->rowCount(), 3);
+    desktop.canWrite = true;
+    desktop.ExpectSave("/data/list.txt");
+    Click("cbSave");
+    EXPECT_TRUE(desktop.files["/data/list.txt"].ends_with("Third\r\n"));
+    EXPECT_FALSE(desktop.files.contains("/full/list.txt"));
+}
+
 TEST_F(ReportWindowTest, TheReportStaysAboutTheFileItWasFirstUsedFor) {
     Show();
     Click("cbPrint");

@@ -94,6 +94,21 @@ TEST_F(WholeFileTest, ACancelledDialogueSavesNothing) {
     EXPECT_EQ(desktop.files, files);
 }
 
+TEST_F(WholeFileTest, ASelectionThatCannotBeSavedStays) {
+    ChooseAlpha();
+    Select(QStringLiteral("zeta"));
+    Select(QStringLiteral("Alfa"), Qt::ControlModifier);
+    desktop.canWrite = false;
+    desktop.ExpectSave("/full/chosen.txt");
+    desktop.ExpectBox("The file cannot be written:\r\n/full/chosen.txt", BoxIcon::Exclamation);
+    Click("cbSaveVariations");
+    EXPECT_EQ(Selected("lvVariations"), (QStringList{QStringLiteral("Alfa"), QStringLiteral("zeta")}));
+    desktop.canWrite = true;
+    ExpectSaved(2, "/data/chosen.txt");
+    Click("cbSaveVariations");
+    EXPECT_EQ(desktop.files["/data/chosen.txt"], "Alfa\r\nzeta\r\n");
+}
+
 TEST_F(WholeFileTest, WithNothingSelectedAnEmptyFileIsSaved) {
     ChooseAlpha();
     Select(QStringLiteral("zeta"));
