@@ -1,8 +1,14 @@
 #include "changes/ChangeFile.h"
 
 #include "core/Ansi.h"
+#include "core/LetterPairs.h"
 #include "core/Lines.h"
+#include "core/State.h"
+#include "core/Utf8.h"
 #include "rules/Validation.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace CommonRoutines {
 
@@ -11,13 +17,57 @@ namespace {
 constexpr auto None = std::string_view::npos;
 constexpr std::string_view HeadingRow = "<TR><TD>";
 
-// The part of a line from a place to one that was looked for from there on; empty when it was not found.
-std::string Cut(std::string_view line, std::size_t from, std::size_t to) {
-    return to == None ? std::string() : std::string(Ansi::Trim(line.substr(from, to - from)));
+// The tags are ASCII, and so are all letters whose capitals are.
+bool Contains(std::string_view text, std::string_view part) {
+    return text.find(part) != None;
 }
 
-// The text of the first cell of a row whose tags carry attributes, in an upper-cased line.
-std::string FirstCell(std::string_view line, std::string_view upper) {
+// The place before so many more characters.
+std::size_t StepBack(std::string_view utf8, std::size_t place, std::size_t characters) {
+    for (; characters > 0 && place > 0; --characters) {
+        do {
+            --place;
+        } while (place > 0 && Utf8::IsContinuation(utf8[place]));
+    }
+    return place;
+}
+
+// The place in a line with as many characters before it as there are in the trimmed line before `place`.
+std::size_t PlaceInLine(std::string_view line, std::size_t place) {
+    const std::string_view trimmed = Ansi::TrimLeft(line);
+    const std::size_t blanks = line.size() - trimmed.size();
+    const std::size_t before = StepBack(trimmed, std::min(place, trimmed.size()), blanks);
+    return before == 0 ? Utf8::CharacterCount(trimmed.substr(0, place)) : blanks + before;
+}
+
+void Check(Proposal& proposal) {
+    const Verdict verdict = CheckVariation(Ansi::Trim(proposal.text));
+    proposal.tag = verdict.IsValid() ? Proposal::Valid : Proposal::Invalid;
+    proposal.warns = verdict.Warns();
+}
+
+// The text as the open file can have it. What a text that lacks characters was made of is kept beside it.
+void SetText(Proposal& proposal, std::string text, Encoding from, Encoding to) {
+    proposal.text = Recoded(text, from, to);
+    const bool isWhole = from == to || Recoded(proposal.text, to, from) == text;
+    proposal.utf8 = isWhole ? std::string() : std::move(text);
+}
+
+} // namespace
+
+// A place that was looked for, but not found, cuts nothing.
+std::string ChangeLineParser::Cut(std::string_view line, std::size_t from, std::size_t to) const {
+    if (to == None) {
+        return {};
+    }
+    if (m_utf8) {
+        from = PlaceInLine(line, from);
+        to = PlaceInLine(line, to);
+    }
+    return std::string(Ansi::Trim(line.substr(from, to - from)));
+}
+
+std::string ChangeLineParser::FirstCell(std::string_view line, std::string_view upper) const {
     const auto tagEnd = upper.find('>', HeadingRow.size());
     if (tagEnd == None) {
         return {};
@@ -25,23 +75,8 @@ std::string FirstCell(std::string_view line, std::string_view upper) {
     return Cut(line, tagEnd + 1, upper.find('<', tagEnd + 1));
 }
 
-bool Contains(std::string_view text, std::string_view part) {
-    return text.find(part) != None;
-}
-
-Proposal CheckedProposal(std::string text) {
-    Proposal proposal;
-    const Verdict verdict = CheckVariation(Ansi::Trim(text));
-    proposal.tag = verdict.IsValid() ? Proposal::Valid : Proposal::Invalid;
-    proposal.warns = verdict.Warns();
-    proposal.text = std::move(text);
-    return proposal;
-}
-
-} // namespace
-
 std::string ChangeLineParser::ParseChangeLine(std::string_view line) {
-    const std::string upperLine = Ansi::Upper(line);
+    const std::string upperLine = Ansi::UpperAscii(line);
     const std::string_view upper = Ansi::Trim(upperLine);
     if (Contains(upper, "<HEAD>")) {
         m_isInHead = true;
@@ -76,22 +111,39 @@ std::string ProposalList::Summary() const {
     return summary;
 }
 
-ProposalList ReadProposals(std::string_view content) {
+Proposal RecodedProposal(const Proposal& proposal, Encoding from, Encoding to) {
+    Proposal recoded = proposal;
+    const bool hasOriginal = !proposal.utf8.empty();
+    SetText(recoded, hasOriginal ? proposal.utf8 : proposal.text, hasOriginal ? Encoding::Utf8 : from, to);
+    if (recoded.tag != Proposal::Heading) {
+        Check(recoded);
+        recoded.ticked = recoded.ticked && recoded.tag == Proposal::Valid;
+    }
+    return recoded;
+}
+
+ProposalList ReadProposals(std::string content) {
+    const Encoding encoding = EncodingOf(content);
+    content = Decoded(std::move(content), encoding);
     ProposalList list;
-    ChangeLineParser parser;
+    ChangeLineParser parser(encoding != Encoding::Windows1252);
     Lines lines(content);
     while (const auto line = lines.Next()) {
         std::string text = parser.ParseChangeLine(*line);
         if (text.empty()) {
             continue;
         }
+        Proposal& proposal = list.proposals.emplace_back();
+        SetText(proposal, std::move(text), encoding, eFileEncoding);
         if (parser.IsHeading()) {
-            list.proposals.push_back({Ansi::Upper(text), Proposal::Heading, false, false});
+            proposal.text = Ansi::Upper(proposal.text);
+            proposal.utf8 = LetterPairs::Upper(proposal.utf8);
+            proposal.tag = Proposal::Heading;
             continue;
         }
-        list.proposals.push_back(CheckedProposal(std::move(text)));
-        list.invalidCount += list.proposals.back().tag == Proposal::Invalid ? 1 : 0;
-        list.warningCount += list.proposals.back().warns ? 1 : 0;
+        Check(proposal);
+        list.invalidCount += proposal.tag == Proposal::Invalid ? 1 : 0;
+        list.warningCount += proposal.warns ? 1 : 0;
     }
     return list;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Encoding.h"
+
 #include <cstdint>
 #include <string>
 
@@ -13,7 +15,11 @@ struct Proposal {
     std::int16_t tag = Valid;
     bool warns = false; // its own check raised a warning
     bool ticked = false;
+    std::string utf8 = {}; // what the text was made of, where the open file lacks a character of it
 };
+
+// The characters of a proposal for a file of another encoding, checked anew. A heading stays one.
+[[nodiscard]] Proposal RecodedProposal(const Proposal& proposal, Encoding from, Encoding to);
 
 // Why a proposal is invalid or suspicious; empty where there is nothing to say.
 [[nodiscard]] std::string ReasonOf(const Proposal& proposal);

@@ -1,9 +1,13 @@
 #include "checks/ReportOutput.h"
 
 #include "core/Desktop.h"
+#include "core/Encoding.h"
 #include "core/Paths.h"
+#include "core/State.h"
 #include "recovery/OpenFile.h"
 #include "recovery/SaveCopy.h"
+
+#include <utility>
 
 namespace CommonRoutines {
 
@@ -67,9 +71,11 @@ void SaveReport(const Report& report, const std::string& dataFile, Desktop& desk
         return;
     }
     desktop.ShowBusy(true);
-    const auto piece = [lines = ReportLines(report, dataFile, desktop)] {
+    // A byte order mark stands in front of the first line.
+    const auto piece = [lines = ReportLines(report, dataFile, desktop),
+                        front = Encoded({}, eFileEncoding)]() mutable -> std::optional<std::string> {
         const auto line = lines();
-        return line ? std::optional(line->InCodePage() + "\r\n") : std::nullopt;
+        return line ? std::optional(std::exchange(front, {}) + line->AsText() + "\r\n") : std::nullopt;
     };
     // Where that fails its window stands, so that it can be saved elsewhere.
     desktop.PutTogether(piece, [&](std::string_view content) { return WriteFile(desktop, *path, content); });

@@ -11,7 +11,8 @@ namespace CommonRoutines {
 class Desktop;
 
 // The report as it is printed and saved: three heading lines with the data file's path and the
-// present time, then the items, which must live meanwhile. A file has the path as near as Windows-1252 comes to it.
+// present time, then the items, which must live meanwhile. A file of them has the encoding of the open file, and the
+// path as near as that comes to it.
 [[nodiscard]] LineSource ReportLines(const Report& report, std::string_view dataFile, Desktop& desktop);
 
 // The name proposed for the saved report of a data file.

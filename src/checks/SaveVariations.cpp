@@ -1,7 +1,11 @@
 #include "checks/SaveVariations.h"
 
 #include "core/Desktop.h"
+#include "core/Encoding.h"
+#include "core/State.h"
 #include "recovery/SaveCopy.h"
+
+#include <utility>
 
 namespace CommonRoutines {
 
@@ -16,6 +20,9 @@ void SaveSelectedVariations(std::span<const std::string> variations, Desktop& de
     std::string content;
     for (const std::string& variation : variations) {
         content += variation + "\r\n";
+    }
+    if (!content.empty()) { // of nothing, nothing is written
+        content = Encoded(std::move(content), eFileEncoding);
     }
     const Wording name = Wording::OfPath(*path);
     if (WriteFile(desktop, *path, content)) {

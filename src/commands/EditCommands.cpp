@@ -3,6 +3,7 @@
 #include "commands/Session.h"
 #include "commands/VariationCommands.h"
 #include "commands/WindowMode.h"
+#include "core/Ansi.h"
 #include "core/State.h"
 #include "edit/EditPanel.h"
 #include "edit/UndoJournal.h"
@@ -132,7 +133,7 @@ void ClickVolume(Session& session, bool ticked) {
 
 void PutIntoEditBox(Session& session, std::string_view text) {
     EditView& edit = session.view.edit;
-    edit.text = text.substr(0, LongestEditableText + 1);
+    edit.text = Ansi::Beginning(text, LongestEditableText + 1);
     edit.isPending = false;
     edit.refusal.clear();
     ++edit.filled;

@@ -1,16 +1,20 @@
 #include "commands/FileCommands.h"
 
 #include "commands/DistrictCommands.h"
+#include "commands/EditCommands.h"
+#include "commands/ProposalCommands.h"
 #include "commands/RestoreChanges.h"
 #include "commands/Session.h"
 #include "commands/VariationCommands.h"
 #include "commands/WindowMode.h"
+#include "core/Encoding.h"
 #include "core/Paths.h"
 #include "core/State.h"
 #include "edit/UndoJournal.h"
 #include "file/CommentTypes.h"
 #include "file/DistrictFileReader.h"
 #include "file/DistrictFileWriter.h"
+#include "recovery/OpenFile.h"
 #include "recovery/SaveCopy.h"
 #include "recovery/UnsavedChanges.h"
 #include "rules/Capitals.h"
@@ -42,13 +46,21 @@ void ResetWindow(Session& session) {
     view.comments = {0, view.comments.filled + 1};
     session.screen.SizeCommentColumn();
     ClearWhyError(session);
-    ClearUndoRing();
     CommentTypes.Reset();
     ShowCommentTypes(session);
     SetMode(NothingOpen); // the controls follow when a file is open: the old one can still be saved
     view.nextUndo.clear();
     view.districts.Fill({});
     ShowVariations(session, 0, {});
+}
+
+// What outlives the table, as a file of another encoding can have it.
+void Recode(Session& session, Encoding from) {
+    if (from != eFileEncoding) {
+        RecodeProposals(session, from, eFileEncoding);
+        RecodeUndoRing(from, eFileEncoding);
+        PutIntoEditBox(session, Recoded(session.view.edit.text, from, eFileEncoding));
+    }
 }
 
 void ReadAndShow(Session& session, const std::string& path) {
@@ -62,7 +74,7 @@ void ReadAndShow(Session& session, const std::string& path) {
     RememberFolder(session, path, Settings::DataFolder);
     bChanged = false;
     session.districtsByName.clear();
-    ReadDistrictFile(session.desktop);
+    ReadDistrictFile(session.desktop, [&session, from = eFileEncoding] { Recode(session, from); });
     if (sDataFileName.empty()) {
         // Nothing is open, so nothing must be saved over the file that could not be read.
         ApplyWindowMode(session);
@@ -78,6 +90,26 @@ void ReadAndShow(Session& session, const std::string& path) {
         EnterMode(session, FileOpen);
         session.view.focus = Focus::Districts;
     }
+}
+
+// The saved bytes are taken for another encoding, so that the table is no longer what stands in the file. What can
+// be undone and what is typed stays; so does the district.
+void OpenAnew(Session& session) {
+    const std::int32_t district = lCurrentDistrict;
+    const bool wasPending = session.view.edit.isPending;
+    const std::string path = TheOpenFile.Path();
+    ResetWindow(session);
+    ReadAndShow(session, path);
+    if (lLineCount == 0) {
+        ClearUndoRing();
+        return;
+    }
+    session.view.nextUndo = CurrentUndoStep().WhatAmI();
+    const std::string typed = session.view.edit.text;
+    if (district > 0 && GoToDistrict(session, district)) {
+        PutIntoEditBox(session, typed);
+    }
+    session.view.edit.isPending = wasPending;
 }
 
 } // namespace
@@ -100,6 +132,7 @@ void Open(Session& session) {
         return;
     }
     ResetWindow(session);
+    ClearUndoRing();
     FileRequest request;
     request.folder = session.desktop.GetSetting(Settings::Section, Settings::DataFolder);
     if (request.folder.empty()) {
@@ -113,6 +146,7 @@ void Open(Session& session) {
 void OpenPath(Session& session, const std::string& path) {
     if (ConfirmDiscard(session)) {
         ResetWindow(session);
+        ClearUndoRing();
         ReadAndShow(session, path);
     }
 }
@@ -121,6 +155,10 @@ void Save(Session& session) {
     ClearWhyError(session);
     SaveDistrictFile(session.desktop);
     bChanged = false; // also where nothing was saved; ConfirmDiscard knows of that
+    const bool isTakenForAnother = eEncodingOnDisk != eFileEncoding && eEncodingOnDisk != Encoding::Windows1252;
+    if (isTakenForAnother) { // ASCII is the same in both
+        OpenAnew(session);
+    }
 }
 
 bool ConfirmClose(Session& session) {

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 using namespace CommonRoutines;
 
@@ -44,8 +45,8 @@ void UpdateChangeSelection(Session& session) {
 // The proposals of a file; nothing when it cannot be read.
 std::optional<ProposalList> ReadChangeFile(Desktop& desktop, const std::string& path) {
     desktop.ShowBusy(true);
-    const auto content = desktop.ReadFile(path);
-    auto list = content ? std::optional(ReadProposals(*content)) : std::nullopt;
+    auto content = desktop.ReadFile(path);
+    auto list = content ? std::optional(ReadProposals(std::move(*content))) : std::nullopt;
     desktop.ShowBusy(false);
     if (!list) {
         desktop.MsgBox("The file cannot be read:\r\n" + Wording::OfPath(path), BoxIcon::Exclamation, BoxButtons::Ok);
@@ -174,6 +175,15 @@ void ClickProposal(Session& session, int row) {
 
 void HighlightProposals(Session& session, const std::vector<int>& rows) {
     session.view.proposals.selected = rows;
+}
+
+void RecodeProposals(Session& session, Encoding from, Encoding to) {
+    auto& list = session.view.proposals;
+    for (Proposal& proposal : *list.rows) {
+        proposal = RecodedProposal(proposal, from, to);
+    }
+    ++list.touched;
+    session.view.selectCount = DescribeProposalSelection(*list.rows).count;
 }
 
 void ShowProposals(Session& session, std::vector<Proposal> proposals) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "changes/Proposal.h"
+#include "core/Encoding.h"
 
 #include <string>
 #include <vector>
@@ -36,6 +37,9 @@ void ClickProposal(Session& session, int row);
 
 // The user has moved the highlight, which counts when the mode is next applied.
 void HighlightProposals(Session& session, const std::vector<int>& rows);
+
+// The proposals as a file of another encoding can have them.
+void RecodeProposals(Session& session, CommonRoutines::Encoding from, CommonRoutines::Encoding to);
 
 // Fills the list with these proposals, of which none is ticked.
 void ShowProposals(Session& session, std::vector<CommonRoutines::Proposal> proposals);

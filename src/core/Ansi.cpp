@@ -1,8 +1,13 @@
 #include "core/Ansi.h"
 
+#include "core/LetterPairs.h"
+#include "core/State.h"
+#include "core/UpperCase.h"
+#include "core/Utf8.h"
+
 #include <algorithm>
 #include <array>
-#include <cstdint>
+#include <optional>
 
 namespace Ansi {
 
@@ -18,33 +23,6 @@ constexpr std::array<char16_t, 32> UpperControls{0x20AC, 0x0081, 0x201A, 0x0192,
                                                  0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                                  0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-constexpr char32_t NotACharacter = 0xFFFFFFFF;
-
-// The smallest code point that needs a sequence of this many bytes; a longer one than needed is not UTF-8.
-constexpr std::array<char32_t, 5> SmallestOfLength{0, 0, 0x80, 0x800, 0x10000};
-
-// One code point from the front of `utf8`, which is shortened by the bytes used. A byte that starts
-// no sequence is used up alone, a sequence that breaks off as far as it goes.
-char32_t TakeCodePoint(std::string_view& utf8) {
-    const unsigned char lead = Code(utf8.front());
-    const std::size_t length = lead < 0x80   ? 1U
-                               : lead < 0xC2 ? 0U
-                               : lead < 0xE0 ? 2U
-                               : lead < 0xF0 ? 3U
-                               : lead < 0xF5 ? 4U
-                                             : 0U;
-    char32_t codePoint = length < 2 ? lead : lead & (0x7FU >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        if (i >= utf8.size() || (Code(utf8[i]) & 0xC0U) != 0x80U) {
-            utf8.remove_prefix(i);
-            return NotACharacter;
-        }
-        codePoint = (codePoint << 6U) | (Code(utf8[i]) & 0x3FU);
-    }
-    utf8.remove_prefix(std::max<std::size_t>(length, 1));
-    return length == 0 || codePoint < SmallestOfLength[length] ? NotACharacter : codePoint;
-}
-
 std::optional<char> ByteOf(char32_t codePoint) {
     if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF)) {
         return static_cast<char>(codePoint);
@@ -57,23 +35,42 @@ std::optional<char> ByteOf(char32_t codePoint) {
 }
 
 template <typename Change>
-std::string Changed(std::string_view text, Change change) {
+std::string ChangedBytes(std::string_view text, Change change) {
     std::string result(text);
     std::transform(result.begin(), result.end(), result.begin(), change);
     return result;
 }
 
+// The place behind the character that holds the byte before this one.
+std::size_t EndOfCharacter(std::string_view text, std::size_t place) {
+    while (place < text.size() && Utf8::IsContinuation(text[place])) {
+        ++place;
+    }
+    return place;
+}
+
 } // namespace
 
+bool IsBytewise(std::string_view text) {
+    return !CommonRoutines::TextsAreUtf8() || Utf8::IsAscii(text);
+}
+
 std::string Upper(std::string_view text) {
-    return Changed(text, [](char c) { return Upper(c); });
+    return IsBytewise(text) ? ChangedBytes(text, [](char c) { return Upper(c); }) : LetterPairs::Upper(text);
 }
 
 std::string Lower(std::string_view text) {
-    return Changed(text, [](char c) { return Lower(c); });
+    return IsBytewise(text) ? ChangedBytes(text, [](char c) { return Lower(c); }) : LetterPairs::Lower(text);
+}
+
+std::string UpperAscii(std::string_view text) {
+    return ChangedBytes(text, [](char c) { return Utf8::IsAscii(c) ? Upper(c) : c; });
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+    if (CommonRoutines::TextsAreUtf8()) {
+        return CompareUpper(a, b) == 0;
+    }
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return Upper(x) == Upper(y); });
 }
 
@@ -99,6 +96,30 @@ void SplitInto(std::vector<std::string_view>& pieces, std::string_view text, cha
     }
 }
 
+std::size_t CharacterCount(std::string_view text) {
+    return CommonRoutines::TextsAreUtf8() ? Utf8::CharacterCount(text) : text.size();
+}
+
+char32_t CodeAt(std::string_view text, std::size_t place) {
+    text.remove_prefix(place);
+    return CommonRoutines::TextsAreUtf8() ? Utf8::TakeCodePoint(text) : Code(text.front());
+}
+
+std::string_view FirstCharacters(std::string_view text, std::size_t count) {
+    if (!CommonRoutines::TextsAreUtf8() || text.size() <= count) {
+        return text.substr(0, count);
+    }
+    std::size_t end = 0;
+    for (; count > 0 && end < text.size(); --count) {
+        end = EndOfCharacter(text, end + 1);
+    }
+    return text.substr(0, end);
+}
+
+std::string_view Beginning(std::string_view text, std::size_t bytes) {
+    return text.substr(0, CommonRoutines::TextsAreUtf8() ? EndOfCharacter(text, bytes) : bytes);
+}
+
 char16_t ToUnicode(char c) {
     const unsigned char code = Code(c);
     return code >= 0x80 && code <= 0x9F ? UpperControls[code - 0x80U] : code;
@@ -108,33 +129,22 @@ char FromUnicode(char32_t codePoint) {
     return ByteOf(codePoint).value_or('?');
 }
 
-std::optional<char> TakeCharacter(std::string_view& utf8) {
-    return ByteOf(TakeCodePoint(utf8));
-}
-
-void AppendUtf8(std::string& utf8, char c) {
-    constexpr unsigned sixBits = 6;
-    constexpr unsigned lowSix = 0x3F;
-    const unsigned code = ToUnicode(c);
-    const auto append = [&](unsigned byte) { utf8 += static_cast<char>(byte); };
-    if (code < SmallestOfLength[2]) {
-        append(code);
-    } else if (code < SmallestOfLength[3]) {
-        append(0xC0U | (code >> sixBits));
-        append(0x80U | (code & lowSix));
-    } else {
-        append(0xE0U | (code >> (2 * sixBits)));
-        append(0x80U | ((code >> sixBits) & lowSix));
-        append(0x80U | (code & lowSix));
+std::string ToUtf8(std::string_view ansi) {
+    std::string utf8;
+    utf8.reserve(ansi.size() + ansi.size() / 16);
+    for (const char c : ansi) {
+        Utf8::Append(utf8, ToUnicode(c));
     }
+    return utf8;
 }
 
 std::string FromUtf8(std::string_view utf8) {
-    std::string result;
+    std::string ansi;
+    ansi.reserve(utf8.size());
     while (!utf8.empty()) {
-        result += TakeCharacter(utf8).value_or('?');
+        ansi += FromUnicode(Utf8::TakeCodePoint(utf8));
     }
-    return result;
+    return ansi;
 }
 
 } // namespace Ansi

@@ -1,21 +1,24 @@
 #pragma once
 
-// Text of one byte per character, in Windows-1252: the only kind of text the core knows. Every
-// text is kept as the bytes that were read; nothing here decodes a text to look at it, so positions
-// and lengths are bytes. Conversion to Unicode is for the windows and for file names.
+// The texts of the core: those of the open file, as the bytes that were read. Here is the one place that knows what a
+// character of them is: a byte of Windows-1252 or, where TextsAreUtf8, a sequence of UTF-8. Places in a text
+// are bytes. The separators and markers are ASCII, so that most code may look at bytes alone.
 
 #include "core/AnsiCase.h"
 
-#include <optional>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Ansi {
 
-// The text in capital or in small letters.
+// The text in capital or in small letters, character by character. In UTF-8, bytes that are none become U+FFFD.
 [[nodiscard]] std::string Upper(std::string_view text);
 [[nodiscard]] std::string Lower(std::string_view text);
+
+// The same for the letters of ASCII alone, which leaves every byte in its place.
+[[nodiscard]] std::string UpperAscii(std::string_view text);
 
 // True when both texts have the same upper-case form.
 [[nodiscard]] bool EqualIgnoringCase(std::string_view a, std::string_view b);
@@ -43,7 +46,18 @@ namespace Ansi {
 void SplitInto(std::vector<std::string_view>& pieces, std::string_view text, char separator,
                std::size_t most = std::string_view::npos);
 
-// The Unicode code point of a byte. The code page leaves five bytes open: 81, 8D, 8F, 90 and 9D hexadecimal.
+// Whether every byte of a text is a character: in Windows-1252, and in ASCII.
+[[nodiscard]] bool IsBytewise(std::string_view text);
+
+[[nodiscard]] std::size_t CharacterCount(std::string_view text);
+// The code of the character at a place: that of the code page, or the code point.
+[[nodiscard]] char32_t CodeAt(std::string_view text, std::size_t place);
+// The first characters of a text, all of it where it has no more.
+[[nodiscard]] std::string_view FirstCharacters(std::string_view text, std::size_t count);
+// At least so many bytes from the front of a text that has them, so that no character is cut.
+[[nodiscard]] std::string_view Beginning(std::string_view text, std::size_t bytes);
+
+// The Unicode code point of a byte of Windows-1252. It leaves five bytes open: 81, 8D, 8F, 90 and 9D hexadecimal.
 // They stand for the control characters of the same number, so that no byte is lost. Table: Unicode Consortium,
 // MAPPINGS/VENDORS/MICSFT/WindowsBestFit/bestfit1252.txt.
 [[nodiscard]] char16_t ToUnicode(char c);
@@ -51,15 +65,8 @@ void SplitInto(std::vector<std::string_view>& pieces, std::string_view text, cha
 // The byte of a code point; "?" for one that the code page lacks.
 [[nodiscard]] char FromUnicode(char32_t codePoint);
 
-// Takes the first character off a UTF-8 text that is not empty. Nothing is returned for one that the
-// code page lacks or for bytes that are no UTF-8, of which as many are taken as belong together.
-std::optional<char> TakeCharacter(std::string_view& utf8);
-
-// Appends a character as UTF-8.
-void AppendUtf8(std::string& utf8, char c);
-
-// A UTF-8 text (a file name of the machine, say) as code page text; bytes that are no UTF-8
-// become "?".
+// Windows-1252 as UTF-8 and back; what the code page lacks, and what is no UTF-8, becomes "?".
+[[nodiscard]] std::string ToUtf8(std::string_view ansi);
 [[nodiscard]] std::string FromUtf8(std::string_view utf8);
 
 } // namespace Ansi

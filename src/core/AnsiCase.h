@@ -1,6 +1,6 @@
 #pragma once
 
-// The two cases of the letters of Windows-1252.
+// The two cases of the letters of Windows-1252. Those of ASCII are the same in every text.
 
 #include <array>
 #include <cstddef>

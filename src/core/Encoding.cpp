@@ -1,9 +1,7 @@
 #include "core/Encoding.h"
 
 #include "core/Ansi.h"
-
-#include <algorithm>
-#include <utility>
+#include "core/Utf8.h"
 
 namespace CommonRoutines {
 
@@ -11,56 +9,36 @@ namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-bool IsAscii(char c) {
-    return static_cast<unsigned char>(c) < 0x80;
-}
-
-// Whether the text is UTF-8 and all of its characters exist in Windows-1252.
-bool IsConvertible(std::string_view utf8) {
-    while (!utf8.empty()) {
-        if (IsAscii(utf8.front())) {
-            utf8.remove_prefix(1);
-        } else if (!Ansi::TakeCharacter(utf8)) {
-            return false;
-        }
-    }
-    return true;
-}
-
 } // namespace
 
 Encoding EncodingOf(std::string_view bytes) {
-    if (bytes.starts_with(ByteOrderMark)) {
-        return IsConvertible(bytes.substr(ByteOrderMark.size())) ? Encoding::Utf8WithMark : Encoding::Windows1252;
+    if (Utf8::IsAscii(bytes) || !Utf8::IsValid(bytes)) {
+        return Encoding::Windows1252;
     }
-    const bool plain = std::all_of(bytes.begin(), bytes.end(), IsAscii);
-    return !plain && IsConvertible(bytes) ? Encoding::Utf8 : Encoding::Windows1252;
+    return bytes.starts_with(ByteOrderMark) ? Encoding::Utf8WithMark : Encoding::Utf8;
 }
 
 std::string Decoded(std::string bytes, Encoding encoding) {
-    if (encoding == Encoding::Windows1252) {
-        return bytes;
+    if (encoding == Encoding::Utf8WithMark) {
+        bytes.erase(0, ByteOrderMark.size());
     }
-    std::string_view rest = bytes;
-    rest.remove_prefix(encoding == Encoding::Utf8WithMark ? ByteOrderMark.size() : 0);
-    std::string text;
-    text.reserve(rest.size());
-    while (!rest.empty()) {
-        text += Ansi::TakeCharacter(rest).value_or('?');
+    return bytes;
+}
+
+std::string Encoded(std::string text, Encoding encoding) {
+    if (encoding == Encoding::Utf8WithMark) {
+        text.insert(0, ByteOrderMark);
     }
     return text;
 }
 
-std::string Encoded(std::string text, Encoding encoding) {
-    if (encoding == Encoding::Windows1252) {
+std::string Recoded(std::string text, Encoding from, Encoding to) {
+    const bool fromUtf8 = from != Encoding::Windows1252;
+    const bool toUtf8 = to != Encoding::Windows1252;
+    if (fromUtf8 == toUtf8 || Utf8::IsAscii(text)) {
         return text;
     }
-    std::string bytes(encoding == Encoding::Utf8WithMark ? ByteOrderMark : std::string_view());
-    bytes.reserve(text.size() + text.size() / 16);
-    for (const char c : text) {
-        Ansi::AppendUtf8(bytes, c);
-    }
-    return bytes;
+    return toUtf8 ? Ansi::ToUtf8(text) : Ansi::FromUtf8(text);
 }
 
 } // namespace CommonRoutines

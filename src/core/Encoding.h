@@ -1,7 +1,7 @@
 #pragma once
 
-// How a data file writes its characters. The table always holds Windows-1252, one byte a character; a
-// file in UTF-8 whose characters all exist there is converted on its way in and back on its way out.
+// How a file writes its characters. A text in memory is what its file holds, byte for byte, so that nothing is lost
+// on the way there and back; only a byte order mark in front is no part of it.
 
 #include <string>
 #include <string_view>
@@ -9,17 +9,19 @@
 namespace CommonRoutines {
 
 enum class Encoding {
-    Windows1252,
+    Windows1252, // one byte a character; ASCII counts as this
     Utf8,
     Utf8WithMark, // with a byte order mark in front
 };
 
-// What a file's bytes are. UTF-8 with a character that Windows-1252 lacks is not taken for UTF-8: its
-// bytes stay as they are, so that they can be written back.
+// What a file's bytes are taken for: UTF-8 where all of it is, and something in it is not ASCII.
 [[nodiscard]] Encoding EncodingOf(std::string_view bytes);
 
-// The bytes of a file as Windows-1252, and back. Nothing is lost on the way there and back again.
+// The bytes of a file as a text, and back.
 [[nodiscard]] std::string Decoded(std::string bytes, Encoding encoding);
 [[nodiscard]] std::string Encoded(std::string text, Encoding encoding);
+
+// The characters of a text in another encoding. What Windows-1252 lacks becomes "?".
+[[nodiscard]] std::string Recoded(std::string text, Encoding from, Encoding to);
 
 } // namespace CommonRoutines

@@ -7,6 +7,7 @@ std::int32_t lTableNumber = 0;
 std::int32_t lLineCount = 0;
 std::string sDataFileName;
 Encoding eFileEncoding = Encoding::Windows1252;
+Encoding eEncodingOnDisk = Encoding::Windows1252;
 bool bChanged = false;
 std::int32_t lCurrentDistrict = 0;
 
@@ -47,7 +48,7 @@ void ResetState() {
     ++lTableNumber;
     lLineCount = 0;
     sDataFileName.clear();
-    eFileEncoding = Encoding::Windows1252;
+    eFileEncoding = eEncodingOnDisk = Encoding::Windows1252;
     bChanged = false;
     lCurrentDistrict = 0;
     lDistrictTotal = lInvalidTotal = lCapsOkTotal = 0;

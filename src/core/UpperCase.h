@@ -32,7 +32,7 @@ public:
     friend bool operator==(const UpperPrefix&, const UpperPrefix&) = default;
     friend std::strong_ordering operator<=>(const UpperPrefix&, const UpperPrefix&) = default;
 
-    // The characters at the first place where two different prefixes differ, NUL behind the end of a text.
+    // The bytes of the forms at the first place where two different prefixes differ, NUL behind the end of a text.
     // Of texts that differ only in the NULs at their ends, it is two small numbers.
     struct Difference {
         char a;
@@ -41,10 +41,14 @@ public:
     [[nodiscard]] static Difference FirstDifference(const UpperPrefix& a, const UpperPrefix& b);
 
 private:
+    // From the bytes of an upper-case form, which `change` makes of those of the text.
+    template <typename Change>
+    void Fill(std::string_view text, Change change);
+
     static constexpr std::size_t Length = 23;
     static constexpr std::uint64_t LengthMask = 0xFF;
 
-    // Eight characters each, the first one in the highest byte. The last byte is the length of the text, 24 for
+    // Eight bytes each, the first one highest. The last byte is the length of the form, 24 for
     // any longer one, so that a text comes before those that go on with NUL.
     std::uint64_t m_first = 0;
     std::uint64_t m_second = 0;

@@ -1,6 +1,9 @@
 #include "core/Wording.h"
 
 #include "core/Ansi.h"
+#include "core/Encoding.h"
+#include "core/State.h"
+#include "core/Utf8.h"
 
 namespace CommonRoutines {
 
@@ -28,21 +31,15 @@ Wording operator+(Wording a, const Wording& b) {
 std::string Wording::Utf8() const {
     std::string utf8;
     for (const Part& part : m_parts) {
-        if (part.isPath) {
-            utf8 += part.text;
-            continue;
-        }
-        for (const char c : part.text) {
-            Ansi::AppendUtf8(utf8, c);
-        }
+        utf8 += part.isPath ? part.text : Recoded(part.text, eFileEncoding, Encoding::Utf8);
     }
     return utf8;
 }
 
-std::string Wording::InCodePage() const {
+std::string Wording::AsText() const {
     std::string text;
     for (const Part& part : m_parts) {
-        text += part.isPath ? Ansi::FromUtf8(part.text) : part.text;
+        text += !part.isPath ? part.text : TextsAreUtf8() ? Utf8::Cleaned(part.text) : Ansi::FromUtf8(part.text);
     }
     return text;
 }

@@ -9,8 +9,8 @@
 
 namespace CommonRoutines {
 
-// What is said to the person: Windows-1252 text, among which paths of files may stand. A path is kept as the
-// machine has it, since most characters of its encoding are none of Windows-1252. Plain text is a wording as it is.
+// What is said to the person: text of the core, among which paths of files may stand. A path is kept as the
+// machine has it, since its characters need not exist in the encoding of the text. Plain text is a wording as it is.
 class Wording {
 public:
     struct Part {
@@ -30,8 +30,8 @@ public:
 
     // As UTF-8; the bytes of a path stay as they are.
     [[nodiscard]] std::string Utf8() const;
-    // As Windows-1252, for files: what that lacks of a path is "?".
-    [[nodiscard]] std::string InCodePage() const;
+    // As text of the core, for files: what that lacks of a path is "?".
+    [[nodiscard]] std::string AsText() const;
 
 private:
     Wording() = default;

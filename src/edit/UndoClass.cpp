@@ -72,4 +72,11 @@ void UndoClass::Clear() {
     m_district = 0;
 }
 
+void UndoClass::ChangeTexts(const std::function<std::string(std::string)>& change) {
+    for (UndoItem& item : m_items) {
+        item.sNewName = change(std::move(item.sNewName));
+        item.sOldName = change(std::move(item.sOldName));
+    }
+}
+
 } // namespace CommonRoutines

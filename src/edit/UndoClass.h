@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,9 @@ public:
     void NewItem(UndoItem item, std::int32_t lDistrict, Desktop& desktop);
 
     void Clear();
+
+    // Has every text of the items made anew.
+    void ChangeTexts(const std::function<std::string(std::string)>& change);
 
 private:
     std::int32_t m_count = 0;

@@ -1,9 +1,11 @@
 #include "edit/UndoJournal.h"
 
 #include "core/State.h"
+#include "core/Utf8.h"
 #include "edit/Variations.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace CommonRoutines {
 
@@ -69,6 +71,15 @@ UndoClass& CurrentUndoStep() {
 void ClearUndoRing() {
     for (UndoClass& step : UndoRing) {
         step.Clear();
+    }
+}
+
+void RecodeUndoRing(Encoding from, Encoding to) {
+    for (UndoClass& step : UndoRing) {
+        step.ChangeTexts([=](std::string text) {
+            const bool isKept = to != Encoding::Windows1252 && Utf8::IsValid(text);
+            return isKept ? text : Recoded(std::move(text), from, to);
+        });
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Encoding.h"
 #include "edit/UndoClass.h"
 #include "edit/VariationList.h"
 
@@ -21,6 +22,10 @@ extern std::int16_t iUndoStep;
 
 // Clears all twenty steps; the current one stays the current one.
 void ClearUndoRing();
+
+// To be called when the same file is read anew in another encoding. A text that is UTF-8 then is what the table has
+// of it; the characters of any other are kept.
+void RecodeUndoRing(Encoding from, Encoding to);
 
 // To be called before an item is recorded. Items of the district of the current step join it; for another
 // district the next step of the ring is cleared and becomes the current one.

@@ -31,6 +31,7 @@ std::int32_t FirstCommentLine(std::int32_t lDistrict) {
 }
 
 std::size_t FindMarker(std::string_view line) {
+    // The marker is ASCII, and no letter beyond has its capital there.
     const auto sameLetter = [](char a, char b) { return Ansi::Upper(a) == b; };
     const auto found = std::search(line.begin(), line.end(), CommentMarker.begin(), CommentMarker.end(), sameLetter);
     return found == line.end() ? None : static_cast<std::size_t>(found - line.begin());
@@ -40,11 +41,11 @@ std::size_t FindMarker(std::string_view line) {
 // as could pass, so that a comment of any length costs what is shown of it.
 template <typename Test>
 bool WidthPasses(std::string_view text, const MeasureText& measure, Test test) {
-    if (text.size() > LongestRow) {
+    if (Ansi::FirstCharacters(text, LongestRow).size() < text.size()) {
         return false;
     }
     for (std::size_t length = 256; length < text.size(); length *= 2) {
-        if (!test(measure(text.substr(0, length)))) {
+        if (!test(measure(Ansi::Beginning(text, length)))) {
             return false;
         }
     }
@@ -54,7 +55,7 @@ bool WidthPasses(std::string_view text, const MeasureText& measure, Test test) {
 // Position of the last blank that leaves the text before it narrower than the room.
 std::size_t LastFittingBlank(std::string_view text, double room, const MeasureText& measure) {
     std::size_t fitting = None;
-    text = text.substr(0, LongestRow);
+    text = Ansi::FirstCharacters(text, LongestRow);
     for (auto blank = text.find(' '); blank != None && measure(text.substr(0, blank)) < room;
          blank = text.find(' ', blank + 1)) {
         fitting = blank;
@@ -108,7 +109,7 @@ void WrapComment(std::vector<CommentRow>& rows, std::string_view sText, double a
     std::string_view text = Ansi::Trim(sText);
     while (!text.empty()) {
         const std::size_t blank = LastFittingBlank(text, available, measure);
-        const bool breaks = blank != None && blank + 1 >= EarliestBreak;
+        const bool breaks = blank != None && Ansi::CharacterCount(text.substr(0, blank)) + 1 >= EarliestBreak;
         const std::size_t length = breaks ? blank + 1 : text.size();
         rows.back().comment = Ansi::Trim(text.substr(0, length));
         if (length == text.size()) {

@@ -290,7 +290,7 @@ bool IsWanted(Desktop& desktop, std::string_view content) {
 
 enum class Outcome { Read, Unreadable, NotWanted };
 
-Outcome ReadTable(Desktop& desktop) {
+Outcome ReadTable(Desktop& desktop, const std::function<void()>& takeEncoding) {
     ForgetTable(); // before the file is read, so that two files are never in memory at once
     TheOpenFile.Close(desktop);
     std::string stamp = desktop.StampOf(sDataFileName); // before reading: what is changed meanwhile is not what is read
@@ -299,7 +299,8 @@ Outcome ReadTable(Desktop& desktop) {
         return Outcome::Unreadable;
     }
     TheOpenFile.BeginReading(desktop, sDataFileName, *content, std::move(stamp));
-    eFileEncoding = EncodingOf(*content);
+    eFileEncoding = eEncodingOnDisk = EncodingOf(*content);
+    takeEncoding();
     content = Decoded(std::move(*content), eFileEncoding);
     if (!IsWanted(desktop, *content)) {
         return Outcome::NotWanted;
@@ -313,13 +314,13 @@ Outcome ReadTable(Desktop& desktop) {
 
 } // namespace
 
-void ReadDistrictFile(Desktop& desktop) {
+void ReadDistrictFile(Desktop& desktop, const std::function<void()>& takeEncoding) {
     desktop.ShowBusy(true);
     desktop.EnterProgramFolder();
     std::string_view problem;
     auto outcome = Outcome::Unreadable;
     try {
-        outcome = ReadTable(desktop);
+        outcome = ReadTable(desktop, takeEncoding);
         problem = "The file cannot be read:\r\n";
     } catch (const std::bad_alloc&) {
         // A line end takes a whole record: a file may need a hundred times its size.

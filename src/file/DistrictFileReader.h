@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 namespace CommonRoutines {
 
 class Desktop;
@@ -13,6 +15,10 @@ class Desktop;
 // report. Sets bChanged when something was repaired. Adds to CommentTypes. Expects iEditMode to be NothingOpen.
 // A file that cannot be read, or that there is not enough memory for, leaves an empty table, an empty
 // sDataFileName and a message; so, without the message, does one that is hardly a data file and is not wanted.
-void ReadDistrictFile(Desktop& desktop);
+//
+// What the file is taken for stands in eFileEncoding and eEncodingOnDisk. `takeEncoding` is called when that is
+// known and nothing of the file is in the table yet. Where the file cannot be read, both stay as they are.
+void ReadDistrictFile(
+    Desktop& desktop, const std::function<void()>& takeEncoding = [] {});
 
 } // namespace CommonRoutines

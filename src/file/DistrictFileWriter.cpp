@@ -14,6 +14,7 @@ namespace CommonRoutines {
 namespace {
 
 constexpr std::string_view LineEnd = "\r\n";
+constexpr std::size_t MostBeforeText = 3; // a byte order mark
 
 // Hands over the pieces of the file, one after the other.
 template <typename Take>
@@ -60,6 +61,47 @@ bool MayReplaceChanged(Desktop& desktop, const std::string& path) {
                                          BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
 }
 
+std::string_view WhatChanges(Encoding next) {
+    if (next == Encoding::Windows1252) {
+        return "Nothing in the file shows any more that it is UTF-8.  The next time it is opened it will be taken for "
+               "Windows-1252, which has fewer characters.";
+    }
+    if (TextsAreUtf8()) {
+        return "The file begins with what will be taken for a byte order mark, and its first name goes without it.  "
+               "It is opened anew as it will be read then.";
+    }
+    return "What is left in the file will be taken for UTF-8, no longer for Windows-1252, and some of its characters "
+           "will be others.  It is opened anew as it will be read then.";
+}
+
+// The bytes decide how they are read, so that what is deleted may change how the rest is read.
+bool MayBeReadAs(Encoding next, Desktop& desktop) {
+    if (next == eFileEncoding || next == eEncodingOnDisk || lLineCount == 0) {
+        return true;
+    }
+    const std::string question = std::string(WhatChanges(next)) + "\r\nOk saves it like that.";
+    return desktop.MsgBox(question, BoxIcon::Exclamation, BoxButtons::OkCancel) == BoxAnswer::Ok;
+}
+
+void WriteTable(Desktop& desktop, const std::string& path, const std::string& content) {
+    Unsaved.NoteSaving(desktop, path, content);
+    const bool saved = WriteFile(desktop, path, content);
+    const bool isOpenElsewhere = saved && TheOpenFile.MoveTo(desktop, path, content);
+    if (!saved && OpenFile::IsAt(desktop, path) && desktop.ReadFile(path) == content) {
+        // It is there, but perhaps not to stay. What is changed from now on belongs to it; what was
+        // changed before stays left over in case the old file comes back.
+        Unsaved.Begin(desktop, path, content, Numbering::AsSaved);
+    }
+    desktop.ShowBusy(false);
+    if (saved) {
+        eEncodingOnDisk = EncodingOf(content);
+        desktop.MsgBox("File Saved to " + Wording::OfPath(path), BoxIcon::Information);
+    }
+    if (isOpenElsewhere) {
+        TellOfAnotherEditor(desktop);
+    }
+}
+
 } // namespace
 
 std::string DistrictFileContent() {
@@ -67,7 +109,7 @@ std::string DistrictFileContent() {
     std::size_t size = 0;
     ForEachPiece([&](std::string_view piece) { size += piece.size(); });
     std::string content;
-    content.reserve(size);
+    content.reserve(size + MostBeforeText);
     ForEachPiece([&](std::string_view piece) { content += piece; });
     return content;
 }
@@ -79,20 +121,10 @@ void SaveDistrictFile(Desktop& desktop) {
     }
     desktop.ShowBusy(true);
     const std::string content = Encoded(DistrictFileContent(), eFileEncoding);
-    Unsaved.NoteSaving(desktop, *path, content);
-    const bool saved = WriteFile(desktop, *path, content);
-    const bool isOpenElsewhere = saved && TheOpenFile.MoveTo(desktop, *path, content);
-    if (!saved && OpenFile::IsAt(desktop, *path) && desktop.ReadFile(*path) == content) {
-        // It is there, but perhaps not to stay. What is changed from now on belongs to it; what was
-        // changed before stays left over in case the old file comes back.
-        Unsaved.Begin(desktop, *path, content, Numbering::AsSaved);
-    }
-    desktop.ShowBusy(false);
-    if (saved) {
-        desktop.MsgBox("File Saved to " + Wording::OfPath(*path), BoxIcon::Information);
-    }
-    if (isOpenElsewhere) {
-        TellOfAnotherEditor(desktop);
+    if (MayBeReadAs(EncodingOf(content), desktop)) {
+        WriteTable(desktop, *path, content);
+    } else {
+        desktop.ShowBusy(false);
     }
 }
 

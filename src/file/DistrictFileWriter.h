@@ -11,8 +11,9 @@ class Desktop;
 [[nodiscard]] std::string DistrictFileContent();
 
 // Asks for a file name, the open file's being proposed unless reading it was quit, writes the table there and says
-// so. That file is the open one from then on. Before an empty table empties a file there is a question. A cancelled
-// dialogue, a No or a failed write ends silently, with the file as it was.
+// so. That file is the open one from then on. There is a question before an empty table empties a file, and where
+// the next reading takes it for another encoding than the last one. What is cancelled, a No and a failed write end
+// silently, with the file as it was. Writes eEncodingOnDisk.
 void SaveDistrictFile(Desktop& desktop);
 
 } // namespace CommonRoutines

@@ -19,7 +19,7 @@ std::string DistrictCell(const DistrictRecord& record, std::size_t column, std::
         return std::to_string(record.**number);
     }
     const auto text = std::get<Ansi::String DistrictRecord::*>(field);
-    return std::string((record.*text).View().substr(0, longest));
+    return std::string(Ansi::FirstCharacters((record.*text).View(), longest));
 }
 
 bool DistrictHasProblem(const DistrictRecord& record) {

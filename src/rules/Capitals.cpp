@@ -2,13 +2,17 @@
 
 #include "core/Ansi.h"
 #include "core/Desktop.h"
+#include "core/Encoding.h"
+#include "core/LetterPairs.h"
 #include "core/Lines.h"
 #include "core/State.h"
+#include "core/Utf8.h"
 #include "rules/Markers.h"
 
 #include <algorithm>
 #include <array>
 #include <new>
+#include <utility>
 
 namespace CommonRoutines {
 
@@ -18,7 +22,12 @@ constexpr std::int32_t WordListStep = 10;
 
 LowerCaseList List;
 
-void AddLowerCaseWord(std::string_view word) {
+// The list outlives the open file, and so its words are in UTF-8 whatever the texts of the file are.
+std::string LowerUtf8(std::string_view word, Encoding encoding) {
+    return LetterPairs::Lower(Recoded(std::string(word), encoding, Encoding::Utf8));
+}
+
+void AddLowerCaseWord(std::string_view word, Encoding encoding) {
     if (word.empty()) {
         return;
     }
@@ -27,7 +36,7 @@ void AddLowerCaseWord(std::string_view word) {
         List.words.resize(static_cast<std::size_t>(List.count) + WordListStep + 1);
     }
     std::string& added = List.words[static_cast<std::size_t>(List.count)];
-    added = Ansi::Lower(word);
+    added = LowerUtf8(word, encoding);
     List.lookup.insert(added);
 }
 
@@ -58,27 +67,56 @@ unsigned KindOf(char c) {
     return KindTable[static_cast<unsigned char>(c)];
 }
 
+// The kind of the first character, which is taken off.
+unsigned TakeKind(std::string_view& utf8) {
+    if (Utf8::IsAscii(utf8.front())) {
+        const char c = utf8.front();
+        utf8.remove_prefix(1);
+        return KindOf(c);
+    }
+    const char32_t codePoint = Utf8::TakeCodePoint(utf8);
+    return LetterPairs::Lower(codePoint) != codePoint   ? KindCapital
+           : LetterPairs::Upper(codePoint) != codePoint ? KindSmall
+                                                        : KindOther;
+}
+
+// Hands over the kinds of the characters of a text, one after the other.
+template <typename Take>
+void ForEachKind(std::string_view text, Take take) {
+    if (TextsAreUtf8()) {
+        while (!text.empty()) {
+            take(TakeKind(text));
+        }
+        return;
+    }
+    for (const char c : text) {
+        take(KindOf(c));
+    }
+}
+
 // Whether every word has the usual form, in one pass: a capital (or anything else that is no small
 // letter) at its beginning and none behind. False also where a closer look is needed.
 bool LooksUsual(std::string_view name) {
     unsigned before = KindSeparator;
     unsigned offending = KindOther;
-    for (const char c : name) {
-        const unsigned kind = KindOf(c);
+    ForEachKind(name, [&](unsigned kind) {
         offending |= kind & (before == KindSeparator ? KindSmall | KindBracket : +KindCapital);
         before = kind;
-    }
+    });
     return offending == KindOther;
 }
 
 bool Holds(std::string_view text, CharacterKind kind) {
-    return std::any_of(text.begin(), text.end(), [=](char c) { return (KindOf(c) & kind) != 0; });
+    unsigned kinds = KindOther;
+    ForEachKind(text, [&](unsigned found) { kinds |= found; });
+    return (kinds & kind) != 0;
 }
 
-// How many characters at the front of a word are expected in capitals: the first one, or a whole
-// group in square brackets.
+// How many bytes at the front of a word are expected in capitals: its first character, or a whole group in
+// square brackets.
 std::size_t ExpectedCapitals(std::string_view word) {
-    return word.starts_with('[') ? std::min(word.find(']'), word.size() - 1) + 1 : 1;
+    return word.starts_with('[') ? std::min(word.find(']'), word.size() - 1) + 1
+                                 : Ansi::FirstCharacters(word, 1).size();
 }
 
 bool IsExpectedForm(std::string_view word) {
@@ -87,16 +125,18 @@ bool IsExpectedForm(std::string_view word) {
 }
 
 bool IsLowerCaseWord(std::string_view word) {
-    return !List.lookup.empty() && List.lookup.contains(Ansi::Lower(word));
+    return !List.lookup.empty() && List.lookup.contains(LowerUtf8(word, eFileEncoding));
 }
 
-void AddLowerCaseWords(std::string_view content) {
+void AddLowerCaseWords(std::string bytes) {
     List.words.resize(WordListStep + 1);
+    const Encoding encoding = EncodingOf(bytes);
+    const std::string content = Decoded(std::move(bytes), encoding);
     Lines lines(content);
     while (const auto line = lines.Next()) {
         for (std::string_view rest = *line; !rest.empty();) {
             const auto comma = std::min(rest.find(','), rest.size());
-            AddLowerCaseWord(Ansi::Trim(rest.substr(0, comma)));
+            AddLowerCaseWord(Ansi::Trim(rest.substr(0, comma)), encoding);
             rest.remove_prefix(std::min(comma + 1, rest.size()));
         }
     }
@@ -137,8 +177,8 @@ void LoadLowerCaseWords(Desktop& desktop) {
     desktop.EnterProgramFolder();
     ForgetLowerCaseWords();
     try {
-        if (const auto content = desktop.ReadFile(desktop.ProgramFolder() + "/qx_lower.txt")) {
-            AddLowerCaseWords(*content);
+        if (auto content = desktop.ReadFile(desktop.ProgramFolder() + "/qx_lower.txt")) {
+            AddLowerCaseWords(std::move(*content));
             return;
         }
     } catch (const std::bad_alloc&) {

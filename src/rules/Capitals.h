@@ -13,15 +13,16 @@ namespace CommonRoutines {
 
 class Desktop;
 
-// The words that need no capital, in small letters and in the order of their file.
+// The words that need no capital, in small letters, in UTF-8 and in the order of their file.
 struct LowerCaseList {
     std::vector<std::string> words; // 1 to count; element 0 is never filled
     std::int32_t count = 0;
     std::unordered_set<std::string, SeededHash, std::equal_to<>> lookup;
 };
 
-// Reads these words from "qx_lower.txt" in the program's folder, which becomes the current folder. Without
-// the file, or enough memory for it, the list is empty and one message says so.
+// Reads these words from "qx_lower.txt" in the program's folder, which becomes the current folder. Its encoding
+// is found out as that of a data file is. Without the file, or enough memory for it, the list is empty and one message
+// says so.
 void LoadLowerCaseWords(Desktop& desktop);
 
 void ForgetLowerCaseWords();

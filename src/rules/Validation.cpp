@@ -2,6 +2,7 @@
 
 #include "core/Ansi.h"
 #include "core/State.h"
+#include "core/Utf8.h"
 #include "rules/CharacterClasses.h"
 #include "rules/Markers.h"
 
@@ -36,9 +37,10 @@ bool IsLonePercentAtEnd(std::string_view text, const PercentSigns& percent) {
 // With two signs the first is the date mark and the last, not before the fourth character, opens the
 // volume. A third one in between is not looked at.
 bool IsBadDependency(std::string_view text, const PercentSigns& percent) {
-    constexpr std::size_t earliestVolume = 3;
-    return percent.Several() &&
-           (!OpensWithDateMark(text) || percent.last + 1 == text.size() || percent.last < earliestVolume);
+    constexpr std::size_t fewestBeforeVolume = 3;
+    const std::string_view before = text.substr(0, percent.last);
+    return percent.Several() && (!OpensWithDateMark(text) || percent.last + 1 == text.size() ||
+                                 Ansi::CharacterCount(before) < fewestBeforeVolume);
 }
 
 bool IsBlankAt(std::string_view text, std::size_t position) {
@@ -136,7 +138,8 @@ void CheckCharacters(std::string_view variation, Finding& finding) {
     const auto codeAt = [&](std::size_t i) { return static_cast<unsigned char>(variation[i]); };
     std::size_t at = 0;
     for (; at < variation.size() && codeAt(at) >= firstPrintable; ++at) {
-        finding.unusual = codeAt(at) > lastOrdinary ? at : finding.unusual;
+        const bool isUnusual = codeAt(at) > lastOrdinary && !(TextsAreUtf8() && Utf8::IsContinuation(variation[at]));
+        finding.unusual = isUnusual ? at : finding.unusual;
     }
     if (at < variation.size()) {
         finding.state = Verdict::State::Invalid;
@@ -166,8 +169,9 @@ Finding Check(std::string_view variation) {
 }
 
 std::string CharacterAt(std::string_view kind, std::string_view variation, std::size_t index) {
-    return std::string(kind) + " char at position " + std::to_string(index + 1) +
-           " (Char=" + std::to_string(static_cast<unsigned char>(variation[index])) + ")";
+    return std::string(kind) + " char at position " +
+           std::to_string(Ansi::CharacterCount(variation.substr(0, index)) + 1) +
+           " (Char=" + std::to_string(std::uint32_t{Ansi::CodeAt(variation, index)}) + ")";
 }
 
 std::string ReasonText(const Finding& finding, std::string_view variation) {

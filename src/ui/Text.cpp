@@ -2,6 +2,7 @@
 
 #include "core/Ansi.h"
 #include "core/Lines.h"
+#include "core/State.h"
 #include "core/Wording.h"
 
 #include <QFile>
@@ -22,7 +23,8 @@ constexpr QChar TabSymbol(0x21E5);
 constexpr QChar ControlSymbol(0xFFFD);
 
 QString Shortened(std::string_view text) {
-    return text.size() <= LongestShown ? ToQt(text) : ToQt(text.substr(0, LongestShown)) + Ellipsis;
+    const std::string_view shown = Ansi::FirstCharacters(text, LongestShown);
+    return shown.size() == text.size() ? ToQt(text) : ToQt(shown) + Ellipsis;
 }
 
 QString WithVisibleControls(QString text) {
@@ -48,12 +50,18 @@ QString Joined(const CommonRoutines::Wording& wording, QString (*shownText)(std:
 } // namespace
 
 QString ToQt(std::string_view text) {
+    if (CommonRoutines::TextsAreUtf8()) {
+        return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    }
     QString result(static_cast<qsizetype>(text.size()), Qt::Uninitialized);
     std::transform(text.begin(), text.end(), result.begin(), [](char c) { return QChar(Ansi::ToUnicode(c)); });
     return result;
 }
 
 std::string FromQt(const QString& text) {
+    if (CommonRoutines::TextsAreUtf8()) {
+        return text.toUtf8().toStdString();
+    }
     std::string result;
     for (const uint codePoint : text.toUcs4()) {
         result += Ansi::FromUnicode(codePoint);

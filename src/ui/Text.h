@@ -11,13 +11,14 @@ namespace CommonRoutines {
 class Wording;
 } // namespace CommonRoutines
 
-// Where the core's texts, one Windows-1252 byte a character, become the toolkit's and come back.
+// Where the core's texts, Windows-1252 or UTF-8 as the open file is, become the toolkit's and come back.
 namespace Text {
 
 // Of a text that is longer, only this many characters are shown.
 inline constexpr std::size_t LongestShown = 2000;
 
-// Exactly the characters of the text. Back again, a character that Windows-1252 lacks becomes "?".
+// Exactly the characters of the text. Back again, a character that the open file cannot have becomes "?": one that
+// Windows-1252 lacks, or half of one.
 [[nodiscard]] QString ToQt(std::string_view text);
 [[nodiscard]] std::string FromQt(const QString& text);
 

@@ -15,7 +15,7 @@ protected:
     // The rows as texts: the tag, "w" for a warning and the proposal.
     static std::vector<std::string> RowsOf(std::string_view content) {
         std::vector<std::string> rows;
-        for (const Proposal& proposal : ReadProposals(content).proposals) {
+        for (const Proposal& proposal : ReadProposals(std::string(content)).proposals) {
             EXPECT_FALSE(proposal.ticked) << proposal.text;
             rows.push_back(std::to_string(proposal.tag) + (proposal.warns ? "w " : " ") + proposal.text);
         }

@@ -13,7 +13,7 @@ const std::string Path = "/data/\xC4\x8D"
 
 TEST(WordingTest, PlainTextIsOneAsItIs) {
     const Wording wording = std::string("Caf\xE9") + " of Alpha";
-    EXPECT_EQ(wording.InCodePage(), "Caf\xE9 of Alpha");
+    EXPECT_EQ(wording.AsText(), "Caf\xE9 of Alpha");
     EXPECT_EQ(wording.Utf8(), "Caf\xC3\xA9 of Alpha");
     EXPECT_EQ(wording.Parts().size(), 1U);
 }
@@ -24,13 +24,13 @@ TEST(WordingTest, APathKeepsItsCharacters) {
 }
 
 TEST(WordingTest, InTheCodePageAPathIsAsNearAsCanBe) {
-    EXPECT_EQ(("Caf\xE9 in " + Wording::OfPath(Path)).InCodePage(), "Caf\xE9 in /data/?aj\x80.txt");
+    EXPECT_EQ(("Caf\xE9 in " + Wording::OfPath(Path)).AsText(), "Caf\xE9 in /data/?aj\x80.txt");
 }
 
 TEST(WordingTest, OfAPathThatIsNoUtf8EveryByteStays) {
     const Wording wording = Wording::OfPath("/data/caf\xE9\xC3") + "\x80";
     EXPECT_EQ(wording.Utf8(), "/data/caf\xE9\xC3\xE2\x82\xAC");
-    EXPECT_EQ(wording.InCodePage(), "/data/caf??\x80");
+    EXPECT_EQ(wording.AsText(), "/data/caf??\x80");
 }
 
 TEST(WordingTest, ThePartsStandInTheirOrder) {
@@ -45,5 +45,5 @@ TEST(WordingTest, ThePartsStandInTheirOrder) {
 
 TEST(WordingTest, NothingSaysNothing) {
     EXPECT_EQ(Wording("").Utf8(), "");
-    EXPECT_EQ(Wording::OfPath("").InCodePage(), "");
+    EXPECT_EQ(Wording::OfPath("").AsText(), "");
 }

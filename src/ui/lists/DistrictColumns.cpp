@@ -1,5 +1,8 @@
 #include "ui/lists/DistrictColumns.h"
 
+#include "core/Ansi.h"
+#include "core/State.h"
+#include "core/Utf8.h"
 #include "ui/Text.h"
 
 #include <algorithm>
@@ -12,7 +15,9 @@ using namespace CommonRoutines;
 
 namespace {
 
-constexpr std::size_t CharacterCount = 256;
+// The bytes of Windows-1252, and of Unicode the Latin letters that need no shaping. A text with any other character
+// is measured as a whole.
+constexpr std::size_t CharacterCount = 0x250;
 constexpr std::size_t NumberCount = 65536;
 constexpr std::string_view HeadingPadding = "WW";
 
@@ -21,8 +26,36 @@ constexpr std::string_view HeadingPadding = "WW";
 constexpr double PartsOfAPixel = 64;
 constexpr std::uint32_t NotMeasured = 1U << 31U;
 
-std::size_t PlaceOf(char first, char second) {
-    return static_cast<unsigned char>(first) * CharacterCount + static_cast<unsigned char>(second);
+std::size_t PlaceOf(char32_t first, char32_t second) {
+    return first * CharacterCount + second;
+}
+
+// Hands over the codes of the characters of a text, each with the one before it.
+template <typename Take>
+void ForEachPair(std::string_view text, Take take) {
+    char32_t before = U' ';
+    if (Ansi::IsBytewise(text)) {
+        for (const char c : text) {
+            take(before, static_cast<unsigned char>(c));
+            before = static_cast<unsigned char>(c);
+        }
+        return;
+    }
+    while (!text.empty()) {
+        const char32_t code = Utf8::TakeCodePoint(text);
+        take(before, code);
+        before = code;
+    }
+}
+
+std::string TextOf(char32_t code) {
+    std::string text;
+    if (TextsAreUtf8()) {
+        Utf8::Append(text, code);
+    } else {
+        text = static_cast<char>(code);
+    }
+    return text;
 }
 
 // Shaping may round differently within a text than in its pairs.
@@ -59,7 +92,7 @@ void DistrictColumns::Widen(std::size_t column, std::int16_t number) {
 
 void DistrictColumns::Widen(std::size_t column, std::string_view text) {
     const std::string_view padding = DistrictColumnTable[column].padding;
-    text = text.substr(0, Text::LongestShown + 1); // enough to be cut off like the whole
+    text = Ansi::FirstCharacters(text, Text::LongestShown + 1); // enough to be cut off like the whole
     // Measuring a text is a hundred times as dear as adding up its letters, and hardly ever needed.
     if (UpperBound(text) + UpperBound(padding) + Slack > m_widths[column] &&
         m_measuredTexts[column].insert(std::string(text)).second) {
@@ -78,25 +111,25 @@ double DistrictColumns::UpperBound(std::string_view text) {
 
 std::uint64_t DistrictColumns::SumOfAdvances(std::string_view text) const {
     std::uint64_t sum = 0;
-    char before = ' ';
-    for (const char c : text) {
-        sum += m_pairAdvances[PlaceOf(before, c)];
-        before = c;
-    }
+    ForEachPair(text, [&](char32_t before, char32_t code) {
+        const bool isKnown = before < CharacterCount && code < CharacterCount;
+        sum += isKnown ? m_pairAdvances[PlaceOf(before, code)] : NotMeasured;
+    });
     return sum;
 }
 
 void DistrictColumns::MeasurePairs(std::string_view text) {
-    char before = ' ';
-    for (const char c : text) {
-        std::uint32_t& advance = m_pairAdvances[PlaceOf(before, c)];
+    ForEachPair(text, [&](char32_t before, char32_t code) {
+        if (before >= CharacterCount || code >= CharacterCount) {
+            return;
+        }
+        std::uint32_t& advance = m_pairAdvances[PlaceOf(before, code)];
         if (advance == NotMeasured) {
-            const double pair = m_metrics.horizontalAdvance(Text::ForList(std::string{before, c}));
-            const double first = m_metrics.horizontalAdvance(Text::ForList(std::string{before}));
+            const double pair = m_metrics.horizontalAdvance(Text::ForList(TextOf(before) + TextOf(code)));
+            const double first = m_metrics.horizontalAdvance(Text::ForList(TextOf(before)));
             advance = static_cast<std::uint32_t>(std::ceil(std::max(0.0, pair - first) * PartsOfAPixel));
         }
-        before = c;
-    }
+    });
 }
 
 } // namespace Ui

@@ -1,5 +1,6 @@
 #include "ui/lists/DistrictModel.h"
 
+#include "core/Ansi.h"
 #include "core/State.h"
 #include "core/UpperCase.h"
 #include "file/DistrictList.h"
@@ -83,8 +84,8 @@ QModelIndexList DistrictModel::match(const QModelIndex& start, int role, const Q
         return QAbstractTableModel::match(start, role, value, hits, flags);
     }
     const std::string typed = Text::FromQt(value.toString());
-    const auto beginning = [&](std::int32_t district) {
-        return RecordOf(district).Name.View().substr(0, typed.size());
+    const auto beginning = [&, length = Ansi::CharacterCount(typed)](std::int32_t district) {
+        return Ansi::FirstCharacters(RecordOf(district).Name, length);
     };
     const std::vector<std::int32_t>& all = m_districts.All();
     const auto first = std::partition_point(all.begin(), all.end(), [&](std::int32_t district) {

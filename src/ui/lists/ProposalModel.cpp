@@ -41,7 +41,7 @@ void ProposalModel::Show(const Commands::ListView<Proposal>& list) {
         m_rows.Take(list);
         endResetModel();
     } else if (m_rows.TakeTouched(list) && m_rows.Count() > 0) {
-        Q_EMIT dataChanged(index(0), index(m_rows.Count() - 1), {Qt::CheckStateRole});
+        Q_EMIT dataChanged(index(0), index(m_rows.Count() - 1));
     }
 }
 

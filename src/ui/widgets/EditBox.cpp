@@ -6,8 +6,8 @@
 #include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 
 namespace Ui {
 
@@ -26,8 +26,7 @@ QString Allowed(QString text) {
 EditBox::EditBox(QWidget* parent) : QLineEdit(parent) {
     setMaxLength(static_cast<int>(CommonRoutines::LongestEditableText));
     setAttribute(Qt::WA_OpaquePaintEvent); // so that a key paints nothing of what stands around the box
-    connect(this, &QLineEdit::inputRejected, this,
-            [this] { Q_EMIT KeyRefused(QStringLiteral("The text is longer than what can be edited here.")); });
+    connect(this, &QLineEdit::inputRejected, this, [this] { RefuseLength(); });
     connect(this, &QLineEdit::textEdited, this, &EditBox::ReplaceForeignCharacters);
     connect(this, &QLineEdit::textChanged, this, [this] { m_lastText = text(); });
 }
@@ -58,9 +57,10 @@ QString EditBox::WhyRefused(const QString& typed) const {
     if (code < u' ' || code > u'|') {
         return {};
     }
-    const int caret = hasSelectedText() ? selectionStart() : cursorPosition();
-    return Text::ToQt(CommonRoutines::WhyKeyIsRefused(static_cast<char>(code), Text::FromQt(text()),
-                                                      static_cast<std::size_t>(caret)));
+    // A place in the toolkit's text is none in the core's.
+    const QString before = text().left(hasSelectedText() ? selectionStart() : cursorPosition());
+    return Text::ToQt(
+        CommonRoutines::WhyKeyIsRefused(static_cast<char>(code), Text::FromQt(text()), Text::FromQt(before).size()));
 }
 
 void EditBox::keyPressEvent(QKeyEvent* event) {
@@ -77,8 +77,14 @@ void EditBox::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void EditBox::RefuseLength() {
+    Q_EMIT KeyRefused(QStringLiteral("The text is longer than what can be edited here."));
+}
+
 void EditBox::ReplaceForeignCharacters() {
-    const QString allowed = Allowed(text());
+    // The toolkit counts characters, of which one may be several bytes.
+    const bool isTooLong = Text::FromQt(text()).size() > CommonRoutines::LongestEditableText;
+    const QString allowed = isTooLong ? m_lastText : Allowed(text());
     if (allowed == text()) {
         return;
     }
@@ -92,6 +98,9 @@ void EditBox::ReplaceForeignCharacters() {
     blockSignals(false);
     insert(allowed);
     setCursorPosition(static_cast<int>(caret));
+    if (isTooLong) {
+        RefuseLength();
+    }
 }
 
 } // namespace Ui

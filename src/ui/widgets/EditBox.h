@@ -33,6 +33,7 @@ protected:
 private:
     [[nodiscard]] QString WhyRefused(const QString& typed) const;
     void ReplaceForeignCharacters();
+    void RefuseLength();
 
     QString m_lastText; // the text before the edit being handled
 };
