@@ -68,7 +68,8 @@ std::string ChangeLineParser::Cut(std::string_view line, std::size_t from, std::
 }
 
 std::string ChangeLineParser::FirstCell(std::string_view line, std::string_view upper) const {
-    const auto tagEnd = upper.find('>', HeadingRow.size());
+    const std::size_t behindRow = m_utf8 ? Utf8::FirstCharacters(upper, HeadingRow.size()).size() : HeadingRow.size();
+    const auto tagEnd = upper.find('>', behindRow);
     if (tagEnd == None) {
         return {};
     }

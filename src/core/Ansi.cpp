@@ -106,14 +106,7 @@ char32_t CodeAt(std::string_view text, std::size_t place) {
 }
 
 std::string_view FirstCharacters(std::string_view text, std::size_t count) {
-    if (!CommonRoutines::TextsAreUtf8() || text.size() <= count) {
-        return text.substr(0, count);
-    }
-    std::size_t end = 0;
-    for (; count > 0 && end < text.size(); --count) {
-        end = EndOfCharacter(text, end + 1);
-    }
-    return text.substr(0, end);
+    return CommonRoutines::TextsAreUtf8() ? Utf8::FirstCharacters(text, count) : text.substr(0, count);
 }
 
 std::string_view Beginning(std::string_view text, std::size_t bytes) {

@@ -61,6 +61,19 @@ std::size_t CharacterCount(std::string_view text) {
     return text.size() - static_cast<std::size_t>(std::count_if(text.begin(), text.end(), IsContinuation));
 }
 
+std::string_view FirstCharacters(std::string_view text, std::size_t count) {
+    if (text.size() <= count) {
+        return text;
+    }
+    std::size_t end = 0;
+    for (; count > 0 && end < text.size(); --count) {
+        do {
+            ++end;
+        } while (end < text.size() && IsContinuation(text[end]));
+    }
+    return text.substr(0, end);
+}
+
 char32_t TakeCodePoint(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
     const std::size_t length = LengthFrom(lead);

@@ -25,6 +25,9 @@ inline constexpr char32_t NotACharacter = 0xFFFFFFFF;
 // How many characters a text has, all of which is UTF-8.
 [[nodiscard]] std::size_t CharacterCount(std::string_view text);
 
+// The first characters of a text, all of it where it has no more.
+[[nodiscard]] std::string_view FirstCharacters(std::string_view text, std::size_t count);
+
 // Takes the first character off a text that is not empty. Of bytes that are none, as many are taken as
 // belong together: one that starts no sequence alone, a sequence that breaks off as far as it goes.
 char32_t TakeCodePoint(std::string_view& text);

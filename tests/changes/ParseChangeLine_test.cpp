@@ -241,3 +241,20 @@ TEST(ParseChangeLine, AgreesWithTheRulesWordForWordOnRandomPages) {
         }
     }
 }
+
+// Blanks in front shift a cut by characters, and never into the middle of one.
+TEST(ParseChangeLine, ALineInUtf8ContributesTheSameCharacters) {
+    constexpr const char* pieces[] = {"<TR><TD>", "<tr>", "<td x>", "<", ">", " ", "   ", "\xE9", "\x80\xE9", "Elm"};
+    std::mt19937 random(8);
+    int contributions = 0;
+    for (int round = 0; round < 50'000; ++round) {
+        std::string line = Slow::RandomText(random, " ", 4);
+        for (auto count = random() % 9; count > 0; --count) {
+            line += pieces[random() % std::size(pieces)];
+        }
+        const std::string expected = Ansi::ToUtf8(ChangeLineParser().ParseChangeLine(line));
+        ASSERT_EQ(ChangeLineParser(true).ParseChangeLine(Ansi::ToUtf8(line)), expected) << line;
+        contributions += expected.size() > 2 ? 1 : 0;
+    }
+    EXPECT_GT(contributions, 5'000);
+}

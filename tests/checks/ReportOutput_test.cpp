@@ -1,5 +1,6 @@
 #include "checks/ReportOutput.h"
 
+#include "core/State.h"
 #include "recovery/OpenFile.h"
 #include "support/ScriptedDesktop.h"
 #include "support/Table.h"
@@ -258,4 +259,16 @@ TEST(ReportOutputTest, WithoutAPrinterAMessageSaysSo) {
                       BoxIcon::Exclamation);
     PrintReport(TwoFindings, "/data/north.txt", desktop);
     EXPECT_TRUE(desktop.printed.empty());
+}
+
+TEST(ReportOutputTest, ASavedReportHasTheEncodingOfTheOpenFile) {
+    eFileEncoding = Encoding::Utf8WithMark;
+    ScriptedDesktop desktop;
+    desktop.ExpectSave("/data/report.txt");
+    SaveReport({"Duplicate Check", {"D\xC5\xB5r"}, true}, "/\xC5\xB5/caf\xE9.txt", desktop);
+    eFileEncoding = Encoding::Windows1252;
+    EXPECT_EQ(
+        desktop.files["/data/report.txt"],
+        "\xEF\xBB\xBF"
+        "Duplicate Check on File /\xC5\xB5/caf?.txt\r\nCheck performed on 05 Mar 2026 at 14:07\r\n\r\nD\xC5\xB5r\r\n");
 }

@@ -1,13 +1,12 @@
 #include "checks/SaveVariations.h"
 #include "support/ScriptedDesktop.h"
-
-#include <gtest/gtest.h>
+#include "support/Table.h"
 
 using namespace CommonRoutines;
 
 namespace {
 
-class SaveVariationsTest : public testing::Test {
+class SaveVariationsTest : public StateTest {
 protected:
     void Save(const std::vector<std::string>& variations) { SaveSelectedVariations(variations, desktop); }
 
@@ -81,4 +80,20 @@ TEST_F(SaveVariationsTest, AFileNameIsSaidAsItIs) {
     desktop.ExpectSave(foreign);
     desktop.ExpectBox("The file cannot be written:\r\n" + Wording::OfPath(foreign), BoxIcon::Exclamation);
     Save({"Elm"});
+}
+
+TEST_F(SaveVariationsTest, TheFileHasTheEncodingOfTheOpenOne) {
+    for (const auto& [encoding, expected] :
+         {std::pair{Encoding::Utf8, "D\xC5\xB5r\r\n"}, std::pair{Encoding::Utf8WithMark, "\xEF\xBB\xBF"
+                                                                                         "D\xC5\xB5r\r\n"}}) {
+        eFileEncoding = encoding;
+        desktop.ExpectSave(path);
+        desktop.ExpectBox("1 Variations Saved to /data/chosen.txt", BoxIcon::Information);
+        Save({"D\xC5\xB5r"});
+        EXPECT_EQ(desktop.files[path], expected);
+    }
+    desktop.ExpectSave(path);
+    desktop.ExpectBox("0 Variations Saved to /data/chosen.txt", BoxIcon::Information);
+    Save({});
+    EXPECT_EQ(desktop.files[path], "") << "a mark alone would be something";
 }

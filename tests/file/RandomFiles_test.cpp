@@ -37,7 +37,8 @@ public:
     std::optional<std::string> InputBox(std::string_view) override {
         static const std::vector<std::string> answers{"", "  ", "%", "Elm", " !Oak%12 ", "a|b", "Caf\xE9", "x\ty"};
         const auto choice = m_random() % (answers.size() + 1);
-        return choice == answers.size() ? std::nullopt : std::optional(answers[choice]);
+        return choice == answers.size() ? std::nullopt
+                                        : std::optional(Recoded(answers[choice], Encoding::Windows1252, eFileEncoding));
     }
 
     int repairs = 0;
@@ -48,18 +49,27 @@ private:
 
 class FileMaker {
 public:
-    explicit FileMaker(std::uint32_t seed) : m_random(seed) {}
+    explicit FileMaker(std::uint32_t seed) : m_utf8(seed % 2 == 0), m_random(seed) {}
 
     std::string Make() {
         std::string content;
         for (auto pieces = UpTo(40); pieces > 0; --pieces) {
             content += Piece();
         }
-        return content;
+        return m_utf8 ? InUtf8(content) : content;
     }
 
 private:
     std::size_t UpTo(std::size_t most) { return m_random() % (most + 1); }
+
+    // Some with a mark in front, all with letters of two and four bytes.
+    std::string InUtf8(const std::string& content) {
+        std::string utf8 = UpTo(3) == 0 ? "\xEF\xBB\xBF" : "";
+        for (const char c : content) {
+            utf8 += c != '\xE9' ? std::string(1, c) : UpTo(3) == 0 ? "\xF0\x9F\x98\x80" : "\xC5\xB5";
+        }
+        return utf8;
+    }
 
     std::string Noise() {
         using namespace std::string_view_literals;
@@ -91,6 +101,7 @@ private:
         return line + ends[UpTo(3)];
     }
 
+    bool m_utf8; // all of its files
     std::mt19937 m_random;
 };
 

@@ -151,6 +151,24 @@ TEST_F(Capitals, AreLookedAtWithoutLeavingTheMarkers) {
     EXPECT_EQ(sMarkerSuffix, "old");
 }
 
+TEST_F(Capitals, AgreeWithTheSlowRulesOnRandomTextsOfAUtf8File) {
+    const std::vector<std::string> letters = {"A", "b",        "b",        " ",        "[",        "]",
+                                              "%", "\xC5\xB4", "\xC5\xB5", "\xC3\x9F", "\xC3\xBF", "\xC5\xB8"};
+    UseLowerCaseWords({"\xFF", "b"}); // in Windows-1252
+    eFileEncoding = Encoding::Utf8;
+    std::mt19937 random(4);
+    int unusual = 0;
+    constexpr int rounds = 100'000;
+    for (int round = 0; round < rounds; ++round) {
+        const std::string text = Slow::RandomText(random, letters, 8);
+        const bool expected = Slow::UnusualCapitals(text, {"\xC3\xBF", "b"});
+        ASSERT_EQ(CapitalsAreUnusual(text), expected) << text;
+        unusual += expected ? 1 : 0;
+    }
+    EXPECT_GT(unusual, rounds / 10);
+    EXPECT_LT(unusual, rounds - rounds / 10);
+}
+
 TEST_F(Capitals, AgreeWithTheSlowRulesOnRandomTexts) {
     constexpr std::string_view alphabets[] = {"!%? \t-[](ABab_|\xE9\xC9\x80\x9A\x8A", "ABabb [](A-", "AAabbbbb  ')"};
     const std::vector<std::string> words = {"ab", "b", "\xE9", "a)", "[a]b"};

@@ -5,6 +5,7 @@
 // given to these and to the routines of the program, which must agree on every one of them.
 
 #include "core/Ansi.h"
+#include "core/State.h"
 
 #include <cstdint>
 #include <random>
@@ -13,6 +14,32 @@
 #include <vector>
 
 namespace Slow {
+
+// The characters of a text of the open file, which is Windows-1252 or valid UTF-8.
+inline std::vector<std::string> Characters(const std::string& text) {
+    std::vector<std::string> characters;
+    for (const char c : text) {
+        const int byte = (c + 256) % 256;
+        if (CommonRoutines::TextsAreUtf8() && byte >= 0x80 && byte < 0xC0) {
+            characters.back() += c;
+        } else {
+            characters.emplace_back(1, c);
+        }
+    }
+    return characters;
+}
+
+inline int CodeOf(const std::string& character) {
+    const int first = (character[0] + 256) % 256;
+    int code = character.size() == 1   ? first
+               : character.size() == 2 ? first % 32
+               : character.size() == 3 ? first % 16
+                                       : first % 8;
+    for (std::size_t i = 1; i < character.size(); ++i) {
+        code = code * 64 + (character[i] + 256) % 64;
+    }
+    return code;
+}
 
 inline std::size_t InStr(const std::string& text, const std::string& part) {
     const auto at = text.find(part);
@@ -103,7 +130,8 @@ struct Validation {
                 return RefusedAsNull();
             }
         }
-        if (first != last && (!dateMark || last == t.size() || last < 4)) {
+        const std::size_t charactersToLast = Characters(t.substr(0, last)).size();
+        if (first != last && (!dateMark || last == t.size() || charactersToLast < 4)) {
             return Refused("Invalid VNF dependency format");
         }
         const std::size_t shriek = InStr(t, "!");
@@ -165,8 +193,9 @@ private:
     }
 
     bool CheckCodes(const std::string& v) {
-        for (std::size_t i = 1; i <= v.size(); ++i) {
-            const int code = (v[i - 1] + 256) % 256;
+        const std::vector<std::string> characters = Characters(v);
+        for (std::size_t i = 1; i <= characters.size(); ++i) {
+            const int code = CodeOf(characters[i - 1]);
             const std::string where = " char at position " + std::to_string(i) + " (Char=" + std::to_string(code) + ")";
             if (code < 32) {
                 return Refused("Invalid" + where);
@@ -181,7 +210,7 @@ private:
 };
 
 inline std::string ExpectedForm(const std::string& word) {
-    std::size_t capitals = 1;
+    std::size_t capitals = Characters(word)[0].size();
     if (word.front() == '[') {
         capitals = InStr(word, "]") > 0 ? InStr(word, "]") : word.size();
     }
@@ -211,6 +240,14 @@ inline bool UnusualCapitals(const std::string& variation, const std::vector<std:
         }
     }
     return false;
+}
+
+inline std::string RandomText(std::mt19937& random, const std::vector<std::string>& alphabet, std::size_t longest) {
+    std::string text;
+    for (auto count = random() % (longest + 1); count > 0; --count) {
+        text += alphabet[random() % alphabet.size()];
+    }
+    return text;
 }
 
 inline std::string RandomText(std::mt19937& random, std::string_view alphabet, std::size_t longest) {

@@ -12,6 +12,22 @@ using ValidationReference = StateTest;
 
 constexpr std::string_view Nasty = "!%? \t-[](ABab_|\xE9\xC9\x80\x7F\xFF\x1F";
 constexpr std::string_view Markers = "!%%  ?ABab_1";
+const std::vector<std::string> Wide = {"!",
+                                       "%",
+                                       "%",
+                                       " ",
+                                       "?",
+                                       "|",
+                                       "_",
+                                       "a",
+                                       "B",
+                                       "1",
+                                       "\t",
+                                       "[",
+                                       "\xC5\xB5",
+                                       "\xC5\xB4",
+                                       "\xE2\x82\xAC",
+                                       "\xF0\x9F\x98\x80"};
 constexpr std::string_view Mild = "!%?_ABCabc 123}\xE9";
 
 // The verdict against what was just checked, which in no mode may differ.
@@ -33,12 +49,16 @@ void ExpectSameVerdict(const std::string& text, const Slow::Validation& slow) {
 std::set<std::string> Compare(std::uint32_t seed, std::int16_t mode) {
     constexpr std::string_view alphabets[] = {Nasty, Markers, Mild};
     std::mt19937 random(seed);
+    const auto randomText = [&] {
+        return TextsAreUtf8() ? Slow::RandomText(random, Wide, 10)
+                              : Slow::RandomText(random, alphabets[random() % 3], 10);
+    };
     iEditMode = mode;
     Slow::Validation slow;
     slow.readingFile = mode == NothingOpen;
     std::set<std::string> reasons;
     for (int round = 0; round < 200'000; ++round) {
-        const std::string text = Slow::RandomText(random, alphabets[random() % 3], 10);
+        const std::string text = randomText();
         bool bNullDistrict = round % 2 == 0;
         const bool valid = ValidateVariation(text, round, &bNullDistrict);
         const bool same = valid == slow.Check(text) && CheckVariation(text).IsValid() == valid &&
@@ -64,6 +84,13 @@ TEST_F(ValidationReference, AgreesOnRandomTextsWhileADistrictIsShown) {
     auto expected = ReasonsInAnyMode;
     expected.insert("Null District");
     EXPECT_EQ(Compare(1, DistrictIdle), expected);
+}
+
+TEST_F(ValidationReference, AgreesOnRandomTextsOfAUtf8File) {
+    eFileEncoding = Encoding::Utf8;
+    auto expected = ReasonsInAnyMode;
+    expected.insert("Null District");
+    EXPECT_EQ(Compare(3, DistrictIdle), expected);
 }
 
 TEST_F(ValidationReference, AgreesOnRandomTextsWhileAFileIsRead) {

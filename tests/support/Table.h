@@ -14,6 +14,8 @@ void ResetEverything();
 class StateTest : public testing::Test {
 protected:
     StateTest() { ResetEverything(); }
+    // What looks at texts without a table takes them for Windows-1252.
+    ~StateTest() override { CommonRoutines::eFileEncoding = CommonRoutines::Encoding::Windows1252; }
 };
 
 // Appends a district with these variations to the table and returns its index.
