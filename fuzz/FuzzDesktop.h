@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/State.h"
 #include "support/QuietDesktop.h"
 
 #include <cstddef>
@@ -23,7 +24,10 @@ public:
     std::optional<std::string> InputBox(std::string_view /*prompt*/) override {
         static const std::vector<std::string> texts{"", "%", " !Elm%12 ", "a|b", "Caf\xE9", "x\ty"};
         // Every second text is a valid one: the question is asked until there is one.
-        return ++m_inputs % 2 == 0 ? "Typed" : texts[NextAnswer() % texts.size()];
+        return ++m_inputs % 2 == 0
+                   ? "Typed"
+                   : CommonRoutines::Recoded(texts[NextAnswer() % texts.size()], CommonRoutines::Encoding::Windows1252,
+                                             CommonRoutines::eFileEncoding);
     }
     std::optional<std::string> ReadFile(const std::string& /*path*/) override { return m_content; }
 

@@ -123,9 +123,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     }
     const std::string_view input(reinterpret_cast<const char*>(data), size);
     std::string saved = ReadAndSave(std::string(input.substr(answerCount)), input.substr(0, answerCount));
-    // Only bytes that were taken for Windows-1252 may be UTF-8 after all, and only those of the first saving.
+    // Only what was no byte order mark may become one, and only by the first saving.
     bool readAsSaved = IsReadAsSaved(saved);
-    Demand(readAsSaved || eFileEncoding == Encoding::Windows1252);
+    Demand(readAsSaved || (eFileEncoding != Encoding::Utf8WithMark && EncodingOf(saved) == Encoding::Utf8WithMark));
     LookAtEverything();
     // What was repaired needs no repair again, and what is saved without a change is soon the same ever after.
     for (std::string again = ReadAndSave(saved, ""); again != saved; again = ReadAndSave(saved, "")) {
