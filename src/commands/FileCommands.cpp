@@ -85,7 +85,9 @@ void ReadAndShow(Session& session, const std::string& path) {
         lLineCount = 0;
     }
     if (lLineCount > 0) {
+        const Encoding asRead = eFileEncoding;
         RestoreChanges(session.desktop);
+        Recode(session, asRead);
         FillDistrictList(session);
         EnterMode(session, FileOpen);
         session.view.focus = Focus::Districts;

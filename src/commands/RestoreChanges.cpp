@@ -2,10 +2,13 @@
 
 #include "core/Ansi.h"
 #include "core/Desktop.h"
+#include "core/Encoding.h"
 #include "core/State.h"
+#include "core/Utf8.h"
 #include "edit/RestoredLine.h"
 #include "edit/VariationList.h"
 #include "edit/Variations.h"
+#include "file/DistrictFileWriter.h"
 #include "recovery/LeftOvers.h"
 #include "recovery/OpenFile.h"
 #include "recovery/SavesForOthers.h"
@@ -71,9 +74,29 @@ void RestoreLine(std::int32_t line, const LineChanges& changes) {
     static_cast<void>(ListVariations(line)); // only the counts matter
 }
 
+// A file of which only ASCII was left is in UTF-8 once more where its changes are.
+void TakeUpUtf8(std::span<const LeftOver> wanted) {
+    const bool hasUtf8 = std::any_of(wanted.begin(), wanted.end(), [](const LeftOver& leftOver) {
+        return leftOver.file->encoding != Encoding::Windows1252;
+    });
+    if (hasUtf8 && !TextsAreUtf8() && Utf8::IsAscii(DistrictFileContent())) {
+        eFileEncoding = Encoding::Utf8;
+    }
+}
+
+void RecodeChanges(RecoveryFile& file) {
+    for (SlotChange& change : file.changes) {
+        change.text = Recoded(std::move(change.text), file.encoding, eFileEncoding);
+    }
+}
+
 // Makes the changes of the wanted files, those of the oldest first, so that of two changes of one
 // variation the later one counts.
-void MakeAll(std::span<const LeftOver> wanted) {
+void MakeAll(std::span<LeftOver> wanted) {
+    TakeUpUtf8(wanted);
+    for (LeftOver& leftOver : wanted) {
+        RecodeChanges(*leftOver.file);
+    }
     std::map<std::int32_t, LineChanges> lines;
     for (std::size_t file = 0; file < wanted.size(); ++file) {
         for (const SlotChange& change : wanted[file].file->changes) {
@@ -98,7 +121,7 @@ public:
 
     void AskAbout(const std::string& name);
     // The files whose changes are wanted, the oldest first. They are locked.
-    [[nodiscard]] const std::vector<LeftOver>& Wanted() const { return m_wanted; }
+    [[nodiscard]] std::vector<LeftOver>& Wanted() { return m_wanted; }
 
 private:
     void Judge(LeftOver& leftOver);

@@ -492,3 +492,27 @@ TEST_F(RestoreChangesTest, MadeToTakeLongTakeNoTime) {
     Open();
     EXPECT_EQ(SlotsOf(1), (Texts{"Ash", "Elm", "Oak", "Fir"}));
 }
+
+// The last letter beyond ASCII had gone from the file, but not from the editor.
+TEST_F(RestoreChangesTest, ChangesInUtf8ComeBackWholeToAFileOfWhichOnlyAsciiIsLeft) {
+    RecoveryFile file;
+    file.file = IdentityOf(DataFilePath, Content);
+    file.encoding = Encoding::Utf8;
+    file.changes = {{1, 1, "D\xC5\xB5r", {}}};
+    Leave(file);
+    ExpectQuestion(BoxAnswer::Yes);
+    Open();
+    EXPECT_EQ(VariationAt(1, 1).Text, "D\xC5\xB5r");
+    EXPECT_EQ(eFileEncoding, Encoding::Utf8);
+}
+
+TEST_F(RestoreChangesTest, ChangesInAnotherEncodingKeepTheirCharacters) {
+    const std::string utf8 = HeaderOf("D\xC5\xB5r") + "|Ash\r\n";
+    RecoveryFile file;
+    file.file = IdentityOf(DataFilePath, utf8);
+    file.changes = {{1, 1, "Caf\xE9", {}}};
+    Leave(file);
+    ExpectQuestion(BoxAnswer::Yes);
+    Open(utf8);
+    EXPECT_EQ(VariationAt(1, 1).Text, "Caf\xC3\xA9");
+}
