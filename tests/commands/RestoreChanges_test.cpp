@@ -390,6 +390,7 @@ TEST_F(RestoreChangesTest, OfALivingEditorAreNotTouchedAndTheSecondEditorIsTold)
     first.state.storage = desktop.state.storage;
     OpenMark mark;
     ASSERT_FALSE(mark.Set(first, DataFilePath));
+    ReadText(first, Content);
     UnsavedChanges theirs;
     theirs.Begin(first, DataFilePath, Content, Numbering::AsRead);
     theirs.Note(1, 1, "Theirs");
