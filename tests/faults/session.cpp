@@ -6,7 +6,7 @@
 //   close                closes the window, but keeps what that would lose
 //   pause                stops until it is continued
 //   largest SIZE         from now on, no file may grow beyond this size
-//   memory SIZE          from now on, no more memory may be taken than this
+//   memory SIZE          from now on, no more memory may be taken than this, nor what lies free in large blocks
 //   handles COUNT        from now on, no more than so many further files may be open at a time
 //   unlimited            takes these limits back
 //   refuse               from now on, unsaved changes of an earlier session are not wanted
@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <string>
 
@@ -83,6 +84,13 @@ rlim_t FirstFreeHandle() {
     return static_cast<rlim_t>(handle);
 }
 
+// What has been given back may lie ready for the next one who asks.
+void OccupyLargeBlocks() {
+    constexpr std::size_t large = std::size_t{512} << 10; // smaller ones are for the toolkit, which ends without any
+    while (std::malloc(large) != nullptr) {
+    }
+}
+
 void Play(SessionWindow& window, Steps& steps) {
     const std::string step = steps.Next();
     if (step == "open") {
@@ -104,6 +112,7 @@ void Play(SessionWindow& window, Steps& steps) {
         Limit(RLIMIT_FSIZE, std::stoul(steps.Next()));
     } else if (step == "memory") {
         Limit(RLIMIT_DATA, MemoryTaken() + std::stoul(steps.Next()));
+        OccupyLargeBlocks();
     } else if (step == "handles") {
         Limit(RLIMIT_NOFILE, FirstFreeHandle() + std::stoul(steps.Next()));
     } else if (step == "unlimited") {
