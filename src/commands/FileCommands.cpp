@@ -19,6 +19,8 @@
 #include "recovery/UnsavedChanges.h"
 #include "rules/Capitals.h"
 
+#include <utility>
+
 using namespace CommonRoutines;
 
 namespace Commands {
@@ -63,15 +65,15 @@ void Recode(Session& session, Encoding from) {
     }
 }
 
-void ReadAndShow(Session& session, const std::string& path) {
+void ReadAndShow(Session& session, std::string path) {
     session.isOpening = true;
     MendFile(session.desktop, path);
     if (bChanged) {
         Unsaved.Remove(session.desktop); // they were given up; until now the choice of a file could be cancelled
     }
     session.view.edit.isPending = false;
-    sDataFileName = path;
     RememberFolder(session, path, Settings::DataFolder);
+    sDataFileName = std::move(path);
     bChanged = false;
     session.districtsByName.clear();
     ReadDistrictFile(session.desktop, [&session, from = eFileEncoding] { Recode(session, from); });
@@ -99,9 +101,8 @@ void ReadAndShow(Session& session, const std::string& path) {
 void OpenAnew(Session& session) {
     const std::int32_t district = lCurrentDistrict;
     const bool wasPending = session.view.edit.isPending;
-    const std::string path = TheOpenFile.Path();
     ResetWindow(session);
-    ReadAndShow(session, path);
+    ReadAndShow(session, TheOpenFile.Path());
     if (lLineCount == 0) {
         ClearUndoRing();
         return;

@@ -129,11 +129,10 @@ bool DoesBusily(Desktop& desktop, const std::function<bool()>& work) {
 
 void Mend(Desktop& desktop, const SaveCopy& copy) {
     StateFolder& folder = desktop.State();
-    if (DoesBusily(desktop, [&] { return desktop.ReadFile(copy.path) == copy.Content(); })) {
-        Drop(folder, copy.name);
-    } else if (!IsToBeFinished(desktop, copy)) {
+    const bool isWhole = DoesBusily(desktop, [&] { return desktop.ReadFile(copy.path) == copy.Content(); });
+    if (!isWhole && !IsToBeFinished(desktop, copy)) {
         KeepAside(desktop, copy, "What the file should have held is kept in");
-    } else if (DoesBusily(desktop, [&] { return desktop.OverwriteFile(copy.path, copy.Content()); })) {
+    } else if (isWhole || DoesBusily(desktop, [&] { return desktop.OverwriteFile(copy.path, copy.Content()); })) {
         Drop(folder, copy.name);
     } else {
         Unlock(folder, copy.name);

@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 // Goes past the toolkit to the system, since the toolkit knows nothing of mounts and of attributes.
 #ifdef Q_OS_LINUX
 #include <fcntl.h>
@@ -57,12 +59,10 @@ bool HasAttributes(const QByteArray& name) {
     if (read < 0) {
         return true; // they are just being changed
     }
-    for (const QByteArray& attribute : list.left(static_cast<qsizetype>(read)).split('\0')) {
-        if (!attribute.isEmpty() && !attribute.startsWith("security.")) {
-            return true;
-        }
-    }
-    return false;
+    const QByteArrayList attributes = list.left(static_cast<qsizetype>(read)).split('\0');
+    return std::any_of(attributes.begin(), attributes.end(), [](const QByteArray& attribute) {
+        return !attribute.isEmpty() && !attribute.startsWith("security.");
+    });
 }
 
 // A new file gets what its folder has for new ones.

@@ -4,6 +4,7 @@
 
 #include "ui/lists/StateColours.h"
 
+#include <QLineEdit>
 #include <QTextDocument>
 
 using namespace CommonRoutines;
