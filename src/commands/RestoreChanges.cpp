@@ -108,9 +108,31 @@ void MakeAll(std::span<LeftOver> wanted) {
         RestoreLine(line, changes);
     }
     for (const LeftOver& leftOver : wanted) {
-        const bool hasMore = leftOver.file->isDamaged; // than could be read
+        const bool hasMore = leftOver.file->isDamaged || leftOver.file->overtaken > 0;
         Unsaved.TakeOver(leftOver.name, hasMore ? UnsavedChanges::Then::IsSetAside : UnsavedChanges::Then::Goes);
     }
+}
+
+// Why none of the changes can be made.
+std::string WhyNone(const RecoveryFile& file) {
+    if (!file.changes.empty()) {
+        return " do not fit this file.";
+    }
+    return file.overtaken > 0 ? " are all about what has been changed and saved since."
+                              : " are damaged from the first one on.";
+}
+
+// What the question about changes has to add.
+std::string WhatIsMissing(const RecoveryFile& file) {
+    std::string missing;
+    if (file.isDamaged) {
+        missing = "\r\nTheir file is damaged: only the first " + std::to_string(file.changes.size()) + " can be had.";
+    }
+    if (file.overtaken > 0) {
+        missing += "\r\n" + std::to_string(file.overtaken) +
+                   " more are left out: they are about what has been changed and saved since.";
+    }
+    return missing.empty() ? missing : missing + "  Their file is kept aside.";
 }
 
 // Goes through the left-over files, the latest first, and asks about those that have to do with the open file.
@@ -181,11 +203,12 @@ void Asking::Judge(LeftOver& leftOver) {
         SetAside(m_folder, leftOver.name); // the saved file's name may not be on the disk yet
     } else if (!m_saves.CarryTo(Unsaved.File(), file)) {
         TellSetAside(leftOver, "There are " + ChangesOf(leftOver) + " to an earlier state of this file.");
-    } else if (file.changes.empty() || !FitsTable(file.changes)) {
-        TellSetAside(leftOver, "The " + ChangesOf(leftOver) +
-                                   (file.isDamaged ? " are damaged from the first one on." : " do not fit this file."));
-    } else {
+    } else if (!file.changes.empty() && FitsTable(file.changes)) {
         Offer(leftOver);
+    } else if (file.file.path != Unsaved.File().path) {
+        GiveBack(m_folder, leftOver); // whoever opens the file to which they were made is told
+    } else {
+        TellSetAside(leftOver, "The " + ChangesOf(leftOver) + WhyNone(file));
     }
 }
 
@@ -199,11 +222,7 @@ void Asking::Offer(LeftOver& leftOver) {
     } else {
         question = question + " to this file.\r\nDo you want them back?";
     }
-    if (file.isDamaged) {
-        question = question + "\r\nTheir file is damaged: only the first " + std::to_string(file.changes.size()) +
-                   " can be had.  It is kept aside.";
-    }
-    switch (m_desktop.MsgBox(question, BoxIcon::Question, BoxButtons::YesNoCancel)) {
+    switch (m_desktop.MsgBox(question + WhatIsMissing(file), BoxIcon::Question, BoxButtons::YesNoCancel)) {
     case BoxAnswer::Yes:
         m_wanted.insert(m_wanted.begin(), std::move(leftOver));
         break;
@@ -238,7 +257,9 @@ void RestoreChanges(Desktop& desktop) {
         TellOfAnotherEditor(desktop);
     }
     const std::vector<std::string> names = RecoveryFiles(desktop.State());
-    if (const std::string problem = desktop.State().Problem(); !problem.empty()) {
+    const std::string problem = desktop.State().Problem();
+    RemoveDeadLocks(desktop.State());
+    if (!problem.empty()) {
         desktop.MsgBox("It cannot be told whether there are unsaved changes to this file.\r\n" + problem + ".\r\n" +
                            Wording::OfPath(desktop.State().PathOf({})),
                        BoxIcon::Exclamation);

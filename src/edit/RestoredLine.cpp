@@ -50,7 +50,7 @@ void RestoredLine::Store() const {
         number = slot.next;
     }
     RestoreSlots(m_line, texts);
-    Unsaved.NoteRestored(m_line, m_made, SlotNumbers(numbers));
+    Unsaved.NoteRestored(m_line, m_made, SlotNumbers(numbers, m_countAsRead));
 }
 
 } // namespace CommonRoutines

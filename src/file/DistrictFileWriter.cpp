@@ -116,15 +116,16 @@ std::string DistrictFileContent() {
 
 void SaveDistrictFile(Desktop& desktop) {
     const auto path = ChooseTarget(desktop);
-    if (!path || !MayReplaceChanged(desktop, *path) || !MayEmpty(desktop, *path)) {
+    if (!path || !MayEmpty(desktop, *path)) {
         return;
     }
     desktop.ShowBusy(true);
     const std::string content = Encoded(DistrictFileContent(), eFileEncoding);
-    if (MayBeReadAs(EncodingOf(content), desktop)) {
+    desktop.ShowBusy(false);
+    // What others do while a question stands must be seen, so that their file is looked at last.
+    if (MayBeReadAs(EncodingOf(content), desktop) && MayReplaceChanged(desktop, *path)) {
+        desktop.ShowBusy(true);
         WriteTable(desktop, *path, content);
-    } else {
-        desktop.ShowBusy(false);
     }
 }
 

@@ -16,6 +16,7 @@ constexpr std::string_view Ending = ".changes";
 constexpr std::string_view LockEnding = ".changes.lock";
 constexpr std::string_view SaveEnding = ".saved";
 constexpr std::string_view AsideEnding = ".aside";
+constexpr std::string_view MarkEnding = ".open"; // see OpenMark
 
 std::uint64_t NumberOf(std::string_view name) {
     std::uint64_t number = 0;
@@ -33,18 +34,6 @@ std::vector<std::string> LatestFirst(std::vector<std::string> names, std::string
     std::sort(names.begin(), names.end(), IsEarlier);
     std::reverse(names.begin(), names.end());
     return names;
-}
-
-// A lock without its file is from an editor that was stopped between the two.
-void RemoveDeadLocks(StateFolder& folder, const std::vector<std::string>& names) {
-    const std::set<std::string_view> all(names.begin(), names.end());
-    for (const std::string& name : names) {
-        const bool isLock = name.ends_with(LockEnding);
-        const std::string_view locked = std::string_view(name).substr(0, isLock ? name.rfind('.') : 0);
-        if (isLock && !all.contains(locked) && folder.Lock(name) == LockResult::Taken) {
-            folder.Unlock(name);
-        }
-    }
 }
 
 std::string DigestOf(std::string_view dataFile) {
@@ -90,9 +79,35 @@ bool RecoveryNames::MayBelongTo(std::string_view name, std::string_view dataFile
 }
 
 std::vector<std::string> RecoveryFiles(StateFolder& folder) {
+    return LatestFirst(folder.Names(), Ending);
+}
+
+void RemoveDeadLocks(StateFolder& folder) {
     const std::vector<std::string> names = folder.Names();
-    RemoveDeadLocks(folder, names);
-    return LatestFirst(names, Ending);
+    const std::set<std::string_view> all(names.begin(), names.end());
+    for (const std::string& name : names) {
+        const bool isLock = name.ends_with(LockEnding);
+        const std::string_view locked = std::string_view(name).substr(0, isLock ? name.rfind('.') : 0);
+        if (isLock && !all.contains(locked) && folder.Lock(name) == LockResult::Taken) {
+            folder.Unlock(name);
+        }
+    }
+}
+
+bool AreOthersAt(StateFolder& folder, std::string_view dataFile, const std::string& own) {
+    const std::string digest = DigestOf(dataFile);
+    const std::string aside = std::string(Ending).append(AsideEnding);
+    int marks = 0;
+    for (const std::string& name : folder.Names()) {
+        const bool isAside = name.ends_with(aside);
+        const std::string_view changes =
+            std::string_view(name).substr(0, name.size() - (isAside ? AsideEnding.size() : 0));
+        if (changes.ends_with(Ending) && changes != own && RecoveryNames::MayBelongTo(changes, dataFile)) {
+            return true;
+        }
+        marks += name.starts_with(digest) && name.ends_with(MarkEnding) ? 1 : 0;
+    }
+    return marks > 1; // one is this editor's own
 }
 
 std::vector<std::string> SavesOf(StateFolder& folder, std::string_view dataFile) {

@@ -37,6 +37,13 @@ struct LeftOver {
 // The names of all recovery files, those of living editors among them, the latest first.
 [[nodiscard]] std::vector<std::string> RecoveryFiles(StateFolder& folder);
 
+// Removes the locks without a file, which are from editors that were stopped between the two.
+void RemoveDeadLocks(StateFolder& folder);
+
+// Whether others have, or may come to have, changes to a data file: in a recovery file, which may be set aside, or
+// since they have it open. `own` is the name of the recovery file that is none of theirs.
+[[nodiscard]] bool AreOthersAt(StateFolder& folder, std::string_view dataFile, const std::string& own);
+
 // The names of the saves of a data file that are kept, the latest first.
 [[nodiscard]] std::vector<std::string> SavesOf(StateFolder& folder, std::string_view dataFile);
 

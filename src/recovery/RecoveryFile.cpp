@@ -277,11 +277,11 @@ RecoveryRecords::RecoveryRecords(const FileIdentity& file, Encoding encoding)
 }
 
 void RecoveryRecords::AddLine(std::string_view body) {
-    m_checksum = Checksum(body, m_checksum);
-    m_content += Hex(m_checksum);
-    m_content += ' ';
-    m_content += body;
-    m_content += LineEnd;
+    const std::uint64_t checksum = Checksum(body, m_checksum);
+    std::string line = Hex(checksum);
+    line.append(1, ' ').append(body).append(1, LineEnd);
+    m_content += line; // as a whole, or not at all where there is not enough memory
+    m_checksum = checksum;
 }
 
 void RecoveryRecords::AddChange(const SlotChange& change) {

@@ -56,6 +56,7 @@ struct RecoveryFile {
     std::optional<FileIdentity> savedAs;
     std::vector<std::string> holds;   // the names of left-over files whose changes are among these, all of them
     std::vector<LineNumbers> numbers; // of the lines that the save has numbered anew; see SavesForOthers
+    std::size_t overtaken = 0;        // changes that were left out, since a later save has changed their slots
     bool isDamaged = false;           // something followed that cannot be trusted
 };
 

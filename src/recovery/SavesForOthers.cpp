@@ -3,7 +3,6 @@
 #include "core/StateFolder.h"
 #include "recovery/LeftOvers.h"
 
-#include <algorithm>
 #include <iterator>
 #include <map>
 #include <set>
@@ -64,6 +63,7 @@ void Carry(RecoveryFile& changes, const RecoveryFile& save) {
         const bool isRenumbered = line != lines.end();
         const bool isOld = !isRenumbered || line->second.Knows(change.slot);
         if (isOld && changedLater.contains({change.line, change.slot})) {
+            ++changes.overtaken;
             continue;
         }
         if (isRenumbered) {
@@ -72,6 +72,8 @@ void Carry(RecoveryFile& changes, const RecoveryFile& save) {
         }
         if (change.slot > 0) {
             carried.push_back(std::move(change));
+        } else {
+            ++changes.overtaken;
         }
     }
     changes.changes = std::move(carried);
@@ -81,10 +83,7 @@ void Carry(RecoveryFile& changes, const RecoveryFile& save) {
 } // namespace
 
 bool SavesForOthers::AreWanted(const std::string& own) {
-    const std::vector<std::string> names = RecoveryFiles(m_folder);
-    return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
-        return name != own && RecoveryNames::MayBelongTo(name, m_path);
-    });
+    return AreOthersAt(m_folder, m_path, own);
 }
 
 void SavesForOthers::Keep(const RecoveryRecords& save) {

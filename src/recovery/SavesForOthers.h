@@ -25,8 +25,8 @@ public:
     // Removes all, once there are no changes of others any more.
     void RemoveUnlessWanted(const std::string& own);
 
-    // Makes changes to an earlier state of the file changes to its present one. Of one variation the later change
-    // counts, which is the one that was saved. False when it is not known how the one state became the other.
+    // Makes changes to an earlier state of the file changes to its present one. Of a variation that the save has
+    // changed, too, that counts. False when it is not known how the one state became the other.
     [[nodiscard]] bool CarryTo(const FileIdentity& now, RecoveryFile& changes);
 
 private:

@@ -24,20 +24,20 @@ SlotNumbers::SlotNumbers(const DistrictRecord& saved) {
     m_firstCount = m_lastNumber;
 }
 
-SlotNumbers::SlotNumbers(const std::vector<std::int32_t>& numbers) {
+SlotNumbers::SlotNumbers(const std::vector<std::int32_t>& numbers, std::int32_t countAsRead)
+    : m_firstCount(countAsRead) {
     m_before.push_back(0);
     for (const std::int32_t number : numbers) {
         const std::size_t slot = m_before.size();
         Put(slot, number, 1);
         m_before.push_back(slot);
     }
-    m_firstCount = m_lastNumber;
 }
 
 SlotNumbers SlotNumbers::AsRead(std::int32_t count) {
     std::vector<std::int32_t> numbers(static_cast<std::size_t>(count));
     std::iota(numbers.begin(), numbers.end(), 1);
-    return SlotNumbers(numbers);
+    return {numbers, count};
 }
 
 std::int32_t SlotNumbers::NumberOf(std::int32_t slot) const {

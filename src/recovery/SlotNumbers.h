@@ -15,8 +15,8 @@ class SlotNumbers {
 public:
     // Of a district as it is being saved.
     explicit SlotNumbers(const DistrictRecord& saved);
-    // Of slots that have these numbers, in their order.
-    explicit SlotNumbers(const std::vector<std::int32_t>& numbers);
+    // Of slots that have these numbers, in their order. Those above `countAsRead` are new.
+    SlotNumbers(const std::vector<std::int32_t>& numbers, std::int32_t countAsRead);
     // Of as many slots as a line has when it is read.
     [[nodiscard]] static SlotNumbers AsRead(std::int32_t count);
 

@@ -100,7 +100,8 @@ RecoveryRecords UnsavedChanges::RecordsOfSave(const FileIdentity& saved) const {
     return records;
 }
 
-// The slots of a line as they will be numbered once it is saved; nothing when that is as before.
+// The slots of a line as they will be numbered once it is saved; nothing when that is as before. A line that was
+// changed says so all the same: it may have had slots in between that others have numbered alike.
 std::optional<LineNumbers> UnsavedChanges::NumbersNow(std::int32_t line) const {
     if (!IsDistrict(line)) {
         return std::nullopt;
@@ -115,7 +116,7 @@ std::optional<LineNumbers> UnsavedChanges::NumbersNow(std::int32_t line) const {
             numbers.now[static_cast<std::size_t>(number) - 1] = after.NumberOf(slot);
         }
     }
-    bool isAsBefore = before.FirstCount() == after.FirstCount();
+    bool isAsBefore = !m_numbers.contains(line) && before.FirstCount() == after.FirstCount();
     for (std::size_t i = 0; isAsBefore && i < numbers.now.size(); ++i) {
         isAsBefore = numbers.now[i] == static_cast<std::int32_t>(i) + 1;
     }

@@ -52,7 +52,7 @@ public:
 class LongNamesTest : public StateTest {
 protected:
     // Runs what must stay within half a gigabyte; 3 GB are listed.
-    static void Within(const std::function<void()>& work) {
+    static void Within([[maybe_unused]] const std::function<void()>& work) {
 #ifdef __SANITIZE_ADDRESS__
         GTEST_SKIP() << "the sanitizer ends a program that is refused memory";
 #else

@@ -272,7 +272,7 @@ TEST_F(RestoreChangesTest, ThatAreDamagedAreOfferedUpToThere) {
     content[content.find("Larch")] ^= 1;
     const std::string damaged = content;
     desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?\r\n"
-                      "Their file is damaged: only the first 1 can be had.  It is kept aside.",
+                      "Their file is damaged: only the first 1 can be had.  Their file is kept aside.",
                       BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes);
     Open();
     EXPECT_EQ(SlotsOf(1), (Texts{"Ash", "Fir", "Oak"}));

@@ -64,8 +64,10 @@ TEST_F(LeftOversTest, OfAnEditorThatDiedAreTakenInSpiteOfItsLock) {
 TEST_F(LeftOversTest, LocksOfTheDeadWithoutAFileAreRemoved) {
     ASSERT_EQ(other.Lock("1.changes.lock"), LockResult::Taken);
     other.Die();
-    EXPECT_TRUE(RecoveryFiles(folder).empty());
-    EXPECT_TRUE(folder.Names().empty());
+    Put("2.changes");
+    ASSERT_EQ(other.Lock("2.changes.lock"), LockResult::Taken);
+    RemoveDeadLocks(folder);
+    EXPECT_EQ(folder.Names(), (Texts{"2.changes", "2.changes.lock"}));
 }
 
 TEST_F(LeftOversTest, ThatHaveGoneMeanwhileAreNone) {

@@ -47,8 +47,8 @@ TEST_F(SlotNumbersTest, SayWhatANewPlaceFollows) {
 }
 
 TEST_F(SlotNumbersTest, OfSlotsInAnotherOrderGoOnBehindTheHighest) {
-    SlotNumbers numbers({2, 5, 1});
-    EXPECT_EQ(numbers.FirstCount(), 5);
+    SlotNumbers numbers({2, 5, 1}, 2);
+    EXPECT_EQ(numbers.FirstCount(), 2);
     EXPECT_EQ(Place(numbers, 2), "5x1");
     EXPECT_EQ(Place(numbers, 4), "6x1");
     EXPECT_EQ(numbers.NumberOf(1), 2);
