@@ -197,9 +197,10 @@ void Asking::Judge(LeftOver& leftOver) {
     RecoveryFile& file = *leftOver.file;
     m_held.insert(file.holds.begin(), file.holds.end());
     const bool isWhole = !file.isDamaged;
-    if (isWhole && (file.changes.empty() || m_held.contains(leftOver.name))) {
+    const bool isHeld = m_held.contains(leftOver.name) || m_saves.Hold(leftOver.name);
+    if (isWhole && (file.changes.empty() || isHeld)) {
         Drop(m_folder, leftOver);
-    } else if (isWhole && file.savedAs && file.savedAs->HasBytesOf(Unsaved.File())) {
+    } else if (isHeld || (isWhole && file.savedAs && file.savedAs->HasBytesOf(Unsaved.File()))) {
         SetAside(m_folder, leftOver.name); // the saved file's name may not be on the disk yet
     } else if (!m_saves.CarryTo(Unsaved.File(), file)) {
         TellSetAside(leftOver, "There are " + ChangesOf(leftOver) + " to an earlier state of this file.");

@@ -3,6 +3,7 @@
 #include "core/StateFolder.h"
 #include "recovery/LeftOvers.h"
 
+#include <algorithm>
 #include <iterator>
 #include <map>
 #include <set>
@@ -126,6 +127,13 @@ std::vector<const RecoveryFile*> SavesForOthers::Between(const FileIdentity& bef
         }
     }
     return state.HasBytesOf(before) ? saves : std::vector<const RecoveryFile*>();
+}
+
+bool SavesForOthers::Hold(const std::string& leftOver) {
+    const std::vector<RecoveryFile>& saves = All();
+    return std::any_of(saves.begin(), saves.end(), [&](const RecoveryFile& save) {
+        return std::find(save.holds.begin(), save.holds.end(), leftOver) != save.holds.end();
+    });
 }
 
 bool SavesForOthers::CarryTo(const FileIdentity& now, RecoveryFile& changes) {

@@ -25,6 +25,8 @@ public:
     // Removes all, once there are no changes of others any more.
     void RemoveUnlessWanted(const std::string& own);
 
+    // Whether a left-over file was taken over by an editor that has saved its changes since.
+    [[nodiscard]] bool Hold(const std::string& leftOver);
     // Makes changes to an earlier state of the file changes to its present one. Of a variation that the save has
     // changed, too, that counts. False when it is not known how the one state became the other.
     [[nodiscard]] bool CarryTo(const FileIdentity& now, RecoveryFile& changes);

@@ -101,6 +101,38 @@ TEST_F(SavesForOthersTest, WhatWasHadBackBeforeTheSaveHidesNothing) {
                                   HeaderOf("South") + "|Ivy\r\n");
 }
 
+// Its file could not be removed when that was done.
+TEST_F(SavesForOthersTest, WhatWasTakenOverAndSavedIsNotOfferedOnceMore) {
+    class Stubborn : public MemoryStateFolder {
+    public:
+        bool Remove(const std::string& name) override { return name != Theirs && MemoryStateFolder::Remove(name); }
+    };
+    class StubbornDesktop : public ScriptedDesktop {
+    public:
+        Stubborn folder;
+        StateFolder& State() override { return folder; }
+    } stubborn;
+    stubborn.folder.storage = desktop.state.storage;
+    Leave({{1, 5, "New", {}}});
+    stubborn.recordReports = true;
+    stubborn.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
+                       BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes);
+    ReadText(stubborn, Content);
+    Commands::RestoreChanges(stubborn);
+    Unsaved.Write(stubborn);
+    stubborn.ExpectSave(DataFilePath);
+    stubborn.ExpectBox("File Saved to " + DataFilePath, BoxIcon::Information);
+    SaveDistrictFile(stubborn);
+    stubborn.folder.Die();
+    ASSERT_TRUE(desktop.state.storage->files.contains(Theirs));
+
+    desktop.recordReports = true;
+    ReadText(desktop, std::string(stubborn.files[DataFilePath]));
+    Commands::RestoreChanges(desktop);
+    EXPECT_EQ(SlotsOf(1), (Texts{"Ash", "Elm", "Oak", "Yew", "New"}));
+    EXPECT_FALSE(desktop.state.storage->files.contains(Theirs));
+}
+
 TEST_F(SavesForOthersTest, ChangesThatWereSetAsideFitWhatWasSavedSince) {
     Leave({{1, 1, "Ashes", {}}});
     ASSERT_TRUE(desktop.state.Rename(Theirs, Theirs + ".aside"));
