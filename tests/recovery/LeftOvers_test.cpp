@@ -80,8 +80,10 @@ TEST_F(LeftOversTest, SayWhatTheyAre) {
     Put("2.changes", "no recovery file");
     Put("3.changes", "Quexal Editor, unsaved changes, version 9\nwhatever\n");
     EXPECT_TRUE(TakeLeftOver(folder, "1.changes")->file);
-    EXPECT_FALSE(TakeLeftOver(folder, "2.changes")->file);
-    EXPECT_FALSE(TakeLeftOver(folder, "2.changes")->isOfNewerVersion);
+    const auto none = TakeLeftOver(folder, "2.changes");
+    ASSERT_TRUE(none);
+    EXPECT_FALSE(none->file);
+    EXPECT_FALSE(none->isOfNewerVersion);
     const auto newer = TakeLeftOver(folder, "3.changes");
     EXPECT_FALSE(newer->file);
     EXPECT_TRUE(newer->isOfNewerVersion);
