@@ -11,6 +11,7 @@ using namespace CommonRoutines;
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     ResetState();
+    eFileEncoding = Encoding::Utf8; // as the list is in memory
     FuzzDesktop desktop({reinterpret_cast<const char*>(data), size}, "");
     LoadLowerCaseWords(desktop);
     const LowerCaseList& list = LowerCaseWords();
