@@ -83,7 +83,7 @@ bool MayBeReadAs(Encoding next, Desktop& desktop) {
     return desktop.MsgBox(question, BoxIcon::Exclamation, BoxButtons::OkCancel) == BoxAnswer::Ok;
 }
 
-void WriteTable(Desktop& desktop, const std::string& path, const std::string& content) {
+void WriteTable(Desktop& desktop, const std::string& path, const std::string& content, Encoding next) {
     Unsaved.NoteSaving(desktop, path, content);
     const bool saved = WriteFile(desktop, path, content);
     const bool isOpenElsewhere = saved && TheOpenFile.MoveTo(desktop, path, content);
@@ -94,7 +94,7 @@ void WriteTable(Desktop& desktop, const std::string& path, const std::string& co
     }
     desktop.ShowBusy(false);
     if (saved) {
-        eEncodingOnDisk = EncodingOf(content);
+        eEncodingOnDisk = next;
         desktop.MsgBox("File Saved to " + Wording::OfPath(path), BoxIcon::Information);
     }
     if (isOpenElsewhere) {
@@ -122,10 +122,11 @@ void SaveDistrictFile(Desktop& desktop) {
     desktop.ShowBusy(true);
     const std::string content = Encoded(DistrictFileContent(), eFileEncoding);
     desktop.ShowBusy(false);
+    const Encoding next = EncodingOf(content);
     // What others do while a question stands must be seen, so that their file is looked at last.
-    if (MayBeReadAs(EncodingOf(content), desktop) && MayReplaceChanged(desktop, *path)) {
+    if (MayBeReadAs(next, desktop) && MayReplaceChanged(desktop, *path)) {
         desktop.ShowBusy(true);
-        WriteTable(desktop, *path, content);
+        WriteTable(desktop, *path, content, next);
     }
 }
 

@@ -75,14 +75,17 @@ RecoveryRecords& UnsavedChanges::Records() {
 }
 
 void UnsavedChanges::NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes) {
-    const FileIdentity saved = IdentityOf(desktop.TruePath(path), bytes);
+    const std::string truePath = desktop.TruePath(path);
     if (m_records) {
-        m_records->AddSaving(saved);
+        m_records->AddSaving(IdentityOf(truePath, bytes));
         Write(desktop);
     }
     SavesForOthers saves(desktop.State(), m_file.path);
-    if (saved.path == m_file.path && !saved.HasBytesOf(m_file) && saves.AreWanted(m_name)) {
-        saves.Keep(RecordsOfSave(saved));
+    if (truePath == m_file.path && saves.AreWanted(m_name)) { // a digest of a large file is not made for nothing
+        const FileIdentity saved = IdentityOf(truePath, bytes);
+        if (!saved.HasBytesOf(m_file)) {
+            saves.Keep(RecordsOfSave(saved));
+        }
     }
 }
 
