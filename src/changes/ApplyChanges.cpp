@@ -31,10 +31,11 @@ bool UserAgrees(std::span<const Proposal> proposals, bool selectedOnly, Desktop&
 }
 
 // Adds a proposal that the district does not have yet. Returns false for one that it has, which is
-// then listed with the text that it repeats.
-bool AddProposal(std::int32_t lDistrict, std::string_view proposal, bool asSpelling, Desktop& desktop) {
+// then listed with the text that it repeats, which many may do.
+bool AddProposal(std::int32_t lDistrict, std::string_view proposal, bool asSpelling, SharedTexts& repeatedTexts,
+                 Desktop& desktop) {
     if (const auto repeated = RepeatedText(lDistrict, proposal)) {
-        AddDupePair(proposal, *repeated);
+        AddDupePair(proposal, repeatedTexts.Share(*repeated));
         return false;
     }
     const bool needsShriek = asSpelling && !proposal.starts_with('!');
@@ -65,6 +66,7 @@ std::optional<AppliedProposals> ApplyChanges(std::span<const Proposal> proposals
     }
     StartUndoStep(lCurrentDistrict);
     EmptyDupePairs();
+    SharedTexts repeatedTexts;
     AppliedProposals applied;
     for (const Proposal& proposal : proposals) {
         if (proposal.tag != Proposal::Valid) {
@@ -75,7 +77,7 @@ std::optional<AppliedProposals> ApplyChanges(std::span<const Proposal> proposals
         if (text.empty() || (bSelectedOnly && !proposal.ticked)) {
             continue;
         }
-        ++(AddProposal(lCurrentDistrict, text, bAsSpelling, desktop) ? applied.added : applied.ignored);
+        ++(AddProposal(lCurrentDistrict, text, bAsSpelling, repeatedTexts, desktop) ? applied.added : applied.ignored);
     }
     FindDuplicateVariations(lCurrentDistrict, KeepPairs);
     return applied;

@@ -35,7 +35,6 @@ public:
         m_texts.emplace(std::string_view(shared), shared);
         return shared;
     }
-    void Clear() { m_texts.clear(); }
 
 private:
     std::unordered_map<std::string_view, SharedText, SeededHash> m_texts; // each by itself

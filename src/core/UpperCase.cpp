@@ -5,30 +5,58 @@
 #include "core/State.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
+#include <cstring>
+#include <limits>
 
 namespace Ansi {
 
 namespace {
 
 constexpr std::size_t WordLength = sizeof(std::uint64_t);
-constexpr unsigned BitsPerCharacter = 8;
+constexpr int BitsPerCharacter = 8;
 
-constexpr auto UpperByte = [](char c) { return Upper(c); };
-constexpr auto SameByte = [](char c) { return c; };
+constexpr auto UpperBytes = [](std::uint64_t word) {
+    constexpr std::uint64_t inEachByte = 0x0101010101010101;
+    constexpr std::uint64_t highBits = inEachByte * 0x80;
+    if ((word & highBits) == 0) {
+        // ASCII: the high bit of a sum tells that a byte is not before "a", or is behind "z".
+        const std::uint64_t notBeforeA = word + inEachByte * (0x80 - 'a');
+        const std::uint64_t behindZ = word + inEachByte * (0x7F - 'z');
+        return word - ((notBeforeA & ~behindZ & highBits) >> 2); // 20 hexadecimal less for each small letter
+    }
+    std::uint64_t upper = 0;
+    for (int shift = 0; shift < std::numeric_limits<std::uint64_t>::digits; shift += BitsPerCharacter) {
+        upper |= std::uint64_t{static_cast<unsigned char>(Upper(static_cast<char>(word >> shift)))} << shift;
+    }
+    return upper;
+};
+constexpr auto SameBytes = [](std::uint64_t word) { return word; };
 
 // Up to eight bytes from a place on, the first one in the highest byte, filled up with NUL.
-template <typename Change>
-std::uint64_t Pack(std::string_view text, std::size_t from, Change change) {
-    const std::size_t end = std::min(text.size(), from + WordLength);
-    std::uint64_t word = 0;
-    for (std::size_t i = from; i < end; ++i) {
-        word = (word << BitsPerCharacter) | static_cast<unsigned char>(change(text[i]));
+std::uint64_t Pack(std::string_view text, std::size_t from) {
+    const auto take = [&](std::size_t place, std::size_t count) {
+        std::uint64_t word = 0;
+        for (std::size_t i = 0; i < count; ++i) {
+            word = (word << BitsPerCharacter) | static_cast<unsigned char>(text[place + i]);
+        }
+        return word;
+    };
+    if (from + WordLength <= text.size()) {
+        return take(from, WordLength);
     }
-    const std::size_t missing = from < end ? WordLength - (end - from) : WordLength;
-    return missing == WordLength ? 0 : word << (BitsPerCharacter * missing);
+    if (from >= text.size()) {
+        return 0;
+    }
+    const std::size_t length = text.size() - from;
+    // From the end of a longer text, eight bytes are taken at once all the same.
+    const std::uint64_t word =
+        text.size() >= WordLength ? take(text.size() - WordLength, WordLength) : take(from, length);
+    return word << (BitsPerCharacter * (WordLength - length));
 }
 
+// `change` makes the bytes that count of eight others.
 template <typename Change>
 std::uint64_t Hash(std::string_view text, Change change) {
     // Multiplying by the golden ratio, as in Knuth, The Art of Computer Programming 3, 6.4, spreads the
@@ -37,7 +65,7 @@ std::uint64_t Hash(std::string_view text, Change change) {
     constexpr int half = 32;
     std::uint64_t hash = text.size();
     for (std::size_t from = 0; from < text.size(); from += WordLength) {
-        hash = std::rotl((hash ^ Pack(text, from, change)) * goldenRatio, half);
+        hash = std::rotl((hash ^ change(Pack(text, from))) * goldenRatio, half);
     }
     return hash;
 }
@@ -69,23 +97,23 @@ std::strong_ordering CompareUpper(std::string_view a, std::string_view b) {
 }
 
 std::uint64_t HashUpper(std::string_view text) {
-    return IsBytewise(text) ? Hash(text, UpperByte) : Hash(Upper(text), SameByte);
+    return IsBytewise(text) ? Hash(text, UpperBytes) : Hash(Upper(text), SameBytes);
 }
 
 UpperPrefix::UpperPrefix(std::string_view text) {
     if (IsBytewise(text)) {
-        Fill(text, UpperByte);
+        Fill(text, UpperBytes);
     } else {
         // So many characters have at least as many bytes as a prefix can tell from a longer one.
-        Fill(Upper(FirstCharacters(text, Length + 1)), SameByte);
+        Fill(Upper(FirstCharacters(text, Length + 1)), SameBytes);
     }
 }
 
 template <typename Change>
 void UpperPrefix::Fill(std::string_view text, Change change) {
-    m_first = Pack(text, 0, change);
-    m_second = Pack(text, WordLength, change);
-    m_third = (Pack(text, 2 * WordLength, change) & ~LengthMask) | std::min(text.size(), Length + 1);
+    m_first = change(Pack(text, 0));
+    m_second = change(Pack(text, WordLength));
+    m_third = (change(Pack(text, 2 * WordLength)) & ~LengthMask) | std::min(text.size(), Length + 1);
 }
 
 UpperPrefix::Difference UpperPrefix::FirstDifference(const UpperPrefix& a, const UpperPrefix& b) {

@@ -41,7 +41,7 @@ public:
     [[nodiscard]] static Difference FirstDifference(const UpperPrefix& a, const UpperPrefix& b);
 
 private:
-    // From the bytes of an upper-case form, which `change` makes of those of the text.
+    // From the bytes of an upper-case form, which `change` makes of those of the text, eight at a time.
     template <typename Change>
     void Fill(std::string_view text, Change change);
 

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <functional>
+#include <numeric>
 
 namespace Utf8 {
 
@@ -27,16 +29,16 @@ constexpr bool IsCodePoint(char32_t number) {
     return number <= LastCodePoint && (number < FirstSurrogate || number > LastSurrogate);
 }
 
-// The text behind its first bytes of ASCII, which are passed over eight at a time.
+// The text behind its first bytes of ASCII, which are passed over in blocks.
 std::string_view WithoutAscii(std::string_view text) {
     constexpr std::uint64_t highBits = 0x8080808080808080;
-    std::uint64_t word = 0;
-    while (text.size() >= sizeof word) {
-        std::memcpy(&word, text.data(), sizeof word);
-        if ((word & highBits) != 0) {
+    std::array<std::uint64_t, 8> block{};
+    while (text.size() >= sizeof block) {
+        std::memcpy(block.data(), text.data(), sizeof block);
+        if ((std::reduce(block.begin(), block.end(), std::uint64_t{0}, std::bit_or<>()) & highBits) != 0) {
             break;
         }
-        text.remove_prefix(sizeof word);
+        text.remove_prefix(sizeof block);
     }
     const auto* const other = std::find_if_not(text.begin(), text.end(), [](char c) { return IsAscii(c); });
     return text.substr(static_cast<std::size_t>(other - text.begin()));

@@ -24,6 +24,9 @@ LowerCaseList List;
 
 // The list outlives the open file, and so its words are in UTF-8 whatever the texts of the file are.
 std::string LowerUtf8(std::string_view word, Encoding encoding) {
+    if (Utf8::IsAscii(word)) {
+        return Ansi::Lower(word);
+    }
     return LetterPairs::Lower(Recoded(std::string(word), encoding, Encoding::Utf8));
 }
 

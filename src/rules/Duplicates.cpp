@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace CommonRoutines {
@@ -15,8 +16,6 @@ namespace CommonRoutines {
 namespace {
 
 constexpr std::size_t DupePairStep = 5;
-
-SharedTexts secondTexts; // of DupePairs
 
 // Up to this many texts, comparing each with each is faster than sorting them.
 constexpr std::size_t FewTexts = 48;
@@ -59,16 +58,15 @@ std::vector<VariationKey> SortedKeys(std::int32_t lDistrict, std::int32_t count)
 
 void EmptyDupePairs() {
     DupePairs.assign(DupePairStep + 1, {});
-    secondTexts.Clear();
     lDupePairCount = 0;
 }
 
-void AddDupePair(std::string_view first, std::string_view second) {
+void AddDupePair(std::string_view first, SharedText second) {
     const auto place = static_cast<std::size_t>(lDupePairCount) + 1;
     if (place >= DupePairs.size()) {
         DupePairs.resize(place + DupePairStep + 1);
     }
-    DupePairs[place] = {first, secondTexts.Share(second)};
+    DupePairs[place] = {first, std::move(second)};
     ++lDupePairCount; // last, in case that there is not enough memory
 }
 
@@ -97,7 +95,7 @@ bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPa
             ++district.iDuplicateCount;
             markDuplicate(key, next);
             markDuplicate(next, key);
-            AddDupePair(key.Text(), next.Text());
+            AddDupePair(key.Text(), SharedText(next.Text()));
         }
     }
     return district.iDuplicateCount >= 1;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/SharedText.h"
+
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -15,6 +17,6 @@ bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPa
 void EmptyDupePairs();
 
 // Appends a pair to DupePairs, making room for five more when it is full.
-void AddDupePair(std::string_view first, std::string_view second);
+void AddDupePair(std::string_view first, SharedText second);
 
 } // namespace CommonRoutines

@@ -38,9 +38,8 @@ bool IsLonePercentAtEnd(std::string_view text, const PercentSigns& percent) {
 // volume. A third one in between is not looked at.
 bool IsBadDependency(std::string_view text, const PercentSigns& percent) {
     constexpr std::size_t fewestBeforeVolume = 3;
-    const std::string_view before = text.substr(0, percent.last);
     return percent.Several() && (!OpensWithDateMark(text) || percent.last + 1 == text.size() ||
-                                 Ansi::CharacterCount(before) < fewestBeforeVolume);
+                                 Ansi::CharacterCount(text.substr(0, percent.last)) < fewestBeforeVolume);
 }
 
 bool IsBlankAt(std::string_view text, std::size_t position) {

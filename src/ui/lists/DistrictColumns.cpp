@@ -15,9 +15,11 @@ using namespace CommonRoutines;
 
 namespace {
 
-// The bytes of Windows-1252, and of Unicode the Latin letters that need no shaping. A text with any other character
+// The characters that need no shaping: all of Windows-1252, and the Latin letters of Unicode. A text with any other
 // is measured as a whole.
-constexpr std::size_t CharacterCount = 0x250;
+constexpr std::size_t CodePageSize = 0x100;
+constexpr std::size_t LatinSize = 0x250;
+
 constexpr std::size_t NumberCount = 65536;
 constexpr std::string_view HeadingPadding = "WW";
 
@@ -25,10 +27,6 @@ constexpr std::string_view HeadingPadding = "WW";
 // sum too large to be one.
 constexpr double PartsOfAPixel = 64;
 constexpr std::uint32_t NotMeasured = 1U << 31U;
-
-std::size_t PlaceOf(char32_t first, char32_t second) {
-    return first * CharacterCount + second;
-}
 
 // Hands over the codes of the characters of a text, each with the one before it.
 template <typename Take>
@@ -64,7 +62,8 @@ constexpr double Slack = 2;
 } // namespace
 
 DistrictColumns::DistrictColumns(const QFont& font)
-    : m_metrics(font), m_pairAdvances(CharacterCount * CharacterCount, NotMeasured) {
+    : m_metrics(font), m_characterCount(TextsAreUtf8() ? LatinSize : CodePageSize),
+      m_pairAdvances(m_characterCount * m_characterCount, NotMeasured) {
     for (std::size_t column = 0; column < ColumnCount; ++column) {
         m_widths[column] = MeasureTextWidth(std::string(HeadingPadding).append(DistrictColumnTable[column].heading), 0);
     }
@@ -112,15 +111,14 @@ double DistrictColumns::UpperBound(std::string_view text) {
 std::uint64_t DistrictColumns::SumOfAdvances(std::string_view text) const {
     std::uint64_t sum = 0;
     ForEachPair(text, [&](char32_t before, char32_t code) {
-        const bool isKnown = before < CharacterCount && code < CharacterCount;
-        sum += isKnown ? m_pairAdvances[PlaceOf(before, code)] : NotMeasured;
+        sum += MayAddUp(before, code) ? m_pairAdvances[PlaceOf(before, code)] : NotMeasured;
     });
     return sum;
 }
 
 void DistrictColumns::MeasurePairs(std::string_view text) {
     ForEachPair(text, [&](char32_t before, char32_t code) {
-        if (before >= CharacterCount || code >= CharacterCount) {
+        if (!MayAddUp(before, code)) {
             return;
         }
         std::uint32_t& advance = m_pairAdvances[PlaceOf(before, code)];

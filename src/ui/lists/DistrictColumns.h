@@ -37,8 +37,15 @@ private:
     [[nodiscard]] double UpperBound(std::string_view text);
     [[nodiscard]] std::uint64_t SumOfAdvances(std::string_view text) const;
     void MeasurePairs(std::string_view text);
+    [[nodiscard]] bool MayAddUp(char32_t first, char32_t second) const {
+        return first < m_characterCount && second < m_characterCount;
+    }
+    [[nodiscard]] std::size_t PlaceOf(char32_t first, char32_t second) const {
+        return first * m_characterCount + second;
+    }
 
     QFontMetricsF m_metrics;
+    std::size_t m_characterCount; // those whose advances are added up
     std::array<int, ColumnCount> m_widths{};
     std::vector<std::uint32_t> m_pairAdvances; // in parts of a pixel, by first and second character
     // What need not be looked at again: numbers, by their unsigned form, and the texts that were wide enough
