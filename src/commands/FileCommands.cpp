@@ -19,6 +19,7 @@
 #include "recovery/UnsavedChanges.h"
 #include "rules/Capitals.h"
 
+#include <new>
 #include <utility>
 
 using namespace CommonRoutines;
@@ -56,12 +57,44 @@ void ResetWindow(Session& session) {
     ShowVariations(session, 0, {});
 }
 
-// What outlives the table, as a file of another encoding can have it.
-void Recode(Session& session, Encoding from) {
-    if (from != eFileEncoding) {
-        RecodeProposals(session, from, eFileEncoding);
-        RecodeUndoRing(from, eFileEncoding);
-        PutIntoEditBox(session, Recoded(session.view.edit.text, from, eFileEncoding));
+// The texts that outlive the table: proposals, what can be undone, and what is typed. They are in the encoding of the
+// open file, whichever that becomes.
+class StayingTexts {
+public:
+    explicit StayingTexts(Session& session) : m_session(session) {}
+
+    void FollowEncoding() {
+        if (m_encoding != eFileEncoding) {
+            RecodeProposals(m_session, m_encoding, eFileEncoding);
+            RecodeUndoRing(m_encoding, eFileEncoding);
+            PutIntoEditBox(m_session, Recoded(m_session.view.edit.text, m_encoding, eFileEncoding));
+            m_encoding = eFileEncoding;
+        }
+    }
+    void KeepEncoding() const { eFileEncoding = m_encoding; }
+
+private:
+    Session& m_session;
+    Encoding m_encoding = eFileEncoding;
+};
+
+void ReadAndShow(Session& session, StayingTexts& texts) {
+    ReadDistrictFile(session.desktop, [&] { texts.FollowEncoding(); });
+    if (sDataFileName.empty()) {
+        // Nothing is open, so nothing must be saved over the file that could not be read.
+        ApplyWindowMode(session);
+        return;
+    }
+    ShowCommentTypes(session);
+    if (iRepairAction == Quit) {
+        lLineCount = 0;
+    }
+    if (lLineCount > 0) {
+        RestoreChanges(session.desktop);
+        texts.FollowEncoding();
+        FillDistrictList(session);
+        EnterMode(session, FileOpen);
+        session.view.focus = Focus::Districts;
     }
 }
 
@@ -76,23 +109,16 @@ void ReadAndShow(Session& session, std::string path) {
     sDataFileName = std::move(path);
     bChanged = false;
     session.districtsByName.clear();
-    ReadDistrictFile(session.desktop, [&session, from = eFileEncoding] { Recode(session, from); });
-    if (sDataFileName.empty()) {
-        // Nothing is open, so nothing must be saved over the file that could not be read.
+    StayingTexts texts(session);
+    try {
+        ReadAndShow(session, texts);
+    } catch (const std::bad_alloc&) {
+        // Changes of which only some have been made must not pass for all.
+        ForgetDistrictFile(session.desktop);
+        texts.KeepEncoding();
+        ResetWindow(session);
         ApplyWindowMode(session);
-        return;
-    }
-    ShowCommentTypes(session);
-    if (iRepairAction == Quit) {
-        lLineCount = 0;
-    }
-    if (lLineCount > 0) {
-        const Encoding asRead = eFileEncoding;
-        RestoreChanges(session.desktop);
-        Recode(session, asRead);
-        FillDistrictList(session);
-        EnterMode(session, FileOpen);
-        session.view.focus = Focus::Districts;
+        throw;
     }
 }
 

@@ -4,6 +4,7 @@
 // unexpectedly. A part of the Desktop port. Files are named without their folder.
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,6 +30,8 @@ public:
     // A name that no file has. It begins with a number that is higher than those of all files, whatever the clock
     // says, and ends with one of the process.
     virtual std::string NewName() = 0;
+    // The number that a name begins with, 0 where it begins with none of those that NewName gives.
+    [[nodiscard]] static std::uint64_t NumberOf(std::string_view name);
 
     virtual std::optional<std::string> Read(const std::string& name) = 0;
     // True when there is certainly no such file.

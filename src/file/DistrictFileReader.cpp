@@ -314,6 +314,14 @@ Outcome ReadTable(Desktop& desktop, const std::function<void()>& takeEncoding) {
 
 } // namespace
 
+void ForgetDistrictFile(Desktop& desktop) {
+    ForgetTable();
+    EmptyDupePairs();
+    CommentTypes.Reset();
+    TheOpenFile.Close(desktop);
+    sDataFileName.clear();
+}
+
 void ReadDistrictFile(Desktop& desktop, const std::function<void()>& takeEncoding) {
     desktop.ShowBusy(true);
     desktop.EnterProgramFolder();
@@ -324,20 +332,17 @@ void ReadDistrictFile(Desktop& desktop, const std::function<void()>& takeEncodin
         problem = "The file cannot be read:\r\n";
     } catch (const std::bad_alloc&) {
         // A line end takes a whole record: a file may need a hundred times its size.
-        ForgetTable();
-        EmptyDupePairs();
-        CommentTypes.Reset();
         problem = "There is not enough memory for the file:\r\n";
     }
     if (outcome == Outcome::Read) {
         return;
     }
-    TheOpenFile.Close(desktop);
+    const std::string path = sDataFileName;
+    ForgetDistrictFile(desktop);
     desktop.ShowBusy(false);
     if (outcome == Outcome::Unreadable) {
-        desktop.MsgBox(problem + Wording::OfPath(sDataFileName), BoxIcon::Exclamation);
+        desktop.MsgBox(problem + Wording::OfPath(path), BoxIcon::Exclamation);
     }
-    sDataFileName.clear();
 }
 
 } // namespace CommonRoutines

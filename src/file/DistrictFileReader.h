@@ -21,4 +21,7 @@ class Desktop;
 void ReadDistrictFile(
     Desktop& desktop, const std::function<void()>& takeEncoding = [] {});
 
+// Leaves no file open and nothing of it, above all no memory. What has not been saved stays left over.
+void ForgetDistrictFile(Desktop& desktop);
+
 } // namespace CommonRoutines

@@ -1,9 +1,9 @@
 #include "recovery/LeftOvers.h"
 
 #include "core/StateFolder.h"
+#include "recovery/OpenMark.h"
 
 #include <algorithm>
-#include <charconv>
 #include <new>
 #include <set>
 #include <utility>
@@ -16,17 +16,10 @@ constexpr std::string_view Ending = ".changes";
 constexpr std::string_view LockEnding = ".changes.lock";
 constexpr std::string_view SaveEnding = ".saved";
 constexpr std::string_view AsideEnding = ".aside";
-constexpr std::string_view MarkEnding = ".open"; // see OpenMark
-
-std::uint64_t NumberOf(std::string_view name) {
-    std::uint64_t number = 0;
-    std::from_chars(name.data(), name.data() + name.size(), number);
-    return number;
-}
 
 bool IsEarlier(const std::string& a, const std::string& b) {
-    return std::pair<std::uint64_t, std::string_view>(NumberOf(a), a) <
-           std::pair<std::uint64_t, std::string_view>(NumberOf(b), b);
+    return std::pair<std::uint64_t, std::string_view>(StateFolder::NumberOf(a), a) <
+           std::pair<std::uint64_t, std::string_view>(StateFolder::NumberOf(b), b);
 }
 
 std::vector<std::string> LatestFirst(std::vector<std::string> names, std::string_view ending) {
@@ -95,7 +88,6 @@ void RemoveDeadLocks(StateFolder& folder) {
 }
 
 bool AreOthersAt(StateFolder& folder, std::string_view dataFile, const std::string& own) {
-    const std::string digest = DigestOf(dataFile);
     const std::string aside = std::string(Ending).append(AsideEnding);
     int marks = 0;
     for (const std::string& name : folder.Names()) {
@@ -105,7 +97,7 @@ bool AreOthersAt(StateFolder& folder, std::string_view dataFile, const std::stri
         if (changes.ends_with(Ending) && changes != own && RecoveryNames::MayBelongTo(changes, dataFile)) {
             return true;
         }
-        marks += name.starts_with(digest) && name.ends_with(MarkEnding) ? 1 : 0;
+        marks += OpenMark::IsOf(name, dataFile) ? 1 : 0;
     }
     return marks > 1; // one is this editor's own
 }
@@ -129,24 +121,24 @@ std::optional<LeftOver> TakeLeftOver(StateFolder& folder, const std::string& nam
     }
     const bool isGone = folder.IsGone(name);
     if (lock == LockResult::Taken && (isGone || !leftOver.problem.empty())) {
-        GiveBack(folder, leftOver);
+        GiveBack(folder, name);
     }
     return isGone ? std::nullopt : std::optional(std::move(leftOver));
 }
 
-void GiveBack(StateFolder& folder, const LeftOver& leftOver) {
-    folder.Unlock(RecoveryNames::LockOf(leftOver.name));
+void GiveBack(StateFolder& folder, const std::string& name) {
+    folder.Unlock(RecoveryNames::LockOf(name));
 }
 
-void Drop(StateFolder& folder, const LeftOver& leftOver) {
-    folder.Remove(leftOver.name);
-    GiveBack(folder, leftOver);
+void Drop(StateFolder& folder, const std::string& name) {
+    folder.Remove(name);
+    GiveBack(folder, name);
 }
 
 std::string SetAside(StateFolder& folder, const std::string& name) {
     const std::string aside = name + std::string(AsideEnding);
     const bool isRenamed = folder.Rename(name, aside);
-    folder.Unlock(RecoveryNames::LockOf(name));
+    GiveBack(folder, name);
     return folder.PathOf(isRenamed ? aside : name);
 }
 

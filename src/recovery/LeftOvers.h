@@ -51,11 +51,11 @@ void RemoveDeadLocks(StateFolder& folder);
 // it. Nothing when a living editor has it, or when it has gone.
 [[nodiscard]] std::optional<LeftOver> TakeLeftOver(StateFolder& folder, const std::string& name);
 
-void GiveBack(StateFolder& folder, const LeftOver& leftOver);
-void Drop(StateFolder& folder, const LeftOver& leftOver);
-
-// Keeps a left-over file where it is not offered any more, until the user deletes it: under its name with an
-// ending more. Without that it is offered again. Returns the path where it is kept, for a message.
+// What may become of a file of the state folder that is locked: another editor may have it, it goes, or it is kept
+// where it is not offered any more, until the user deletes it. That is under its name with an ending more; without
+// that it is offered again. Returns the path where it is kept, for a message.
+void GiveBack(StateFolder& folder, const std::string& name);
+void Drop(StateFolder& folder, const std::string& name);
 std::string SetAside(StateFolder& folder, const std::string& name);
 
 } // namespace CommonRoutines

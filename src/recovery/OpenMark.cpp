@@ -9,15 +9,20 @@ namespace {
 
 constexpr std::string_view Ending = ".open";
 
+// Marks of a file begin alike.
+std::string BeginningFor(std::string_view truePath) {
+    return IdentityOf({}, truePath).digest + '-';
+}
+
 } // namespace
 
 bool OpenMark::Set(Desktop& desktop, const std::string& path) {
     Clear(desktop);
     StateFolder& folder = desktop.State();
-    // Marks of a file begin alike. The own one is made before others are looked for, so that of two
-    // editors that open a file at the same time at least one is told.
-    const std::string beginning = IdentityOf({}, desktop.TruePath(path)).digest + '-';
-    const std::string own = beginning + folder.NewName().append(Ending);
+    const std::string truePath = desktop.TruePath(path);
+    // The own one is made before others are looked for, so that of two editors that open a file at the same time at
+    // least one is told.
+    const std::string own = BeginningFor(truePath) + folder.NewName().append(Ending);
     if (folder.Lock(own) == LockResult::Taken) {
         m_name = own;
     }
@@ -31,13 +36,17 @@ bool OpenMark::Set(Desktop& desktop, const std::string& path) {
             folder.Unlock(name); // whoever set it has died
             break;
         case LockResult::HeldByAnother:
-            isOpenElsewhere = isOpenElsewhere || name.starts_with(beginning);
+            isOpenElsewhere = isOpenElsewhere || IsOf(name, truePath);
             break;
         case LockResult::Impossible:
             break;
         }
     }
     return isOpenElsewhere;
+}
+
+bool OpenMark::IsOf(std::string_view name, std::string_view truePath) {
+    return name.ends_with(Ending) && name.starts_with(BeginningFor(truePath));
 }
 
 void OpenMark::Clear(Desktop& desktop) {

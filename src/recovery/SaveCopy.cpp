@@ -48,15 +48,6 @@ SaveCopy Parsed(const std::string& name, std::string bytes) {
     return copy;
 }
 
-void Unlock(StateFolder& folder, const std::string& name) {
-    folder.Unlock(RecoveryNames::LockOf(name));
-}
-
-void Drop(StateFolder& folder, const std::string& name) {
-    folder.Remove(name);
-    Unlock(folder, name);
-}
-
 // Puts a copy on the disk, and keeps it locked.
 bool Put(StateFolder& folder, const std::string& name, const std::string& bytes) {
     if (folder.Lock(RecoveryNames::LockOf(name)) != LockResult::Taken) {
@@ -91,7 +82,7 @@ void ForEachLeftOver(StateFolder& folder, const std::function<void(const SaveCop
         if (auto bytes = folder.Read(name)) {
             take(Parsed(name, std::move(*bytes)));
         } else {
-            Unlock(folder, name);
+            GiveBack(folder, name);
         }
     }
 }
@@ -113,10 +104,13 @@ void TellThatItIsKept(Desktop& desktop, const std::string& path, const std::stri
                    BoxIcon::Exclamation);
 }
 
-bool IsToBeFinished(Desktop& desktop, const SaveCopy& copy) {
+bool IsToBeFinished(Desktop& desktop, const SaveCopy& copy, bool isThere) {
+    const std::string_view state = isThere ? "which may be damaged" : "which is not there now";
+    const std::string_view question =
+        isThere ? "Do you want it to be written now, in place of what it holds?" : "Do you want it to be made there?";
     return desktop.MsgBox("The editor was stopped on " + desktop.State().TimeOf(copy.name) +
-                              " while it wrote this file, which may be damaged:\r\n" + Wording::OfPath(copy.path) +
-                              "\r\nDo you want it to be written now, in place of what it holds?",
+                              " while it wrote this file, " + std::string(state) + ":\r\n" +
+                              Wording::OfPath(copy.path) + "\r\n" + question,
                           BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
 }
 
@@ -130,13 +124,16 @@ bool DoesBusily(Desktop& desktop, const std::function<bool()>& work) {
 void Mend(Desktop& desktop, const SaveCopy& copy) {
     StateFolder& folder = desktop.State();
     const bool isWhole = DoesBusily(desktop, [&] { return desktop.ReadFile(copy.path) == copy.Content(); });
-    if (!isWhole && !IsToBeFinished(desktop, copy)) {
+    const bool isThere = !desktop.StampOf(copy.path).empty();
+    if (!isWhole && !IsToBeFinished(desktop, copy, isThere)) {
         KeepAside(desktop, copy, "What the file should have held is kept in");
-    } else if (isWhole || DoesBusily(desktop, [&] { return desktop.OverwriteFile(copy.path, copy.Content()); })) {
+    } else if (!isWhole && !DoesBusily(desktop, [&] { return desktop.OverwriteFile(copy.path, copy.Content()); })) {
+        GiveBack(folder, copy.name);
+        TellThatItIsKept(desktop, copy.path, copy.name);
+    } else if (isThere) {
         Drop(folder, copy.name);
     } else {
-        Unlock(folder, copy.name);
-        TellThatItIsKept(desktop, copy.path, copy.name);
+        KeepAside(desktop, copy, "The file has been made.  Should its own place come back, what it holds is also in");
     }
 }
 
@@ -147,7 +144,7 @@ void DropLeftOversOf(Desktop& desktop, const std::string& path) {
         if (IsOf(desktop, copy, path)) {
             Drop(folder, copy.name);
         } else {
-            Unlock(folder, copy.name);
+            GiveBack(folder, copy.name);
         }
     });
 }
@@ -168,7 +165,7 @@ bool OverwriteBehindCopy(Desktop& desktop, const std::string& path, std::string_
         Drop(folder, name);
         return isWritten;
     }
-    Unlock(folder, name);
+    GiveBack(folder, name);
     TellThatItIsKept(desktop, path, name);
     return false;
 }
@@ -199,7 +196,7 @@ void MendFile(Desktop& desktop, const std::string& path) {
         if (IsOf(desktop, copy, path)) {
             Mend(desktop, copy);
         } else {
-            Unlock(desktop.State(), copy.name);
+            GiveBack(desktop.State(), copy.name);
         }
     });
 }

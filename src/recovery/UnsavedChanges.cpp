@@ -9,24 +9,6 @@ namespace CommonRoutines {
 
 UnsavedChanges Unsaved;
 
-namespace {
-
-void Unlock(StateFolder& folder, std::string& name) {
-    if (!name.empty()) {
-        folder.Unlock(RecoveryNames::LockOf(name));
-        name.clear();
-    }
-}
-
-void RemoveFile(StateFolder& folder, std::string& name) {
-    if (!name.empty()) {
-        folder.Remove(name);
-        Unlock(folder, name);
-    }
-}
-
-} // namespace
-
 void UnsavedChanges::Begin(Desktop& desktop, const std::string& path, std::string_view bytes, Numbering numbering) {
     Release(desktop);
     m_following = true;
@@ -64,6 +46,18 @@ void UnsavedChanges::NoteRestored(std::int32_t line, std::span<const SlotChange>
         Records().AddChange(change);
     }
     m_numbers.insert_or_assign(line, std::move(numbers));
+}
+
+void UnsavedChanges::TakeUpEncoding() {
+    const auto file = m_records ? ParseRecoveryFile(m_records->Content()) : std::nullopt;
+    if (!file) {
+        return;
+    }
+    m_records.emplace(m_file, eFileEncoding);
+    for (const SlotChange& change : file->changes) {
+        m_records->AddChange(change);
+    }
+    m_onDisk = 0; // not so much as the first line
 }
 
 // The encoding is that of the table, which has been read by the time of the first change.
@@ -163,7 +157,7 @@ UnsavedChanges::Written UnsavedChanges::TryToWrite(StateFolder& folder) {
     bool isWritten = m_onDisk > 0 && m_takenOver.empty() && folder.Extend(m_name, m_onDisk, added);
     const bool isGone = !isWritten && m_onDisk > 0 && folder.IsGone(m_name);
     if (isGone) {
-        Unlock(folder, m_name); // its lock may have gone, too, and be another editor's
+        GiveBack(folder, std::exchange(m_name, {})); // its lock may have gone, too, and be another editor's
         m_onDisk = 0;
     }
     isWritten = isWritten || (HasName(folder) && folder.Replace(m_name, content));
@@ -196,26 +190,30 @@ void UnsavedChanges::TellOfOutage(Desktop& desktop) {
 }
 
 void UnsavedChanges::LeaveTakenOver(StateFolder& folder) {
-    for (TakenOver& leftOver : m_takenOver) {
+    for (const TakenOver& leftOver : m_takenOver) {
         if (leftOver.then == Then::IsSetAside) {
             SetAside(folder, leftOver.name);
         } else {
-            RemoveFile(folder, leftOver.name);
+            Drop(folder, leftOver.name);
         }
     }
     m_takenOver.clear();
 }
 
 void UnsavedChanges::Remove(Desktop& desktop) {
-    RemoveFile(desktop.State(), m_name);
+    if (!m_name.empty()) {
+        Drop(desktop.State(), std::exchange(m_name, {}));
+    }
     LeaveTakenOver(desktop.State());
     Release(desktop);
 }
 
 void UnsavedChanges::Release(Desktop& desktop) {
-    Unlock(desktop.State(), m_name);
-    for (TakenOver& leftOver : m_takenOver) {
-        Unlock(desktop.State(), leftOver.name);
+    if (!m_name.empty()) {
+        GiveBack(desktop.State(), m_name);
+    }
+    for (const TakenOver& leftOver : m_takenOver) {
+        GiveBack(desktop.State(), leftOver.name);
     }
     const bool hasTold = m_hasTold;
     *this = {};

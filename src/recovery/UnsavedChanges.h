@@ -35,6 +35,9 @@ public:
     // Notes the changes of a line that has been restored, and under which numbers its slots are noted from now on.
     void NoteRestored(std::int32_t line, std::span<const SlotChange> changes, SlotNumbers numbers);
 
+    // The texts, ASCII so far, are in another encoding from now on. To be called before anything is taken over.
+    void TakeUpEncoding();
+
     // Puts what has been noted on the disk. To be called before the user can do anything else. When it
     // fails, the user is told, once for every outage, and the next call tries again.
     void Write(Desktop& desktop);

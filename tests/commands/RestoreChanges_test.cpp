@@ -54,6 +54,15 @@ protected:
                               ".\r\nThey stay in\r\n/state/" + name,
                           BoxIcon::Exclamation);
     }
+    // Of the only variation of a district, which is null.
+    void ExpectRepair(const std::string& answer) {
+        desktop.ExpectChoice("District North has a null variation.\r\n"
+                             "The invalid dependency is % and it is variation #1\r\n"
+                             " As it is the only variation it can only be removed or replaced.\r\nRemove\r\n"
+                             "Type = Type a complete replacement for this variation\r\n"
+                             "Quit = Stop processing this file\r\n\r\n",
+                             {"Remove", "Type", "Quit"}, answer);
+    }
     void ExpectUntouched() {
         EXPECT_EQ(DistrictFileContent(), Content);
         EXPECT_FALSE(bChanged);
@@ -410,20 +419,12 @@ TEST_F(RestoreChangesTest, OfALivingEditorAreNotTouchedAndTheSecondEditorIsTold)
 }
 
 TEST_F(RestoreChangesTest, RepairsMadeWhileReadingAreAmongThem) {
-    const auto expectRepair = [&](const std::string& answer) {
-        desktop.ExpectChoice("District North has a null variation.\r\n"
-                             "The invalid dependency is % and it is variation #1\r\n"
-                             " As it is the only variation it can only be removed or replaced.\r\nRemove\r\n"
-                             "Type = Type a complete replacement for this variation\r\n"
-                             "Quit = Stop processing this file\r\n\r\n",
-                             {"Remove", "Type", "Quit"}, answer);
-    };
     const std::string content = HeaderOf("North") + "|%\r\n";
-    expectRepair("Type");
+    ExpectRepair("Type");
     desktop.ExpectInput("Please enter a replacement for the variation %", "Fir");
     Open(content);
     desktop.state.Die();
-    expectRepair("Remove");
+    ExpectRepair("Remove");
     ExpectQuestion(BoxAnswer::Yes);
     Open(content);
     EXPECT_EQ(SlotsOf(1), Texts{"Fir"});
@@ -516,4 +517,33 @@ TEST_F(RestoreChangesTest, ChangesInAnotherEncodingKeepTheirCharacters) {
     ExpectQuestion(BoxAnswer::Yes);
     Open(utf8);
     EXPECT_EQ(VariationAt(1, 1).Text, "Caf\xC3\xA9");
+}
+
+TEST_F(RestoreChangesTest, WithCharactersThatTheFileCannotHoldAreSetAside) {
+    const std::string content = HeaderOf("North") + "|Caf\xE9\r\n";
+    RecoveryFile file;
+    file.file = IdentityOf(DataFilePath, content);
+    file.encoding = Encoding::Utf8;
+    file.changes = {{1, 1, "D\xC5\xB5r", {}}};
+    Leave(file);
+    ExpectSetAside("The unsaved changes of 05 Mar 2026 14:07 have characters that this file cannot hold.");
+    Open(content);
+    EXPECT_EQ(DistrictFileContent(), content);
+}
+
+TEST_F(RestoreChangesTest, InUtf8AreWrittenAnewTogetherWithRepairsInAscii) {
+    const std::string content = HeaderOf("North") + "|%\r\n" + HeaderOf("South") + "|Yew\r\n";
+    RecoveryFile file;
+    file.file = IdentityOf(DataFilePath, content);
+    file.encoding = Encoding::Utf8;
+    file.changes = {{2, 1, "D\xC5\xB5r", {}}};
+    Leave(file);
+    ExpectRepair("Remove");
+    ExpectQuestion(BoxAnswer::Yes);
+    Open(content);
+    const auto written = ParseRecoveryFile(desktop.state.storage->files[Own(1001)]);
+    ASSERT_TRUE(written);
+    EXPECT_EQ(written->encoding, Encoding::Utf8);
+    EXPECT_EQ(written->changes, (std::vector<SlotChange>{{1, 1, "\t", {}}, {2, 1, "D\xC5\xB5r", {}}}));
+    EXPECT_EQ(written->holds, std::vector<std::string>{"0001.changes"});
 }

@@ -49,7 +49,7 @@ TEST_F(LeftOversTest, AreLockedUntilTheyAreGivenBack) {
     const auto taken = TakeLeftOver(folder, "1.changes");
     ASSERT_TRUE(taken);
     EXPECT_FALSE(TakeLeftOver(other, "1.changes"));
-    GiveBack(folder, *taken);
+    GiveBack(folder, taken->name);
     EXPECT_TRUE(TakeLeftOver(other, "1.changes"));
 }
 

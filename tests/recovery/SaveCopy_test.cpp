@@ -171,6 +171,22 @@ TEST_F(SaveCopyTest, ANoKeepsTheCopyAsideAndSaysWhere) {
     EXPECT_TRUE(Kept().locks.empty());
 }
 
+// Its disk may not be there, and what is made is then in another place.
+TEST_F(SaveCopyTest, AFileThatIsNotThereIsMadeIfWantedAndTheCopyIsKept) {
+    DieWriting();
+    desktop.files.erase(Path);
+    desktop.ExpectBox("The editor was stopped on 05 Mar 2026 14:07 while it wrote this file, which is not there "
+                      "now:\r\n" +
+                          Path + "\r\nDo you want it to be made there?",
+                      BoxIcon::Question, BoxButtons::YesNoDefaultNo, BoxAnswer::Yes);
+    desktop.ExpectBox("The file has been made.  Should its own place come back, what it holds is also "
+                      "in\r\n/state/1001.copy.aside",
+                      BoxIcon::Exclamation);
+    MendFiles(desktop);
+    EXPECT_EQ(Content(), New);
+    EXPECT_TRUE(Kept().files.at("1001.copy.aside").ends_with(New));
+}
+
 TEST_F(SaveCopyTest, AFileThatIsWholeAlreadyIsNotAskedAbout) {
     DieWriting();
     desktop.files[Path] = New;

@@ -67,7 +67,7 @@ public:
     bool IsGone(const std::string& name) override { return !storage->files.contains(name); }
     bool Replace(const std::string& name, std::string_view content) override {
         if (canWrite) {
-            storage->files[name] = content;
+            storage->files.insert_or_assign(name, std::string(content));
         }
         return canWrite;
     }
@@ -76,16 +76,16 @@ public:
         if (!canWrite || file == storage->files.end() || file->second.size() < kept) {
             return false;
         }
-        file->second.resize(kept);
-        file->second += added;
+        file->second = file->second.substr(0, kept).append(added);
         return true;
     }
     bool Rename(const std::string& name, const std::string& newName) override {
+        std::string key(newName);
         auto file = storage->files.extract(name);
         if (file.empty()) {
             return false;
         }
-        file.key() = newName;
+        file.key() = std::move(key);
         storage->files.insert(std::move(file));
         return true;
     }
@@ -96,10 +96,11 @@ public:
         if (!canLock) {
             return CommonRoutines::LockResult::Impossible;
         }
-        if (!storage->locks.insert(name).second) {
+        if (storage->locks.contains(name)) {
             return CommonRoutines::LockResult::HeldByAnother;
         }
         m_locks.insert(name);
+        storage->locks.insert(name);
         return CommonRoutines::LockResult::Taken;
     }
     void Unlock(const std::string& name) override {

@@ -114,7 +114,7 @@ std::optional<std::string> ScriptedDesktop::ChooseFileToOpen(const FileRequest& 
 
 std::optional<std::string> ScriptedDesktop::ChooseFileToSave(const FileRequest& request) {
     lastRequest = request;
-    return Play("save dialogue");
+    return savesTo ? savesTo : Play("save dialogue");
 }
 
 std::optional<std::string> ScriptedDesktop::ReadFile(const std::string& path) {

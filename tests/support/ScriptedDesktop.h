@@ -37,6 +37,7 @@ public:
 
     // Boxes are confirmed without a look: for rounds that meet with any of them.
     bool confirmsBoxes = false;
+    std::optional<std::string> savesTo; // so are save dialogues, with this file
 
     // The machine.
     std::map<std::string, std::string> files;

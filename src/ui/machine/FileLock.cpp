@@ -1,6 +1,7 @@
 #include "ui/machine/FileLock.h"
 
 #include <QFile>
+#include <QThread>
 
 // Goes past the toolkit to the system, since the toolkit tells who has a lock from what is written in it.
 // A process that is killed, or finds the disk full, before it has written that leaves a lock for ever.
@@ -21,6 +22,10 @@ using namespace CommonRoutines;
 
 namespace {
 
+// Whoever looks whether a lock is dead has it for a moment.
+constexpr int MostLooks = 3;
+constexpr unsigned long LookMicroseconds = 500;
+
 // Whether the file that is open is still the one with this name: whoever had it before may just have
 // removed it.
 bool IsStillThere(int handle, const char* path) {
@@ -34,7 +39,7 @@ bool IsStillThere(int handle, const char* path) {
 
 LockResult FileLock::Take(const QString& path) {
     const QByteArray name = QFile::encodeName(path);
-    for (;;) {
+    for (int looks = 0;; ++looks) {
         const int handle = open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
         if (handle < 0) {
             m_problem = qt_error_string(errno);
@@ -44,6 +49,10 @@ LockResult FileLock::Take(const QString& path) {
             const bool held = errno == EWOULDBLOCK;
             m_problem = held ? QString() : qt_error_string(errno);
             close(handle);
+            if (held && looks < MostLooks) {
+                QThread::usleep(LookMicroseconds);
+                continue;
+            }
             return held ? LockResult::HeldByAnother : LockResult::Impossible;
         }
         if (IsStillThere(handle, name.constData())) {

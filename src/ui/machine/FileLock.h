@@ -5,12 +5,13 @@
 #include <QString>
 #include <QtGlobal>
 
-namespace Ui {
-
 #ifndef Q_OS_UNIX
 #include <QLockFile>
+
 #include <memory>
 #endif
+
+namespace Ui {
 
 // A file that one owner at a time can have. It ends with its owner, or with the process, however that ends. The
 // system itself holds the lock, and nothing has to be read from the file to tell who lives.

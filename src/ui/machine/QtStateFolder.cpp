@@ -13,7 +13,6 @@
 #include <QStandardPaths>
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 
 #ifdef Q_OS_UNIX
@@ -68,16 +67,6 @@ void MakeFolder() {
         QFile::setPermissions(folder.filePath(),
                               QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     }
-}
-
-// The number that a name begins with. One that nothing here has given is no reason to run out of numbers, and marks
-// of open files begin with something else.
-quint64 NumberOf(const std::string& name) {
-    constexpr quint64 greatest = 1'000'000'000'000;
-    quint64 number = 0;
-    const char* const end = std::from_chars(name.data(), name.data() + name.size(), number).ptr;
-    const bool isNumber = end != name.data() + name.size() && *end == '-';
-    return isNumber && number <= greatest ? number : 0;
 }
 
 } // namespace
@@ -141,8 +130,15 @@ bool QtStateFolder::Extend(const std::string& name, std::size_t kept, std::strin
     return DurableFile::Extend(FilePath(name), kept, added);
 }
 
+// The toolkit would copy what cannot be renamed, and half a copy could be left.
 bool QtStateFolder::Rename(const std::string& name, const std::string& newName) {
-    return QFile::rename(FilePath(name), FilePath(newName));
+    std::error_code error;
+    if (IsGone(newName)) {
+        std::filesystem::rename(QFileInfo(FilePath(name)).filesystemFilePath(),
+                                QFileInfo(FilePath(newName)).filesystemFilePath(), error);
+        return !error;
+    }
+    return false;
 }
 
 bool QtStateFolder::Remove(const std::string& name) {
