@@ -3,9 +3,9 @@
 #include "ui/Text.h"
 #include "ui/machine/DateTimeText.h"
 #include "ui/machine/DurableFile.h"
+#include "ui/machine/FileDialogues.h"
 #include "ui/machine/FilePlace.h"
 #include "ui/machine/Memory.h"
-#include "ui/machine/PlainBoxes.h"
 #include "ui/machine/Printing.h"
 #include "ui/machine/ReadableName.h"
 #include "ui/machine/SettingsFile.h"
@@ -18,7 +18,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -107,16 +107,6 @@ QString SettingName(std::string_view section, std::string_view key) {
     return Text::ToQt(section) + QLatin1Char('/') + Text::ToQt(key);
 }
 
-// Also where no file is and none could be made.
-bool IsReadOnly(const QString& path) {
-    const QFileInfo file(path);
-    if (file.exists()) {
-        return !file.isWritable();
-    }
-    const QFileInfo made(file.isSymLink() ? file.symLinkTarget() : path);
-    return !QFileInfo(made.absolutePath()).isWritable();
-}
-
 // The toolkit's label takes the focus from a click alone. It may only take it by Tab when a button has it already,
 // which is known once the box is shown.
 void LetTabReachText(QMessageBox& box) {
@@ -198,43 +188,12 @@ void QtDesktop::ShowReport(const Report& report) {
     VarCheck(report, *this, m_window).exec();
 }
 
-std::optional<std::string> QtDesktop::Choose(QFileDialog& dialog, const FileRequest& request) {
-    if (!request.title.empty()) {
-        dialog.setWindowTitle(Text::ForList(request.title));
-    }
-    if (!request.folder.empty()) {
-        dialog.setDirectory(Text::PathToQt(request.folder));
-    }
-    if (!request.fileName.empty()) {
-        dialog.selectFile(Text::PathToQt(request.fileName));
-    }
-    const PlainBoxes plain;
-    dialog.setDefaultSuffix(Text::ToQt(request.defaultExtension));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return std::nullopt;
-    }
-    return Text::PathFromQt(dialog.selectedFiles().constFirst());
-}
-
 std::optional<std::string> QtDesktop::ChooseFileToOpen(const FileRequest& request) {
-    SettingsFile::KeepToolkitFromWaiting();
-    QFileDialog dialog(m_window, QStringLiteral("Open"));
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    return Choose(dialog, request);
+    return FileDialogues::ChooseToOpen(m_window, request);
 }
 
 std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& request) {
-    SettingsFile::KeepToolkitFromWaiting();
-    QFileDialog dialog(m_window, QStringLiteral("Save As"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.asksBeforeReplacing);
-    for (;;) {
-        auto path = Choose(dialog, request);
-        if (!path || !IsReadOnly(Text::PathToQt(*path))) {
-            return path;
-        }
-        MsgBox("This file is read-only. Please choose another name.", BoxIcon::Exclamation, BoxButtons::Ok);
-    }
+    return FileDialogues::ChooseToSave(m_window, request, *this);
 }
 
 std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
@@ -244,7 +203,7 @@ std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
 }
 
 bool QtDesktop::HasContent(const std::string& path) {
-    return QFileInfo(Text::PathToQt(path)).size() > 0;
+    return QFileInfo(ReadableName(path).ForToolkit()).size() > 0;
 }
 
 bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
@@ -257,16 +216,18 @@ bool QtDesktop::PutTogether(const PieceSource& pieces, const std::function<bool(
 }
 
 bool QtDesktop::StaysInPlace(const std::string& path) {
-    return FilePlace::MustBeKept(Text::PathToQt(path));
+    return ReadableName(path).IsStandIn() || FilePlace::MustBeKept(Text::PathToQt(path));
 }
 
 bool QtDesktop::OverwriteFile(const std::string& path, std::string_view content) {
-    return DurableFile::Overwrite(Text::PathToQt(path), content,
+    const ReadableName name(path);
+    return DurableFile::Overwrite(name.ForToolkit(), content,
                                   [this](double part) { ShowProgress("Writing the file", part); });
 }
 
 std::string QtDesktop::StampOf(const std::string& path) {
-    const QFileInfo file(Text::PathToQt(path));
+    const ReadableName name(path);
+    const QFileInfo file(name.ForToolkit());
     if (!file.exists()) {
         return {};
     }

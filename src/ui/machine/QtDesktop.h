@@ -7,8 +7,6 @@
 #include <QPointer>
 #include <QWidget>
 
-class QFileDialog;
-
 namespace Ui {
 
 // The desktop as Qt shows it. Message boxes, dialogues, settings and the printer are named nowhere else.
@@ -54,7 +52,6 @@ public:
 private:
     CommonRoutines::BoxAnswer ShowBox(const QString& title, const CommonRoutines::Wording& text,
                                       CommonRoutines::BoxIcon icon, CommonRoutines::BoxButtons buttons);
-    std::optional<std::string> Choose(QFileDialog& dialog, const CommonRoutines::FileRequest& request);
 
     QPointer<QWidget> m_window;
     QtStateFolder m_state;

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <map>
 #include <memory>
 
@@ -31,7 +32,7 @@ private:
     static QString FilePath(const std::string& name);
 
     std::map<std::string, std::unique_ptr<FileLock>> m_locks;
-    quint64 m_lastNumber = 0; // given out
+    std::uint64_t m_lastNumber = 0; // given out
     std::string m_problem;
 };
 

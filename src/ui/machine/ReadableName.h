@@ -4,8 +4,8 @@
 
 #include <string>
 
-// A name by which the toolkit can read a file. It knows names in UTF-8 alone; a file with another one is opened by its
-// bytes, and goes by the number of its handle as long as this lives.
+// A name by which the toolkit can read and overwrite a file. It knows names in UTF-8 alone; a file with another one is
+// opened by its bytes, and goes by the number of its handle as long as this lives.
 class ReadableName {
 public:
     explicit ReadableName(const std::string& path);
@@ -14,6 +14,8 @@ public:
     ReadableName& operator=(const ReadableName&) = delete;
 
     [[nodiscard]] const QString& ForToolkit() const { return m_name; }
+    // Whether it is the number of a handle.
+    [[nodiscard]] bool IsStandIn() const { return m_handle >= 0; }
 
 private:
     int m_handle = -1;

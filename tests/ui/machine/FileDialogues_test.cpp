@@ -9,8 +9,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTimer>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include <unistd.h>
 
@@ -36,6 +41,16 @@ protected:
                               ForAllToRead | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
     }
     void ExpectRefused(const std::string& path, bool isThere);
+    // The guide takes one that comes again for answered.
+    static void RejectWhenShown(QDialog& dialogue) {
+        auto* const timer = new QTimer(&dialogue);
+        QObject::connect(timer, &QTimer::timeout, &dialogue, [&dialogue] {
+            if (dialogue.isVisible()) {
+                dialogue.reject();
+            }
+        });
+        timer->start(10);
+    }
     FileRequest InFolder() const { return {"", Folder(), "", ""}; }
 
     static constexpr QFile::Permissions ForAllToRead = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
@@ -210,4 +225,47 @@ TEST_F(FileDialoguesTest, AForeignFileNameComesThroughUnchanged) {
     const std::string path = Path("d") + "\xC4\x85\xC3\xA9.txt";
     ChooseNext(path);
     EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), path);
+}
+
+// The toolkit can neither show such a name nor know that there is a file.
+TEST_F(FileDialoguesTest, AFileWhoseNameIsNoTextIsSavedUnderItsOwnNameAfterAQuestion) {
+    const std::string name = "caf\xE9.txt";
+    const std::string path = Folder() + '/' + name;
+    std::ofstream(path) << "old";
+    const auto removed = qScopeGuard([&] { std::filesystem::remove(path); }); // which the toolkit cannot
+    const FileRequest request{"", Folder(), name, ""};
+    for (const bool isWanted : {false, true}) {
+        guide.Next([=, this](QWidget& dialogue) {
+            guide.Next([&dialogue, isWanted](QWidget& question) {
+                EXPECT_TRUE(dynamic_cast<QMessageBox&>(question).text().startsWith(
+                    QStringLiteral("This file exists already:")));
+                if (!isWanted) {
+                    RejectWhenShown(dynamic_cast<QDialog&>(dialogue));
+                }
+                DialogueGuide::Press(question, isWanted ? "Yes" : "No");
+            });
+            dynamic_cast<QDialog&>(dialogue).accept();
+        });
+        EXPECT_EQ(desktop.ChooseFileToSave(request), isWanted ? std::optional(path) : std::nullopt);
+    }
+    const std::string stamp = desktop.StampOf(path);
+    EXPECT_NE(stamp, "");
+    EXPECT_TRUE(desktop.HasContent(path));
+    EXPECT_TRUE(desktop.StaysInPlace(path)) << "a new file would get another name";
+    EXPECT_TRUE(desktop.OverwriteFile(path, "what is new"));
+    EXPECT_EQ(desktop.ReadFile(path), "what is new");
+    EXPECT_NE(desktop.StampOf(path), stamp);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Folder()), std::filesystem::directory_iterator()), 1);
+}
+
+TEST_F(FileDialoguesTest, ANameThatOnlyLooksLikeTheProposedOneIsItself) {
+    const std::string name = "caf\xE9.txt";
+    std::ofstream(Folder() + '/' + name) << "old";
+    const auto removed = qScopeGuard([&] { std::filesystem::remove(Folder() + '/' + name); });
+    const std::string alike = Existing("caf\uFFFD.txt");
+    guide.Next([&, this](QWidget& dialogue) {
+        PressNext("Yes"); // of the toolkit
+        DialogueGuide::ChooseFile(dialogue, alike);
+    });
+    EXPECT_EQ(desktop.ChooseFileToSave({"", Folder(), name, ""}), alike);
 }

@@ -128,6 +128,17 @@ TEST_F(StateFolderTest, KnowsWhatHasGone) {
     EXPECT_FALSE(folder.IsGone("a"));
 }
 
+TEST_F(StateFolderTest, RenamesNothingOntoAnotherFile) {
+    EXPECT_TRUE(folder.Replace("1.changes", "one"));
+    EXPECT_TRUE(folder.Replace("1.changes.aside", "kept by the user"));
+    EXPECT_FALSE(folder.Rename("1.changes", "1.changes.aside"));
+    EXPECT_EQ(folder.Read("1.changes"), "one");
+    EXPECT_EQ(folder.Read("1.changes.aside"), "kept by the user");
+    EXPECT_TRUE(folder.Rename("1.changes", "2.changes.aside"));
+    EXPECT_TRUE(folder.IsGone("1.changes"));
+    EXPECT_EQ(folder.Read("2.changes.aside"), "one");
+}
+
 TEST_F(StateFolderTest, SaysWhyItCannot) {
     static_cast<void>(folder.Names());
     EXPECT_EQ(folder.Problem(), ""); // that there is no folder yet is none
