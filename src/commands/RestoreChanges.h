@@ -13,7 +13,8 @@ namespace Commands {
 // The texts come back in the encoding of the open file. One that is ASCII takes on the UTF-8 of its changes.
 //
 // Recovery files of the file that do not fit it, or are damaged, are set aside with a message. None is
-// ever made in part. Expects the open file to be the one that was read.
+// ever made in part: where there is not enough memory, it throws, and the caller must forget the table. Expects the
+// open file to be the one that was read.
 void RestoreChanges(CommonRoutines::Desktop& desktop);
 
 } // namespace Commands
