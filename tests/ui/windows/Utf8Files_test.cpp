@@ -228,3 +228,14 @@ TEST_F(Utf8FilesTest, ATextThatIsTooLongIsRefusedWholeWithABeep) {
     Click("cbOk");
     EXPECT_TRUE(Slots() == "|D" + W + "r|" + Repeated(W, 100'000));
 }
+
+TEST_F(Utf8FilesTest, WhatIsTooLongIsNotCutInsideACharacter) {
+    OpenWelsh();
+    const QString letters(199'998, QLatin1Char('a'));
+    Type(QStringLiteral("z"));
+    Key("tbEdit", Qt::Key_Home);
+    Paste(letters + QStringLiteral("\U0001F600"));
+    EXPECT_TRUE(EditText() == letters + QLatin1Char('z'));
+    EXPECT_EQ(Box().cursorPosition(), letters.size());
+    EXPECT_GE(desktop.beeps, 1);
+}
