@@ -62,11 +62,14 @@ std::string WhyNone(const RecoveryFile& file) {
 std::string WhatIsMissing(const RecoveryFile& file) {
     std::string missing;
     if (file.isDamaged) {
-        missing = "\r\nTheir file is damaged: only the first " + std::to_string(file.changes.size()) + " can be had.";
+        const std::size_t count = file.changes.size();
+        missing = "\r\nTheir file is damaged: only the first ";
+        missing += count == 1 ? "can be had." : std::to_string(count) + " can be had.";
     }
     if (file.overtaken > 0) {
-        missing += "\r\n" + std::to_string(file.overtaken) +
-                   " more are left out: they are about what has been changed and saved since.";
+        missing += "\r\n" + std::to_string(file.overtaken);
+        missing += file.overtaken == 1 ? " more is left out: it is" : " more are left out: they are";
+        missing += " about what has been changed and saved since.";
     }
     return missing.empty() ? missing : missing + "  Their file is kept aside.";
 }

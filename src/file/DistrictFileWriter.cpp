@@ -62,7 +62,7 @@ bool MayBeReadAs(Encoding next, Desktop& desktop) {
     if (next == eFileEncoding || next == eEncodingOnDisk || lLineCount == 0) {
         return true;
     }
-    const std::string question = std::string(WhatChanges(next)) + "\r\nOk saves it like that.";
+    const std::string question = std::string(WhatChanges(next)) + "\r\nOK saves it like that.";
     return desktop.MsgBox(question, BoxIcon::Exclamation, BoxButtons::OkCancel) == BoxAnswer::Ok;
 }
 

@@ -89,6 +89,8 @@ public:
     // The box holds this text from now on, which it did not before.
     virtual void Enter(const std::string& text) = 0;
     virtual void Press(Commands::Control button) = 0;
+    // False where the window stays.
+    virtual bool Close() = 0;
     [[nodiscard]] virtual ShownWindow Shown() const = 0;
     [[nodiscard]] virtual bool IsEnabled(Commands::Control control) const = 0;
 
@@ -141,6 +143,12 @@ public:
         m_session.Run([&](Commands::Session& session) { Commands::TypeText(session, text); });
     }
     void Press(Commands::Control button) override { m_session.Run(Commands::CommandOf(button).run); }
+
+    bool Close() override {
+        bool isClosed = false;
+        Do([&](Commands::Session& session) { isClosed = Commands::ConfirmClose(session); });
+        return isClosed;
+    }
 
     // A command without a button.
     void Do(const std::function<void(Commands::Session&)>& command) { m_session.Run(command); }

@@ -81,6 +81,24 @@ public:
         }
     }
 
+    // Whether closing the window would lose a change, or what is typed.
+    [[nodiscard]] bool WouldLose() const { return m_slow.changed || m_isUnsaved || m_slow.typed; }
+
+    // Closes the window, which asks where something would be lost, and only there. True when it has gone.
+    bool Close(bool givesUp) {
+        const bool asks = WouldLose();
+        m_slow.changed = m_slow.changed || m_isUnsaved;
+        if (asks) {
+            m_player.desktop.ExpectBox("This will loose your changes.\r\nAre you sure you want to do this?",
+                                       CommonRoutines::BoxIcon::Question, CommonRoutines::BoxButtons::YesNoDefaultNo,
+                                       givesUp ? CommonRoutines::BoxAnswer::Yes : CommonRoutines::BoxAnswer::No);
+        }
+        const bool isClosed = m_player.Close();
+        m_player.desktop.CheckDone();
+        EXPECT_EQ(isClosed, givesUp || !asks);
+        return isClosed;
+    }
+
     // What both show, and the table behind it.
     [[nodiscard]] std::string Shown() const {
         const ShownWindow window = m_player.Shown();
@@ -273,8 +291,17 @@ private:
     void Both(Control button, Slowly slowly) {
         if (m_player.IsEnabled(button)) {
             m_player.Press(button);
+            const std::vector<Texts> before = SlotsOf(m_slow.lines);
             slowly(m_slow);
+            m_isUnsaved = m_isUnsaved || SlotsOf(m_slow.lines) != before;
         }
+    }
+    static std::vector<Texts> SlotsOf(const std::vector<Slow::Line>& lines) {
+        std::vector<Texts> slots;
+        for (const Slow::Line& line : lines) {
+            slots.push_back(line.slots);
+        }
+        return slots;
     }
 
     void Choose() {
@@ -379,6 +406,7 @@ private:
         if (!cancels) {
             m_player.desktop.ExpectBox("File Saved to " + DataFilePath, CommonRoutines::BoxIcon::Information);
             m_hasSaved = true;
+            m_isUnsaved = false;
         }
         Both(Control::cbSave, [](auto& slow) { slow.Save(); });
     }
@@ -387,7 +415,8 @@ private:
     bool m_wild;
     bool m_utf8;
     bool m_hasSaved = false;
-    bool m_hasty; // goes from district to district, so that the journal runs out of steps
+    bool m_isUnsaved = false; // also of changes that were taken back since
+    bool m_hasty;             // goes from district to district, so that the journal runs out of steps
     EditingPlayer& m_player;
     Slow::Editor m_slow;
     std::vector<Slow::Line> m_original;

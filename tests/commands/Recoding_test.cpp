@@ -13,10 +13,10 @@ const std::string Dwr = "D\xC5\xB5r"; // Welsh: water
 const std::string ProposalsPath = "/data/proposals.txt";
 const std::string BecomesUtf8 =
     "What is left in the file will be taken for UTF-8, no longer for Windows-1252, and some of its characters will be "
-    "others.  It is opened anew as it will be read then.\r\nOk saves it like that.";
+    "others.  It is opened anew as it will be read then.\r\nOK saves it like that.";
 const std::string BecomesMarked =
     "The file begins with what will be taken for a byte order mark, and its first name goes without it.  It is opened "
-    "anew as it will be read then.\r\nOk saves it like that.";
+    "anew as it will be read then.\r\nOK saves it like that.";
 
 class RecodingTest : public StateTest {
 protected:

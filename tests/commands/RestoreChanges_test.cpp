@@ -281,12 +281,23 @@ TEST_F(RestoreChangesTest, ThatAreDamagedAreOfferedUpToThere) {
     content[content.find("Larch")] ^= 1;
     const std::string damaged = content;
     desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?\r\n"
-                      "Their file is damaged: only the first 1 can be had.  Their file is kept aside.",
+                      "Their file is damaged: only the first can be had.  Their file is kept aside.",
                       BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes);
     Open();
     EXPECT_EQ(SlotsOf(1), (Texts{"Ash", "Fir", "Oak"}));
     EXPECT_EQ(desktop.state.Kept(), (Texts{"0001.changes.aside", Own()}));
     EXPECT_EQ(desktop.state.Read("0001.changes.aside"), damaged);
+}
+
+TEST_F(RestoreChangesTest, ThatAreDamagedAreCounted) {
+    Leave({{1, 2, "Fir", {}}, {1, 1, "Larch", {}}, {1, 3, "Ivy", {}}});
+    std::string& content = desktop.state.storage->files["0001.changes"];
+    content[content.find("Ivy")] ^= 1;
+    desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?\r\n"
+                      "Their file is damaged: only the first 2 can be had.  Their file is kept aside.",
+                      BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes);
+    Open();
+    EXPECT_EQ(SlotsOf(1), (Texts{"Larch", "Fir", "Oak"}));
 }
 
 TEST_F(RestoreChangesTest, ThatAreDamagedFromTheFirstOneOnAreSetAside) {

@@ -42,6 +42,7 @@ public:
     int line = 0;
     int editSlot = 0;
     bool changed = false;
+    bool typed = false; // what stands in the box is somebody's, and stored nowhere
     std::string status;
     std::string box;
     std::vector<int> listed;   // slots in list order
@@ -56,7 +57,7 @@ public:
         line = number;
         List();
         SetMode(4);
-        box = "";
+        FillBox("");
     }
 
     void Select(const std::vector<int>& slots) {
@@ -72,12 +73,12 @@ public:
         dateAdds = !date;
         warned = false;
         editSlot = selected.size() == 1 ? selected[0] : 0;
-        box = editSlot > 0 ? Slot(editSlot) : "";
+        FillBox(editSlot > 0 ? Slot(editSlot) : "");
         SetMode(selected.size() < 2 ? 2 : 10);
     }
 
     void StartAdd() {
-        box = "";
+        FillBox("");
         SetMode(8);
     }
 
@@ -103,6 +104,7 @@ public:
             }
         }
         SetMode(mode);
+        typed = !text.empty() || mode == 6;
     }
 
     [[nodiscard]] static bool MayType(char key, const std::string& text, std::size_t caret) {
@@ -140,7 +142,7 @@ public:
         check.warning = false;
         check.Check(box);
         warned = check.warning;
-        box = "";
+        FillBox("");
         changed = true;
         List();
         SetMode(mode);
@@ -242,7 +244,9 @@ public:
             step = step == 1 ? 20 : step - 1;
         }
         List();
-        box = boxShowsSelection ? "" : box;
+        if (boxShowsSelection) {
+            FillBox("");
+        }
         SetMode(mode == 2 || mode == 6 || mode == 10 ? 4 : mode);
         return true;
     }
@@ -324,9 +328,14 @@ private:
         changed = true;
     }
 
+    void FillBox(const std::string& text) {
+        box = text;
+        typed = false;
+    }
+
     void BecomeIdle() {
         editSlot = 0;
-        box = "";
+        FillBox("");
         SetMode(4);
     }
 

@@ -13,13 +13,13 @@ const std::string Ty = "T\xC5\xB7";   // Welsh: house
 
 const std::string BecomesUtf8 =
     "What is left in the file will be taken for UTF-8, no longer for Windows-1252, and some of its characters will be "
-    "others.  It is opened anew as it will be read then.\r\nOk saves it like that.";
+    "others.  It is opened anew as it will be read then.\r\nOK saves it like that.";
 const std::string BecomesPlain =
     "Nothing in the file shows any more that it is UTF-8.  The next time it is opened it will be taken for "
-    "Windows-1252, which has fewer characters.\r\nOk saves it like that.";
+    "Windows-1252, which has fewer characters.\r\nOK saves it like that.";
 const std::string BecomesMarked =
     "The file begins with what will be taken for a byte order mark, and its first name goes without it.  It is opened "
-    "anew as it will be read then.\r\nOk saves it like that.";
+    "anew as it will be read then.\r\nOK saves it like that.";
 
 class FileEncodingTest : public StateTest {
 protected:

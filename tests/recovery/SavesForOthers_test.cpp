@@ -69,11 +69,22 @@ TEST_F(SavesForOthersTest, ChangesOfALivingEditorAreMadeToWhatWasSavedMeanwhile)
     ASSERT_EQ(desktop.files[DataFilePath],
               HeaderOf("North") + "|Ash|Oak|Yew Tree|Mine\r\n# note\r\n" + HeaderOf("South") + "|Ivy\r\n");
     // Of a variation that both have changed the saved text counts, and the other one is kept.
-    EXPECT_EQ(
-        OpenWithThem("\r\n1 more are left out: they are about what has been changed and saved since.  Their file is "
-                     "kept aside."),
-        HeaderOf("North") + "|Ashes|Oaks|Yew Tree|Mine|New\r\n# note\r\n" + HeaderOf("South") + "|Ivies\r\n");
+    EXPECT_EQ(OpenWithThem("\r\n1 more is left out: it is about what has been changed and saved since.  Their file is "
+                           "kept aside."),
+              HeaderOf("North") + "|Ashes|Oaks|Yew Tree|Mine|New\r\n# note\r\n" + HeaderOf("South") + "|Ivies\r\n");
     EXPECT_EQ(desktop.state.Kept(".aside"), Texts{Theirs + ".aside"});
+}
+
+TEST_F(SavesForOthersTest, ChangesThatAreLeftOutAreCounted) {
+    Leave({{1, 1, "Ashes", {}}, {1, 3, "Oaks", {}}, {1, 4, "Yews", {}}});
+    OpenWithoutThem();
+    StoreText(1, 3, "Oak Tree");
+    StoreText(1, 4, "Yew Tree");
+    Save();
+    EXPECT_EQ(
+        OpenWithThem("\r\n2 more are left out: they are about what has been changed and saved since.  Their file is "
+                     "kept aside."),
+        HeaderOf("North") + "|Ashes|Elm|Oak Tree|Yew Tree\r\n# note\r\n" + HeaderOf("South") + "|Ivy\r\n");
 }
 
 TEST_F(SavesForOthersTest, WhatWasAddedAndTakenBackBeforeTheSaveHidesNothing) {

@@ -1,6 +1,7 @@
 #include "ui/machine/QtDesktop.h"
 
 #include "ui/Text.h"
+#include "ui/machine/BoxText.h"
 #include "ui/machine/DateTimeText.h"
 #include "ui/machine/DurableFile.h"
 #include "ui/machine/FileDialogues.h"
@@ -131,8 +132,9 @@ QtDesktop::QtDesktop() {
 }
 
 BoxAnswer QtDesktop::ShowBox(const QString& title, const Wording& text, BoxIcon icon, BoxButtons buttons) {
-    QMessageBox box(IconOf(icon), title, Text::WordingForBox(text), ButtonsOf(buttons), m_window);
+    QMessageBox box(IconOf(icon), title, {}, ButtonsOf(buttons), m_window);
     box.setTextFormat(Qt::PlainText);
+    box.setText(BoxText::WithBrokenWords(Text::WordingForBox(text), box.font(), BoxText::RoomOn(*box.screen())));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     if (buttons == BoxButtons::YesNoDefaultNo) {
         box.setDefaultButton(QMessageBox::No);

@@ -21,6 +21,13 @@ QString Allowed(QString text) {
     return Text::ToQt(Text::FromQt(text));
 }
 
+// Where it cuts an inserted text off, the toolkit may leave the first half of a character in front of the caret.
+QString WithoutHalf(QString text, qsizetype caret) {
+    const bool hasFirst = caret > 0 && text.at(caret - 1).isHighSurrogate();
+    const bool hasSecond = caret < text.size() && text.at(caret).isLowSurrogate();
+    return hasFirst && !hasSecond ? text.remove(caret - 1, 1) : text;
+}
+
 } // namespace
 
 EditBox::EditBox(QWidget* parent) : QLineEdit(parent) {
@@ -84,11 +91,12 @@ void EditBox::RefuseLength() {
 void EditBox::ReplaceForeignCharacters() {
     // The toolkit counts characters, of which one may be several bytes.
     const bool isTooLong = Text::FromQt(text()).size() > CommonRoutines::LongestEditableText;
-    const QString allowed = isTooLong ? m_lastText : Allowed(text());
+    const QString allowed = isTooLong ? m_lastText : Allowed(WithoutHalf(text(), cursorPosition()));
     if (allowed == text()) {
         return;
     }
-    const qsizetype caret = Allowed(text().left(cursorPosition())).size();
+    const QString before = text().left(cursorPosition());
+    const qsizetype caret = Allowed(WithoutHalf(before, before.size())).size();
     // Setting a text forgets the typing. It is put back in two insertions, so that undo still finds
     // something to take back here and does not reach past the box.
     blockSignals(true);

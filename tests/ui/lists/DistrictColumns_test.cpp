@@ -1,5 +1,6 @@
 #include "file/DistrictList.h"
 #include "support/Reading.h"
+#include "support/Table.h"
 #include "ui/Text.h"
 #include "ui/lists/DistrictColumns.h"
 
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <random>
 
 using namespace CommonRoutines;
 using namespace Ui;
@@ -65,6 +67,17 @@ std::vector<DistrictRecord> Gazetteer() {
     return records;
 }
 
+// Letters that are added up, letters beyond those, and what stands above another letter or on two places.
+const std::vector<std::string> Characters{
+    "a",        "W",         "V.",        "ffi",          "\xC5\xB5",         "\xC5\xB4",
+    "\xC5\xB7", "\xC3\xA9",  "T\xC5\x8D", "\xD0\x96",     "\xD1\x8E",         "\xCE\xA9",
+    "\xCE\xAC", "w\xCC\x82", "\xCC\x81",  "\xE1\xBA\x84", "\xF0\x9F\x98\x80", " "};
+
+class Utf8ColumnsTest : public StateTest {
+protected:
+    Utf8ColumnsTest() { eFileEncoding = Encoding::Utf8; }
+};
+
 } // namespace
 
 TEST(DistrictColumnsTest, WithoutDistrictsTheColumnsAreAsWideAsTheirHeadings) {
@@ -111,4 +124,32 @@ TEST(DistrictColumnsTest, MeasuringAppliesTheMinimum) {
     EXPECT_EQ(columns.MeasureTextWidth("Alpha", 0), width);
     EXPECT_EQ(columns.MeasureTextWidth("Alpha", width + 1), width + 1);
     EXPECT_EQ(columns.MeasureTextWidth("Alpha", width - 1), width);
+}
+
+TEST_F(Utf8ColumnsTest, TheColumnsAreAsIfEveryCellHadBeenMeasured) {
+    std::mt19937 random(7);
+    for (int round = 0; round < 60; ++round) {
+        std::vector<DistrictRecord> records;
+        for (int i = 0; i < 8; ++i) {
+            DistrictRecord& record = records.emplace_back();
+            for (auto length = 1 + random() % 20; length > 0; --length) {
+                record.Name = std::string(record.Name) + Characters[random() % Characters.size()];
+                record.County = std::string(record.County) + Characters[random() % Characters.size()];
+            }
+        }
+        ExpectTheRule(QApplication::font(), records);
+    }
+}
+
+TEST_F(Utf8ColumnsTest, EveryCharacterMoreWidensTheColumnUpToThreeHundred) {
+    std::mt19937 random(8);
+    std::string name;
+    DistrictColumns columns(QApplication::font());
+    int expected = columns.Width(0);
+    for (int count = 0; count < 300; ++count) {
+        name += Characters[random() % Characters.size()];
+        columns.AddDistrictRow(Named(name));
+        expected = std::max(expected, Measure(QApplication::font(), name + "W"));
+        ASSERT_EQ(columns.Width(0), expected) << name;
+    }
 }

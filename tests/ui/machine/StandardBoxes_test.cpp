@@ -71,6 +71,33 @@ TEST_F(StandardBoxesTest, ShowWhatIsNoCharacterInAFileNameByASymbol) {
     EXPECT_EQ(shown, QStringLiteral("/data/a\uFFFD\uFFFDb.txt"));
 }
 
+TEST_F(StandardBoxesTest, ShowAWordThatIsWiderThanTheScreenToItsEnd) {
+    std::string name;
+    for (int number = 100; number < 185; ++number) {
+        name += std::to_string(number);
+    }
+    guide.Next([&](QWidget& dialogue) {
+        QApplication::processEvents();
+        const auto* label = dialogue.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        const QStringList rows = label->text().split(QLatin1Char('\n'));
+        EXPECT_GT(rows.size(), 3);
+        EXPECT_EQ(rows.join(QString()),
+                  QStringLiteral("Saved to") + QString::fromStdString(name) + QStringLiteral("It is whole."));
+        for (const QString& row : rows) {
+            EXPECT_LE(label->fontMetrics().horizontalAdvance(row), label->width()) << row.toStdString();
+        }
+        EXPECT_LE(dialogue.width(), dialogue.screen()->availableGeometry().width());
+        DialogueGuide::Press(dialogue, "OK");
+    });
+    desktop.MsgBox("Saved to\r\n" + Wording::OfPath(name) + "\r\nIt is whole.", BoxIcon::Information, BoxButtons::Ok);
+}
+
+TEST_F(StandardBoxesTest, LeaveWordsAsTheyAreThatFit) {
+    const std::string text = std::string(60, 'x') + " /a/" + std::string(60, 'y') + "/b and more\r\nthan that";
+    Look(text, BoxIcon::Information, BoxButtons::Ok);
+    EXPECT_EQ(shown.toStdString(), std::string(60, 'x') + " /a/" + std::string(60, 'y') + "/b and more\nthan that");
+}
+
 TEST_F(StandardBoxesTest, LeadTabFromTheirButtonToTheTextWhichCanBeCopied) {
     guide.Next([](QWidget& dialogue) {
         auto* label = dialogue.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));

@@ -81,6 +81,11 @@ public:
         }
     }
     void Press(Commands::Control button) override { Click(std::string(Commands::CommandOf(button).name).c_str()); }
+    bool Close() override {
+        const bool isClosed = m_form.close();
+        EXPECT_EQ(m_form.isVisible(), !isClosed);
+        return isClosed;
+    }
     [[nodiscard]] bool IsEnabled(Commands::Control control) const override {
         const auto* widget = m_form.findChild<QWidget*>(Text::ToQt(Commands::CommandOf(control).name));
         return widget == nullptr || widget->isEnabled(); // a key alone is never disabled
@@ -196,6 +201,43 @@ std::vector<ShownWindow> Wander(std::uint32_t seed) {
     return shown;
 }
 
+// How the windows of some rounds were closed.
+struct Closings {
+    int unasked = 0;
+    int refused = 0;
+    int confirmed = 0;
+};
+
+// A round in which somebody tries to close the window until it goes.
+template <typename Player>
+std::vector<ShownWindow> PlayUntilClosed(std::uint32_t seed, Closings& closings) {
+    ResetEverything();
+    Player player;
+    EditingRound round(player, seed, seed % 2 == 0);
+    std::minstd_rand random(seed);
+    std::vector<ShownWindow> shown;
+    for (bool isClosed = false; !isClosed && !testing::Test::HasFailure();) {
+        for (auto count = random() % 8; count > 0; --count) {
+            round.DoSomething();
+        }
+        const bool givesUp = random() % 4 == 0;
+        const auto onDisk = player.desktop.state.storage->files;
+        const auto files = player.desktop.files;
+        const bool mustAsk = round.WouldLose();
+        isClosed = round.Close(givesUp);
+        ++(mustAsk ? givesUp ? closings.confirmed : closings.refused : closings.unasked);
+        EXPECT_EQ(round.Shown(), round.Expected()) << "seed " << seed;
+        EXPECT_EQ(player.desktop.files, files) << "seed " << seed;
+        if (isClosed) {
+            EXPECT_EQ(player.desktop.state.Kept(), std::vector<std::string>()) << "seed " << seed;
+        } else {
+            EXPECT_EQ(player.desktop.state.storage->files, onDisk) << "seed " << seed;
+        }
+        shown.push_back(player.Shown());
+    }
+    return shown;
+}
+
 void ExpectSame(std::vector<ShownWindow> shown, const std::vector<ShownWindow>& expected, std::uint32_t seed) {
     ASSERT_EQ(shown.size(), expected.size());
     for (std::size_t i = 0; i < shown.size(); ++i) {
@@ -224,6 +266,18 @@ TEST_P(EditingRounds, SoItDoesBehindFiltersCancelledOpeningsAndProposals) {
         const std::vector<ShownWindow> expected = Wander<CommandPlayer>(seed);
         ASSERT_NO_FATAL_FAILURE(ExpectSame(Wander<WindowPlayer>(seed), expected, seed));
     }
+}
+
+TEST_P(EditingRounds, AWindowGoesUnaskedOnlyWhenNothingIsLostAndKeepsEverythingWhenItStays) {
+    constexpr std::uint32_t rounds = 60;
+    Closings closings;
+    for (std::uint32_t seed = GetParam(); seed < GetParam() + rounds; ++seed) {
+        const std::vector<ShownWindow> expected = PlayUntilClosed<CommandPlayer>(seed, closings);
+        ASSERT_NO_FATAL_FAILURE(ExpectSame(PlayUntilClosed<WindowPlayer>(seed, closings), expected, seed));
+    }
+    EXPECT_GT(closings.unasked, 0);
+    EXPECT_GT(closings.refused, 0);
+    EXPECT_GT(closings.confirmed, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, EditingRounds, testing::Values(1'000U, 2'000U, 3'000U, 4'000U, 5'000U));
