@@ -4,8 +4,8 @@
 #include "core/Encoding.h"
 #include "core/Paths.h"
 #include "core/State.h"
-#include "recovery/OpenFile.h"
 #include "recovery/SaveCopy.h"
+#include "recovery/UnsavedChanges.h"
 
 #include <utility>
 
@@ -52,7 +52,7 @@ std::string FolderToStartIn(Desktop& desktop) {
 
 // The list replaces any file unasked but the one with the districts.
 bool MayReplace(Desktop& desktop, const std::string& path, const std::string& dataFile) {
-    const bool isDataFile = OpenFile::IsAt(desktop, path) || desktop.TruePath(path) == desktop.TruePath(dataFile);
+    const bool isDataFile = desktop.AreOneFile(path, Unsaved.File().path) || desktop.AreOneFile(path, dataFile);
     return !isDataFile || desktop.MsgBox("This is the data file itself:\r\n" + Wording::OfPath(path) +
                                              "\r\nDo you want the list to replace it?",
                                          BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;

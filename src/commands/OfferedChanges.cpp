@@ -81,16 +81,16 @@ public:
         : m_desktop(desktop), m_folder(desktop.State()), m_saves(m_folder, Unsaved.File().path) {}
 
     void AskAbout(const std::string& name);
-    // The files whose changes are wanted, the oldest first. They are locked.
-    [[nodiscard]] std::vector<LeftOver>& Wanted() { return m_wanted; }
+    [[nodiscard]] OfferedChanges& Answers() { return m_answers; }
 
 private:
     void Judge(LeftOver& leftOver);
     void Offer(LeftOver& leftOver);
+    void PutOff(const LeftOver& leftOver, bool says);
     void TellOfProblem(const LeftOver& leftOver);
     void TellSetAside(const LeftOver& leftOver, const std::string& what);
 
-    [[nodiscard]] static bool IsOfOpenFile(const LeftOver& leftOver);
+    [[nodiscard]] bool IsOfOpenFile(const LeftOver& leftOver);
     [[nodiscard]] std::string ChangesOf(const LeftOver& leftOver) {
         return "unsaved changes of " + m_folder.TimeOf(leftOver.name);
     }
@@ -98,14 +98,17 @@ private:
     Desktop& m_desktop;
     StateFolder& m_folder;
     SavesForOthers m_saves;
-    std::vector<LeftOver> m_wanted;
+    OfferedChanges m_answers;
     std::set<std::string> m_held; // files whose changes are all in another one
 };
 
 bool Asking::IsOfOpenFile(const LeftOver& leftOver) {
     const FileIdentity& file = Unsaved.File();
-    return leftOver.file ? leftOver.file->file.path == file.path || leftOver.file->file.HasBytesOf(file)
-                         : RecoveryNames::MayBelongTo(leftOver.name, file.path);
+    if (!leftOver.file) {
+        return RecoveryNames::MayBelongTo(leftOver.name, file.path);
+    }
+    const FileIdentity& of = leftOver.file->file;
+    return of.path == file.path || of.HasBytesOf(file) || m_saves.Lead(of, file);
 }
 
 void Asking::AskAbout(const std::string& name) {
@@ -141,7 +144,11 @@ void Asking::Judge(LeftOver& leftOver) {
         Drop(m_folder, leftOver.name);
     } else if (isHeld || (isWhole && file.savedAs && file.savedAs->HasBytesOf(Unsaved.File()))) {
         SetAside(m_folder, leftOver.name); // the saved file's name may not be on the disk yet
-    } else if (!m_saves.CarryTo(Unsaved.File(), file)) {
+    } else if (!m_saves.CarryTo(Unsaved.File(), file) && !m_saves.Problem().empty()) {
+        leftOver.problem = m_saves.Problem();
+        TellOfProblem(leftOver);
+        GiveBack(m_folder, leftOver.name);
+    } else if (!file.file.HasBytesOf(Unsaved.File())) {
         TellSetAside(leftOver, "There are " + ChangesOf(leftOver) + " to an earlier state of this file.");
     } else if (!FitsEncoding(file)) {
         TellSetAside(leftOver, "The " + ChangesOf(leftOver) + " have characters that this file cannot hold.");
@@ -164,20 +171,28 @@ void Asking::Offer(LeftOver& leftOver) {
     } else {
         question = question + " to this file.\r\nDo you want them back?";
     }
-    switch (m_desktop.MsgBox(question + WhatIsMissing(file), BoxIcon::Question, BoxButtons::YesNoCancel)) {
-    case BoxAnswer::Yes:
-        m_wanted.insert(m_wanted.begin(), std::move(leftOver));
-        break;
-    case BoxAnswer::No:
-        if (!isOfAnother) {
-            m_desktop.MsgBox("The changes are kept in\r\n" + Wording::OfPath(SetAside(m_folder, leftOver.name)) +
-                                 "\r\nThey are offered again when \".aside\" is taken off that name.",
-                             BoxIcon::Information);
-            break;
-        }
-        [[fallthrough]]; // they stay for the file to which they were made
-    default:
+    const BoxAnswer answer =
+        m_desktop.MsgBox(question + WhatIsMissing(file), BoxIcon::Question, BoxButtons::YesNoCancel);
+    if (answer == BoxAnswer::Yes) {
+        m_answers.wanted.insert(m_answers.wanted.begin(), std::move(leftOver));
+    } else if (isOfAnother) {
+        PutOff(leftOver, answer == BoxAnswer::No);
+    } else if (answer == BoxAnswer::No) {
+        m_desktop.MsgBox("The changes are kept in\r\n" + Wording::OfPath(SetAside(m_folder, leftOver.name)) +
+                             "\r\nThey are offered again when \".aside\" is taken off that name.",
+                         BoxIcon::Information);
+    } else {
         GiveBack(m_folder, leftOver.name);
+    }
+}
+
+void Asking::PutOff(const LeftOver& leftOver, bool says) {
+    GiveBack(m_folder, leftOver.name);
+    m_answers.putOff.push_back(leftOver.name);
+    if (says) {
+        m_desktop.MsgBox("The changes stay for the file to which they were made.  They are in\r\n" +
+                             Wording::OfPath(m_folder.PathOf(leftOver.name)),
+                         BoxIcon::Information);
     }
 }
 
@@ -194,7 +209,7 @@ void Asking::TellSetAside(const LeftOver& leftOver, const std::string& what) {
 
 } // namespace
 
-std::vector<LeftOver> WantedChanges(Desktop& desktop) {
+OfferedChanges OfferChanges(Desktop& desktop) {
     const std::vector<std::string> names = RecoveryFiles(desktop.State());
     const std::string problem = desktop.State().Problem();
     RemoveDeadLocks(desktop.State());
@@ -207,7 +222,7 @@ std::vector<LeftOver> WantedChanges(Desktop& desktop) {
     for (const std::string& name : names) {
         asking.AskAbout(name);
     }
-    return std::move(asking.Wanted());
+    return std::move(asking.Answers());
 }
 
 } // namespace Commands

@@ -46,8 +46,12 @@ public:
     bool OverwriteFile(const std::string& path, std::string_view content) override {
         return m_machine.OverwriteFile(path, content);
     }
+    bool MakePrivateFile(const std::string& path, std::string_view content) override {
+        return m_machine.MakePrivateFile(path, content);
+    }
     std::string StampOf(const std::string& path) override { return m_machine.StampOf(path); }
     std::string TruePath(const std::string& path) override { return m_machine.TruePath(path); }
+    bool AreOneFile(const std::string& a, const std::string& b) override { return m_machine.AreOneFile(a, b); }
     CommonRoutines::StateFolder& State() override { return m_machine.State(); }
     bool ShowDocument(const std::string& path) override { return m_machine.ShowDocument(path); }
     bool MayMakeFilesIn(const std::string& folder) override { return m_machine.MayMakeFilesIn(folder); }

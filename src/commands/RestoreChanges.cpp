@@ -113,15 +113,16 @@ void RestoreChanges(Desktop& desktop) {
         TellOfAnotherEditor(desktop);
     }
     try {
-        std::vector<LeftOver> wanted = WantedChanges(desktop);
-        if (!wanted.empty()) {
-            MakeAll(wanted);
+        OfferedChanges offered = OfferChanges(desktop);
+        Unsaved.KeepSavesFor(std::move(offered.putOff));
+        if (!offered.wanted.empty()) {
+            MakeAll(offered.wanted);
         }
     } catch (const std::bad_alloc&) {
         GiveAllBack(desktop.State());
         throw;
     }
-    SavesForOthers(desktop.State(), Unsaved.File().path).RemoveUnlessWanted(Unsaved.Name());
+    SavesForOthers(desktop.State(), Unsaved.File().path).RemoveUnlessWanted(Unsaved.Name(), Unsaved.PutOff());
 }
 
 } // namespace Commands

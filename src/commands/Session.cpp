@@ -55,7 +55,11 @@ void Session::Present() {
     view.openFile = TheOpenFile.Path();
     WithholdFromNoDistrict(view);
     ShowGuidance(*this);
-    Unsaved.Write(m_showing);
+    if (view.edit.isPending) { // a key needs no look at the disk
+        Unsaved.Write(m_showing);
+    } else {
+        Unsaved.WriteAndLook(m_showing);
+    }
     screen.Show(view);
     view.focus = Focus::Stays;
 }

@@ -80,10 +80,14 @@ public:
     virtual bool StaysInPlace(const std::string& path) = 0;
     // Writes over a file where it is, or makes it. False when that failed: a part may have been written then.
     virtual bool OverwriteFile(const std::string& path, std::string_view content) = 0;
+    // Makes a file that is for the user alone. False when that failed, or when there is one.
+    virtual bool MakePrivateFile(const std::string& path, std::string_view content) = 0;
     // Tells one state of a file from another, as far as its size and its times do; empty where no file is.
     virtual std::string StampOf(const std::string& path) = 0;
     // The path without links in it; the path itself when nothing is there.
     virtual std::string TruePath(const std::string& path) = 0;
+    // Whether two names are those of one file, by a link of any kind.
+    virtual bool AreOneFile(const std::string& a, const std::string& b) = 0;
     // What the program keeps for the next time, should it stop unexpectedly.
     virtual StateFolder& State() = 0;
 

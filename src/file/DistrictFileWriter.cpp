@@ -66,8 +66,20 @@ bool MayBeReadAs(Encoding next, Desktop& desktop) {
     return desktop.MsgBox(question, BoxIcon::Exclamation, BoxButtons::OkCancel) == BoxAnswer::Ok;
 }
 
+// Whether changes that others have made may become changes to an earlier state.
+bool MayLeaveBehind(Desktop& desktop) {
+    return desktop.MsgBox(
+               "There may be unsaved changes to this file that were not taken up.  What this save changes "
+               "cannot be noted beside them, so that they would not fit the file any more.  They are in\r\n" +
+                   Wording::OfPath(desktop.State().PathOf({})) + "\r\nDo you want to save all the same?",
+               BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
+}
+
 void WriteTable(Desktop& desktop, const std::string& path, const std::string& content, Encoding next) {
-    Unsaved.NoteSaving(desktop, path, content);
+    if (!Unsaved.NoteSaving(desktop, path, content) && !MayLeaveBehind(desktop)) {
+        desktop.ShowBusy(false);
+        return;
+    }
     const bool saved = WriteFile(desktop, path, content);
     const bool isOpenElsewhere = saved && TheOpenFile.MoveTo(desktop, path, content);
     if (!saved && OpenFile::IsAt(desktop, path) && desktop.ReadFile(path) == content) {

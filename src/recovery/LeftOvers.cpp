@@ -90,7 +90,11 @@ void RemoveDeadLocks(StateFolder& folder) {
 bool AreOthersAt(StateFolder& folder, std::string_view dataFile, const std::string& own) {
     const std::string aside = std::string(Ending).append(AsideEnding);
     int marks = 0;
-    for (const std::string& name : folder.Names()) {
+    const std::vector<std::string> names = folder.Names();
+    if (!folder.Problem().empty()) {
+        return true; // there may be
+    }
+    for (const std::string& name : names) {
         const bool isAside = name.ends_with(aside);
         const std::string_view changes =
             std::string_view(name).substr(0, name.size() - (isAside ? AsideEnding.size() : 0));
@@ -136,7 +140,11 @@ void Drop(StateFolder& folder, const std::string& name) {
 }
 
 std::string SetAside(StateFolder& folder, const std::string& name) {
-    const std::string aside = name + std::string(AsideEnding);
+    std::string aside = name + std::string(AsideEnding);
+    if (!folder.IsGone(aside)) { // a copy of it has been put back
+        const std::size_t behindNumbers = name.rfind('-');
+        aside = folder.NewName() + '-' + aside.substr(behindNumbers == std::string::npos ? 0 : behindNumbers + 1);
+    }
     const bool isRenamed = folder.Rename(name, aside);
     GiveBack(folder, name);
     return folder.PathOf(isRenamed ? aside : name);

@@ -41,7 +41,8 @@ struct LeftOver {
 void RemoveDeadLocks(StateFolder& folder);
 
 // Whether others have, or may come to have, changes to a data file: in a recovery file, which may be set aside, or
-// since they have it open. `own` is the name of the recovery file that is none of theirs.
+// since they have it open. True as well where that cannot be told. `own` is the name of the recovery file that is none
+// of theirs.
 [[nodiscard]] bool AreOthersAt(StateFolder& folder, std::string_view dataFile, const std::string& own);
 
 // The names of the saves of a data file that are kept, the latest first.

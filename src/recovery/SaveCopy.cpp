@@ -121,13 +121,19 @@ bool DoesBusily(Desktop& desktop, const std::function<bool()>& work) {
     return done;
 }
 
+// Whom a file was for that has gone is not known.
+bool WriteAgain(Desktop& desktop, const SaveCopy& copy, bool isThere) {
+    return isThere ? desktop.OverwriteFile(copy.path, copy.Content())
+                   : desktop.MakePrivateFile(copy.path, copy.Content());
+}
+
 void Mend(Desktop& desktop, const SaveCopy& copy) {
     StateFolder& folder = desktop.State();
     const bool isWhole = DoesBusily(desktop, [&] { return desktop.ReadFile(copy.path) == copy.Content(); });
     const bool isThere = !desktop.StampOf(copy.path).empty();
     if (!isWhole && !IsToBeFinished(desktop, copy, isThere)) {
         KeepAside(desktop, copy, "What the file should have held is kept in");
-    } else if (!isWhole && !DoesBusily(desktop, [&] { return desktop.OverwriteFile(copy.path, copy.Content()); })) {
+    } else if (!isWhole && !DoesBusily(desktop, [&] { return WriteAgain(desktop, copy, isThere); })) {
         GiveBack(folder, copy.name);
         TellThatItIsKept(desktop, copy.path, copy.name);
     } else if (isThere) {

@@ -78,22 +78,23 @@ void Carry(RecoveryFile& changes, const RecoveryFile& save) {
         }
     }
     changes.changes = std::move(carried);
-    changes.file = *save.savedAs;
+    changes.file = {changes.file.path, save.savedAs->size, save.savedAs->digest};
 }
 
 } // namespace
 
-bool SavesForOthers::AreWanted(const std::string& own) {
-    return AreOthersAt(m_folder, m_path, own);
+bool SavesForOthers::AreWanted(const std::string& own, std::span<const std::string> putOff) {
+    return AreOthersAt(m_folder, m_path, own) ||
+           std::any_of(putOff.begin(), putOff.end(), [&](const std::string& name) { return !m_folder.IsGone(name); });
 }
 
-void SavesForOthers::Keep(const RecoveryRecords& save) {
-    m_folder.Replace(RecoveryNames::OfSave(m_folder, m_path), save.Content());
+bool SavesForOthers::Keep(const RecoveryRecords& save) {
+    return m_folder.Replace(RecoveryNames::OfSave(m_folder, m_path), save.Content());
 }
 
-void SavesForOthers::RemoveUnlessWanted(const std::string& own) {
+void SavesForOthers::RemoveUnlessWanted(const std::string& own, std::span<const std::string> putOff) {
     const std::vector<std::string> names = SavesOf(m_folder, m_path);
-    if (!names.empty() && !AreWanted(own)) {
+    if (!names.empty() && !AreWanted(own, putOff)) {
         for (const std::string& name : names) {
             m_folder.Remove(name);
         }
@@ -103,15 +104,25 @@ void SavesForOthers::RemoveUnlessWanted(const std::string& own) {
 const std::vector<RecoveryFile>& SavesForOthers::All() {
     if (!m_all) {
         m_all.emplace();
-        for (const std::string& name : SavesOf(m_folder, m_path)) {
+        const std::vector<std::string> names = SavesOf(m_folder, m_path);
+        NoteProblem();
+        for (const std::string& name : names) {
             const auto content = m_folder.Read(name);
+            NoteProblem();
             auto save = content ? ParseRecoveryFile(*content) : std::nullopt;
             if (save && save->savedAs && !save->isDamaged) {
+                m_held.insert(save->holds.begin(), save->holds.end());
                 m_all->push_back(std::move(*save));
             }
         }
     }
     return *m_all;
+}
+
+void SavesForOthers::NoteProblem() {
+    if (m_problem.empty()) {
+        m_problem = m_folder.Problem();
+    }
 }
 
 std::vector<const RecoveryFile*> SavesForOthers::Between(const FileIdentity& before, const FileIdentity& now) {
@@ -130,10 +141,8 @@ std::vector<const RecoveryFile*> SavesForOthers::Between(const FileIdentity& bef
 }
 
 bool SavesForOthers::Hold(const std::string& leftOver) {
-    const std::vector<RecoveryFile>& saves = All();
-    return std::any_of(saves.begin(), saves.end(), [&](const RecoveryFile& save) {
-        return std::find(save.holds.begin(), save.holds.end(), leftOver) != save.holds.end();
-    });
+    static_cast<void>(All());
+    return m_held.contains(leftOver);
 }
 
 bool SavesForOthers::CarryTo(const FileIdentity& now, RecoveryFile& changes) {

@@ -3,6 +3,8 @@
 #include "recovery/RecoveryFile.h"
 
 #include <optional>
+#include <set>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,25 +21,36 @@ public:
     // Those of the file at this path.
     SavesForOthers(StateFolder& folder, std::string path) : m_folder(folder), m_path(std::move(path)) {}
 
-    // Whether there are changes of others; `own` is the name of the recovery file that is none of theirs.
-    [[nodiscard]] bool AreWanted(const std::string& own);
-    void Keep(const RecoveryRecords& save);
+    // Whether there are changes of others, in recovery files that were put off among them; `own` is the name of the
+    // one that is none of theirs.
+    [[nodiscard]] bool AreWanted(const std::string& own, std::span<const std::string> putOff);
+    // True when the save is on the disk.
+    [[nodiscard]] bool Keep(const RecoveryRecords& save);
     // Removes all, once there are no changes of others any more.
-    void RemoveUnlessWanted(const std::string& own);
+    void RemoveUnlessWanted(const std::string& own, std::span<const std::string> putOff);
 
+    // Whether saves have led from an earlier state of the file to its present one.
+    [[nodiscard]] bool Lead(const FileIdentity& before, const FileIdentity& now) {
+        return !Between(before, now).empty();
+    }
     // Whether a left-over file was taken over by an editor that has saved its changes since.
     [[nodiscard]] bool Hold(const std::string& leftOver);
     // Makes changes to an earlier state of the file changes to its present one. Of a variation that the save has
     // changed, too, that counts. False when it is not known how the one state became the other.
     [[nodiscard]] bool CarryTo(const FileIdentity& now, RecoveryFile& changes);
+    // Why that may be known another time; empty when all has been read.
+    [[nodiscard]] const std::string& Problem() const { return m_problem; }
 
 private:
     [[nodiscard]] const std::vector<RecoveryFile>& All();
+    void NoteProblem();
     [[nodiscard]] std::vector<const RecoveryFile*> Between(const FileIdentity& before, const FileIdentity& now);
 
     StateFolder& m_folder;
     std::string m_path;
     std::optional<std::vector<RecoveryFile>> m_all; // once they have been read, the latest first
+    std::set<std::string> m_held;                   // by any of them
+    std::string m_problem;
 };
 
 } // namespace CommonRoutines

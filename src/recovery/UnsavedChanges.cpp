@@ -14,7 +14,10 @@ void UnsavedChanges::Begin(Desktop& desktop, const std::string& path, std::strin
     m_following = true;
     m_numbering = numbering;
     m_file = IdentityOf(desktop.TruePath(path), bytes);
-    m_hasTold = m_hasTold && numbering == Numbering::AsSaved;
+    if (numbering == Numbering::AsRead) { // another file
+        m_hasTold = false;
+        m_putOff.clear();
+    }
 }
 
 void UnsavedChanges::Note(std::int32_t line, std::int32_t slot, std::string_view text) {
@@ -68,19 +71,22 @@ RecoveryRecords& UnsavedChanges::Records() {
     return *m_records;
 }
 
-void UnsavedChanges::NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes) {
+bool UnsavedChanges::NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes) {
     const std::string truePath = desktop.TruePath(path);
     if (m_records) {
         m_records->AddSaving(IdentityOf(truePath, bytes));
         Write(desktop);
     }
     SavesForOthers saves(desktop.State(), m_file.path);
-    if (truePath == m_file.path && saves.AreWanted(m_name)) { // a digest of a large file is not made for nothing
-        const FileIdentity saved = IdentityOf(truePath, bytes);
-        if (!saved.HasBytesOf(m_file)) {
-            saves.Keep(RecordsOfSave(saved));
-        }
+    if (truePath != m_file.path || !saves.AreWanted(m_name, m_putOff)) {
+        return true; // without a digest, which takes its time for a large file
     }
+    const FileIdentity saved = IdentityOf(truePath, bytes);
+    if (saved.HasBytesOf(m_file)) {
+        return true;
+    }
+    const RecoveryRecords records = RecordsOfSave(saved);
+    return saves.Keep(records) || saves.Keep(records); // a call may fail once
 }
 
 // What this editor has changed, and where the slots are numbered anew.
@@ -132,10 +138,19 @@ std::vector<std::string> UnsavedChanges::FieldsAsRead(std::int32_t line) const {
     return fields == m_fields.end() ? std::vector<std::string>() : fields->second;
 }
 
-void UnsavedChanges::Write(Desktop& desktop) {
-    if (!AreUnwritten()) {
-        return;
+void UnsavedChanges::WriteAndLook(Desktop& desktop) {
+    if (m_records && (AreUnwritten() || desktop.State().IsGone(m_name))) {
+        WriteAll(desktop);
     }
+}
+
+void UnsavedChanges::Write(Desktop& desktop) {
+    if (AreUnwritten()) {
+        WriteAll(desktop);
+    }
+}
+
+void UnsavedChanges::WriteAll(Desktop& desktop) {
     const Written written = TryToWrite(desktop.State());
     if (written == Written::No) {
         TellOfOutage(desktop);
@@ -154,7 +169,7 @@ UnsavedChanges::Written UnsavedChanges::TryToWrite(StateFolder& folder) {
     const std::string_view content = m_records->Content();
     const std::string_view added = content.substr(m_onDisk);
     // What is taken over goes there as a whole, so that it is never found in two files in part.
-    bool isWritten = m_onDisk > 0 && m_takenOver.empty() && folder.Extend(m_name, m_onDisk, added);
+    bool isWritten = !added.empty() && m_onDisk > 0 && m_takenOver.empty() && folder.Extend(m_name, m_onDisk, added);
     const bool isGone = !isWritten && m_onDisk > 0 && folder.IsGone(m_name);
     if (isGone) {
         GiveBack(folder, std::exchange(m_name, {})); // its lock may have gone, too, and be another editor's
@@ -215,9 +230,10 @@ void UnsavedChanges::Release(Desktop& desktop) {
     for (const TakenOver& leftOver : m_takenOver) {
         GiveBack(desktop.State(), leftOver.name);
     }
-    const bool hasTold = m_hasTold;
-    *this = {};
-    m_hasTold = hasTold;
+    UnsavedChanges none;
+    none.m_hasTold = m_hasTold;
+    none.m_putOff = std::move(m_putOff);
+    *this = std::move(none);
 }
 
 } // namespace CommonRoutines

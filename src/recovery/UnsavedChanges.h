@@ -41,15 +41,23 @@ public:
     // Puts what has been noted on the disk. To be called before the user can do anything else. When it
     // fails, the user is told, once for every outage, and the next call tries again.
     void Write(Desktop& desktop);
+    // The same, and puts them there anew where the recovery file has been removed from under the program.
+    void WriteAndLook(Desktop& desktop);
 
     // The table is about to be saved as these bytes, under any name. Should the editor be stopped between that and
-    // Remove, the changes are then known to be in the file.
-    void NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes);
+    // Remove, the changes are then known to be in the file. False when others have changes that would not fit the file
+    // any more, since the save could not be kept for them.
+    [[nodiscard]] bool NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes);
 
     // What is noted and not yet written holds what this left-over file does. Its lock is taken over; the
     // file goes, or is set aside, when it is not needed any more.
     enum class Then { Goes, IsSetAside };
     void TakeOver(const std::string& leftOver, Then then = Then::Goes);
+
+    // These left-over files belong to other paths, but have changes to what the table was read from: they may be made
+    // to this file later.
+    void KeepSavesFor(std::vector<std::string> leftOvers) { m_putOff = std::move(leftOvers); }
+    [[nodiscard]] const std::vector<std::string>& PutOff() const { return m_putOff; }
 
     // The fields of a line that is being repaired, as they stand in the file, and those of any line: empty
     // unless it has been repaired.
@@ -89,6 +97,7 @@ private:
     [[nodiscard]] RecoveryRecords RecordsOfSave(const FileIdentity& saved) const;
     [[nodiscard]] Written TryToWrite(StateFolder& folder);
     [[nodiscard]] bool HasName(StateFolder& folder);
+    void WriteAll(Desktop& desktop);
     void LeaveTakenOver(StateFolder& folder);
     void TellOfOutage(Desktop& desktop);
 
@@ -100,6 +109,7 @@ private:
     std::size_t m_onDisk = 0;
     std::string m_name;                 // of the recovery file, which is locked; empty until there is one
     std::vector<TakenOver> m_takenOver; // left-over files, which are locked
+    std::vector<std::string> m_putOff;  // see KeepSavesFor
     std::unordered_map<std::int32_t, std::vector<std::string>> m_fields;
     bool m_hasTold = false; // of this outage
 };

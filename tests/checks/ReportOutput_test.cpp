@@ -214,6 +214,16 @@ TEST_F(SavedReportTest, TheFileThatWasLastSavedIsADataFileToo) {
     EXPECT_EQ(desktop.files[DataFile], "districts");
 }
 
+TEST_F(SavedReportTest, SoIsAFurtherNameOfTheDataFile) {
+    TheOpenFile.BeginReading(desktop, DataFile, "districts", {});
+    desktop.links["/reports/list.txt"] = DataFile;
+    desktop.ExpectSave("/reports/list.txt");
+    desktop.ExpectBox("This is the data file itself:\r\n/reports/list.txt\r\nDo you want the list to replace it?",
+                      BoxIcon::Question, BoxButtons::YesNoDefaultNo, BoxAnswer::No);
+    SaveReport(NoFindings, DataFile, desktop);
+    EXPECT_EQ(desktop.files.count("/reports/list.txt"), 0U);
+}
+
 TEST_F(SavedReportTest, AFileThatStaysInItsPlaceIsOverwritten) {
     desktop.files["/reports/mine.txt"] = "old";
     desktop.inPlace = {"/reports/mine.txt"};

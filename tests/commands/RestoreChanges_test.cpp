@@ -3,6 +3,7 @@
 #include "edit/EditTest.h"
 #include "edit/Variations.h"
 #include "file/DistrictFileWriter.h"
+#include "recovery/LeftOvers.h"
 #include "recovery/OpenMark.h"
 #include "recovery/UnsavedChanges.h"
 #include "support/Reading.h"
@@ -151,6 +152,20 @@ TEST_F(RestoreChangesTest, SetAsideAreOfferedAgainUnderTheirOldName) {
     EXPECT_EQ(VariationAt(1, 2).Text, "Fir");
 }
 
+TEST_F(RestoreChangesTest, ThatAreUnwantedOnceMoreThoughACopyWasPutBackAreKeptAsideUnderAnotherName) {
+    Leave({{1, 2, "Fir", {}}});
+    desktop.state.storage->files["0001.changes.aside"] = "kept before";
+    desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
+                      BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::No);
+    desktop.ExpectBox("The changes are kept in\r\n/state/1002-0001.changes.aside\r\nThey are offered again when "
+                      "\".aside\" is taken off that name.",
+                      BoxIcon::Information);
+    Open();
+    EXPECT_EQ(desktop.state.storage->files["0001.changes.aside"], "kept before");
+    EXPECT_EQ(desktop.state.Kept(".aside").size(), 2U);
+    EXPECT_TRUE(RecoveryFiles(desktop.state).empty());
+}
+
 TEST_F(RestoreChangesTest, EscLeavesThemToBeOfferedAgain) {
     Leave({{1, 2, "Fir", {}}});
     for (int time = 0; time < 2; ++time) {
@@ -188,7 +203,12 @@ TEST_F(RestoreChangesTest, OfTheSameBytesElsewhereAreOfferedWithTheirPath) {
     };
     Leave({{1, 2, "Fir", {}}}, Content, "/data/before it was moved \xC4\x8D.txt");
     for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Cancel}) {
-        expectQuestion(answer); // they stay for the file to which they were made
+        expectQuestion(answer);
+        if (answer == BoxAnswer::No) {
+            desktop.ExpectBox("The changes stay for the file to which they were made.  They are "
+                              "in\r\n/state/0001.changes",
+                              BoxIcon::Information);
+        }
         Open();
         EXPECT_EQ(desktop.state.Kept(), Texts{"0001.changes"});
     }

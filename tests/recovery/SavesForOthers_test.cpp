@@ -237,3 +237,84 @@ TEST_F(SavesForOthersTest, OfAStateThatNoSaveLedToTheyAreSetAside) {
     Commands::RestoreChanges(desktop);
     EXPECT_FALSE(bChanged);
 }
+
+// Its editor died, and the file was moved, with those bytes.
+TEST_F(SavesForOthersTest, ChangesToAFileThatWasMovedAndThatAreNotWantedYetSurviveASaveOfIt) {
+    RecoveryFile file;
+    file.file = IdentityOf("/data/before.txt", Content);
+    file.changes = {{1, 3, "Oaks", {}}};
+    desktop.state.storage->files[Theirs] = RecoveryText(file);
+    const auto expectQuestion = [&](BoxAnswer answer) {
+        desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 (made to /data/before.txt).  That file had "
+                          "the same content as this one.\r\nDo you want them in this file?",
+                          BoxIcon::Question, BoxButtons::YesNoCancel, answer);
+    };
+    desktop.recordReports = true;
+    expectQuestion(BoxAnswer::Cancel);
+    ReadText(desktop, Content);
+    Commands::RestoreChanges(desktop);
+    for (const char* text : {"Elms", "Elm Tree"}) { // and of one more save
+        StoreText(1, 2, text);
+        Save();
+    }
+    desktop.state.Die();
+    for (const BoxAnswer answer : {BoxAnswer::Cancel, BoxAnswer::Yes}) {
+        expectQuestion(answer);
+        ReadText(desktop, std::string(desktop.files[DataFilePath]));
+        Commands::RestoreChanges(desktop);
+    }
+    EXPECT_EQ(DistrictFileContent(),
+              HeaderOf("North") + "|Ash|Elm Tree|Oaks|Yew\r\n# note\r\n" + HeaderOf("South") + "|Ivy\r\n");
+}
+
+TEST_F(SavesForOthersTest, ASaveThatCannotBeKeptIsAskedAbout) {
+    Leave({{1, 3, "Oaks", {}}});
+    OpenWithoutThem();
+    StoreText(1, 2, "Elms");
+    Unsaved.Write(desktop);
+    desktop.state.canWrite = false;
+    for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
+        desktop.ExpectSave(DataFilePath);
+        if (answer == BoxAnswer::No) { // told once for an outage
+            desktop.ExpectBox(
+                "Your changes cannot be written to the recovery file.  They are only safe once the file is "
+                "saved.\r\n/state/" +
+                    Unsaved.Name(),
+                BoxIcon::Exclamation);
+        }
+        desktop.ExpectBox("There may be unsaved changes to this file that were not taken up.  What this save changes "
+                          "cannot be noted beside them, so that they would not fit the file any more.  They are "
+                          "in\r\n/state/\r\nDo you want to save all the same?",
+                          BoxIcon::Question, BoxButtons::YesNoDefaultNo, answer);
+        if (answer == BoxAnswer::Yes) {
+            desktop.ExpectBox("File Saved to " + DataFilePath, BoxIcon::Information);
+        }
+        SaveDistrictFile(desktop);
+        EXPECT_EQ(desktop.files[DataFilePath] == Content, answer == BoxAnswer::No);
+    }
+}
+
+TEST_F(SavesForOthersTest, ThatCannotBeReadNowLeaveTheChangesWhereTheyAre) {
+    Leave({{1, 3, "Oaks", {}}});
+    OpenWithoutThem();
+    StoreText(1, 2, "Elms");
+    Save();
+    other.Unlock(Theirs + ".lock");
+    desktop.state.Die();
+    desktop.state.unreadable = {desktop.state.Kept(".saved").front()};
+    desktop.ExpectBox("There are unsaved changes to this file that cannot be had back now.\r\nInput/output "
+                      "error.\r\nThey stay in\r\n/state/" +
+                          Theirs,
+                      BoxIcon::Exclamation);
+    ReadText(desktop, std::string(desktop.files[DataFilePath]));
+    Commands::RestoreChanges(desktop);
+    desktop.state.unreadable.clear();
+    EXPECT_EQ(OpenWithThem(), HeaderOf("North") + "|Ash|Elms|Oaks|Yew\r\n# note\r\n" + HeaderOf("South") + "|Ivy\r\n");
+}
+
+TEST_F(SavesForOthersTest, AreWantedWhereItCannotBeToldWhetherThereAreOthers) {
+    SavesForOthers saves(desktop.state, DataFilePath);
+    EXPECT_FALSE(saves.AreWanted({}, {}));
+    desktop.state.canList = false;
+    EXPECT_TRUE(saves.AreWanted({}, {}));
+}

@@ -113,10 +113,10 @@ TEST_F(UnsavedChangesTest, AfterARemovalAreNotNotedSinceTheyWouldNotFit) {
 }
 
 TEST_F(UnsavedChangesTest, NameTheFileThatIsToHaveThem) {
-    Unsaved.NoteSaving(desktop, Path, "nothing has changed");
+    EXPECT_TRUE(Unsaved.NoteSaving(desktop, Path, "nothing has changed"));
     EXPECT_TRUE(desktop.state.Names().empty());
     Store(1, "Fir");
-    Unsaved.NoteSaving(desktop, "/data/new.txt", "new bytes");
+    EXPECT_TRUE(Unsaved.NoteSaving(desktop, "/data/new.txt", "new bytes"));
     EXPECT_EQ(OnDisk()->savedAs, IdentityOf("/data/new.txt", "new bytes"));
     Store(1, "Larch");
     EXPECT_EQ(OnDisk()->savedAs, std::nullopt);
@@ -216,6 +216,17 @@ TEST_F(UnsavedChangesTest, WhoseFileHasGoneAreAllWrittenAnewAndTheUserIsTold) {
     ScriptedDesktop other;
     other.state.storage = desktop.state.storage;
     EXPECT_FALSE(TakeLeftOver(other.state, RecoveryName(1002, Path)));
+}
+
+TEST_F(UnsavedChangesTest, WhoseFileHasGoneAreWrittenAnewAlsoWithoutAFurtherChange) {
+    Store(1, "Fir");
+    Unsaved.WriteAndLook(desktop); // which finds it in its place
+    desktop.state.storage->files.clear();
+    desktop.ExpectBox("The recovery file of your changes had been removed.  It has been written anew.\r\n/state/" +
+                          RecoveryName(1002, Path),
+                      BoxIcon::Exclamation);
+    Unsaved.WriteAndLook(desktop);
+    EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 1, "Fir", {}}}));
 }
 
 TEST_F(UnsavedChangesTest, FollowWhatAFailedWriteLeftHalfDone) {

@@ -44,8 +44,12 @@ public:
     }
     bool StaysInPlace(const std::string& /*path*/) override { return false; }
     bool OverwriteFile(const std::string& /*path*/, std::string_view /*content*/) override { return true; }
+    bool MakePrivateFile(const std::string& path, std::string_view content) override {
+        return OverwriteFile(path, content);
+    }
     std::string StampOf(const std::string& /*path*/) override { return {}; }
     std::string TruePath(const std::string& path) override { return path; }
+    bool AreOneFile(const std::string& a, const std::string& b) override { return TruePath(a) == TruePath(b); }
     CommonRoutines::StateFolder& State() override { return state; }
     bool ShowDocument(const std::string& /*path*/) override { return true; }
     bool MayMakeFilesIn(const std::string& /*folder*/) override { return true; }

@@ -47,12 +47,13 @@ public:
     bool hasViewer = true;
     bool hasPrinter = true;
     bool canWrite = true;
-    bool failsAfterWriting = false;     // says so though the file is in its place
-    std::set<std::string> inPlace;      // files that cannot be replaced by new ones
-    int failingOverwrites = 0;          // how many of the next ones write a part only
-    bool diesOverwriting = false;       // by an exception, having written a part
-    bool mayMakeFiles = true;           // in any folder
-    std::map<std::string, int> touched; // how often a file was written anew with what it had
+    bool failsAfterWriting = false;           // says so though the file is in its place
+    std::map<std::string, std::string> links; // further names of files
+    std::set<std::string> inPlace;            // files that cannot be replaced by new ones
+    int failingOverwrites = 0;                // how many of the next ones write a part only
+    bool diesOverwriting = false;             // by an exception, having written a part
+    bool mayMakeFiles = true;                 // in any folder
+    std::map<std::string, int> touched;       // how often a file was written anew with what it had
     int beeps = 0;
     bool busy = false;
     std::vector<std::string> tasks;          // what was done, one after the other, since it was last busy
@@ -74,6 +75,10 @@ public:
     bool StaysInPlace(const std::string& path) override { return inPlace.contains(path); }
     bool OverwriteFile(const std::string& path, std::string_view content) override;
     std::string StampOf(const std::string& path) override;
+    bool AreOneFile(const std::string& a, const std::string& b) override {
+        const auto named = [this](const std::string& path) { return links.contains(path) ? links.at(path) : path; };
+        return named(TruePath(a)) == named(TruePath(b));
+    }
     bool MayMakeFilesIn(const std::string& /*folder*/) override { return mayMakeFiles; }
     bool ShowDocument(const std::string& path) override;
     void EnterProgramFolder() override { ++programFolderEntries; }

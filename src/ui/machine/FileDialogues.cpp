@@ -43,12 +43,11 @@ bool IsReadOnly(const std::string& path) {
     return !QFileInfo(made.absolutePath()).isWritable();
 }
 
-// The file that was proposed, where the toolkit cannot show its name as it is and the name that it shows was left.
-std::optional<std::string> AsProposed(const FileRequest& request, const std::string& chosen) {
-    const std::string proposed = request.folder + '/' + request.fileName;
-    const bool isShownLikeIt = chosen == Text::PathFromQt(Text::PathToQt(proposed));
-    const bool isMeant = isShownLikeIt && !QFileInfo::exists(Text::PathToQt(chosen));
-    return isMeant && ReadableName(proposed).IsStandIn() ? std::optional(proposed) : std::nullopt;
+// Whether the file that was proposed is meant: the toolkit cannot show its name as it is, and the one that it shows was
+// left and is none of another file.
+bool IsProposed(const std::string& proposed, const std::string& chosen) {
+    return chosen != proposed && chosen == Text::PathFromQt(Text::PathToQt(proposed)) &&
+           !QFileInfo::exists(Text::PathToQt(chosen));
 }
 
 // The toolkit has not asked about a file that it does not know.
@@ -73,11 +72,16 @@ std::optional<std::string> ChooseToSave(QWidget* parent, const FileRequest& requ
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.asksBeforeReplacing);
     while (const auto chosen = Choose(dialog, request)) {
-        const auto proposed = AsProposed(request, *chosen);
-        const std::string& path = proposed ? *proposed : *chosen;
-        if (IsReadOnly(path)) {
+        const std::string proposed = request.folder + '/' + request.fileName;
+        const bool isProposed = IsProposed(proposed, *chosen);
+        const std::string& path = isProposed ? proposed : *chosen;
+        if (isProposed && !ReadableName(proposed).IsStandIn()) {
+            desktop.MsgBox(
+                "This file is not there any more, and its name cannot be written. Please choose another name.",
+                BoxIcon::Exclamation);
+        } else if (IsReadOnly(path)) {
             desktop.MsgBox("This file is read-only. Please choose another name.", BoxIcon::Exclamation);
-        } else if (!proposed || MayReplace(request, path, desktop)) {
+        } else if (!isProposed || MayReplace(request, path, desktop)) {
             return path;
         }
     }

@@ -79,7 +79,7 @@ bool WouldNotBeTheSame(const QByteArray& name, const QByteArray& folderName) {
     struct stat file {};
     struct stat folder {};
     if (stat(name.constData(), &file) != 0 || stat(folderName.constData(), &folder) != 0) {
-        return false;
+        return true; // it cannot be told
     }
     return file.st_nlink > 1 || (file.st_mode & SpecialRights) != 0 || WouldBelongToOthers(file, folder) ||
            HasAttributes(name) || WouldBeReadableByOthers(folderName);

@@ -7,6 +7,7 @@
 #include "ui/machine/FileDialogues.h"
 #include "ui/machine/FilePlace.h"
 #include "ui/machine/Memory.h"
+#include "ui/machine/OnlyForTheUser.h"
 #include "ui/machine/Printing.h"
 #include "ui/machine/ReadableName.h"
 #include "ui/machine/SettingsFile.h"
@@ -31,6 +32,8 @@
 
 #include <algorithm>
 #include <csignal>
+#include <filesystem>
+#include <system_error>
 
 namespace Ui {
 
@@ -106,6 +109,12 @@ QIcon StandardPicture(std::int32_t number) {
 
 QString SettingName(std::string_view section, std::string_view key) {
     return Text::ToQt(section) + QLatin1Char('/') + Text::ToQt(key);
+}
+
+// There is no such file, nor can there be one. Any other error may go by.
+bool IsMissing(const std::error_code& error) {
+    return error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory ||
+           error == std::errc::filename_too_long;
 }
 
 // The toolkit's label takes the focus from a click alone. It may only take it by Tab when a button has it already,
@@ -205,7 +214,10 @@ std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
 }
 
 bool QtDesktop::HasContent(const std::string& path) {
-    return QFileInfo(ReadableName(path).ForToolkit()).size() > 0;
+    const ReadableName name(path);
+    std::error_code error;
+    const auto size = std::filesystem::file_size(QFileInfo(name.ForToolkit()).filesystemFilePath(), error);
+    return error ? !IsMissing(error) : size > 0;
 }
 
 bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
@@ -227,13 +239,23 @@ bool QtDesktop::OverwriteFile(const std::string& path, std::string_view content)
                                   [this](double part) { ShowProgress("Writing the file", part); });
 }
 
+bool QtDesktop::MakePrivateFile(const std::string& path, std::string_view content) {
+    const OnlyForTheUser guard;
+    const ReadableName name(path);
+    return !QFileInfo::exists(name.ForToolkit()) &&
+           DurableFile::Overwrite(name.ForToolkit(), content,
+                                  [this](double part) { ShowProgress("Writing the file", part); });
+}
+
 std::string QtDesktop::StampOf(const std::string& path) {
     const ReadableName name(path);
     const QFileInfo file(name.ForToolkit());
-    if (!file.exists()) {
-        return {};
+    std::error_code error;
+    const auto size = std::filesystem::file_size(file.filesystemFilePath(), error);
+    if (error) { // what cannot be looked at is like nothing that was seen before
+        return IsMissing(error) ? std::string() : "unknown " + std::to_string(++m_unknownStamps);
     }
-    std::string stamp = std::to_string(file.size());
+    std::string stamp = std::to_string(size);
     for (const QDateTime& time : {file.lastModified(), file.metadataChangeTime()}) {
         stamp += ' ' + std::to_string(time.toMSecsSinceEpoch());
     }
@@ -241,8 +263,16 @@ std::string QtDesktop::StampOf(const std::string& path) {
 }
 
 std::string QtDesktop::TruePath(const std::string& path) {
-    const QString truePath = QFileInfo(Text::PathToQt(path)).canonicalFilePath();
-    return truePath.isEmpty() ? path : Text::PathFromQt(truePath);
+    return ReadableName::TruePath(path);
+}
+
+bool QtDesktop::AreOneFile(const std::string& a, const std::string& b) {
+    std::error_code error;
+    const ReadableName nameOfA(a);
+    const ReadableName nameOfB(b);
+    return TruePath(a) == TruePath(b) ||
+           std::filesystem::equivalent(QFileInfo(nameOfA.ForToolkit()).filesystemFilePath(),
+                                       QFileInfo(nameOfB.ForToolkit()).filesystemFilePath(), error);
 }
 
 bool QtDesktop::ShowDocument(const std::string& path) {
@@ -294,6 +324,7 @@ void QtDesktop::Beep() {
 
 void QtDesktop::ShowBusy(bool busy) {
     if (busy) {
+        Memory::LimitToWhatIsLeft(); // which may be more than it was
         // A report window that is open stands before the main window.
         QWidget* dialogue = QApplication::activeModalWidget();
         m_work.Begin(dialogue != nullptr ? dialogue : m_window.data());

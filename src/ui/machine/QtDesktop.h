@@ -32,8 +32,10 @@ public:
                      const std::function<bool(std::string_view)>& use) override;
     bool StaysInPlace(const std::string& path) override;
     bool OverwriteFile(const std::string& path, std::string_view content) override;
+    bool MakePrivateFile(const std::string& path, std::string_view content) override;
     std::string StampOf(const std::string& path) override;
     std::string TruePath(const std::string& path) override;
+    bool AreOneFile(const std::string& a, const std::string& b) override;
     CommonRoutines::StateFolder& State() override { return m_state; }
     bool ShowDocument(const std::string& path) override;
     bool MayMakeFilesIn(const std::string& folder) override;
@@ -56,6 +58,7 @@ private:
     QPointer<QWidget> m_window;
     QtStateFolder m_state;
     LongWork m_work;
+    int m_unknownStamps = 0;
 };
 
 } // namespace Ui

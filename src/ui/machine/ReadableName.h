@@ -14,6 +14,8 @@ public:
     ReadableName& operator=(const ReadableName&) = delete;
 
     [[nodiscard]] const QString& ForToolkit() const { return m_name; }
+    // The path without links in it; the path itself when nothing is there.
+    [[nodiscard]] static std::string TruePath(const std::string& path);
     // Whether it is the number of a handle.
     [[nodiscard]] bool IsStandIn() const { return m_handle >= 0; }
 

@@ -34,14 +34,21 @@ EditBox::EditBox(QWidget* parent) : QLineEdit(parent) {
     setMaxLength(static_cast<int>(CommonRoutines::LongestEditableText));
     setAttribute(Qt::WA_OpaquePaintEvent); // so that a key paints nothing of what stands around the box
     connect(this, &QLineEdit::inputRejected, this, [this] { RefuseLength(); });
-    connect(this, &QLineEdit::textEdited, this, &EditBox::ReplaceForeignCharacters);
-    connect(this, &QLineEdit::textChanged, this, [this] { m_lastText = text(); });
+    // Not only what is typed: assistive technology sets the text as a whole.
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!m_isShowing) {
+            ReplaceForeignCharacters();
+        }
+        m_lastText = text();
+    });
 }
 
 void EditBox::ShowText(std::string_view text) {
     const bool cutOff = text.size() > CommonRoutines::LongestEditableText;
     setReadOnly(cutOff);
+    m_isShowing = true; // a text of the table is shown as it is
     setText(cutOff ? Text::ForList(text) : Text::ToQt(text));
+    m_isShowing = false;
 }
 
 // A file is for the window, a text for the box.

@@ -35,6 +35,7 @@ private:
     void ReplaceForeignCharacters();
     void RefuseLength();
 
+    bool m_isShowing = false;
     QString m_lastText; // the text before the edit being handled
 };
 

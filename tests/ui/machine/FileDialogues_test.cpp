@@ -1,5 +1,6 @@
 // Choosing files to open and to save.
 
+#include "ui/machine/AsOrdinaryUser.h"
 #include "ui/machine/DesktopTest.h"
 
 #include <QApplication>
@@ -16,8 +17,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-
-#include <unistd.h>
 
 using namespace CommonRoutines;
 using namespace Ui;
@@ -57,21 +56,6 @@ protected:
 
 private:
     QTemporaryDir m_folder;
-};
-
-// To the superuser no file is read-only. Meanwhile the tests ask as somebody else.
-class AsOrdinaryUser {
-public:
-    AsOrdinaryUser() : m_real(getuid()) { Become(m_real == 0 ? Nobody : m_real); }
-    ~AsOrdinaryUser() { Become(m_real); }
-    AsOrdinaryUser(const AsOrdinaryUser&) = delete;
-    AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
-
-private:
-    static constexpr uid_t Nobody = 65534;
-    static void Become(uid_t user) { EXPECT_EQ(setreuid(user, static_cast<uid_t>(-1)), 0); }
-
-    uid_t m_real;
 };
 
 // To choose this file is refused with a message, and the dialogue comes again.

@@ -11,6 +11,7 @@
 #include <QLocale>
 #include <QPrinterInfo>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -18,6 +19,7 @@
 
 #include <array>
 #include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -29,6 +31,10 @@ namespace {
 class MachineTest : public testing::Test {
 protected:
     std::string Path(const char* name) const { return m_folder.filePath(QString::fromLatin1(name)).toStdString(); }
+    std::string Written(const char* name, const char* content) const {
+        std::ofstream(Path(name)) << content;
+        return Path(name);
+    }
     QStringList FilesInFolder() const { return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden); }
 
     QtDesktop desktop;
@@ -233,4 +239,48 @@ TEST_F(MachineTest, TheWindowShowsThatTheProgramIsBusy) {
     EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
     desktop.ShowBusy(false);
     EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(MachineTest, AFileThatCannotBeLookedAtIsLikeNothingThatWasSeenBefore) {
+    const std::string path = Path("around");
+    std::filesystem::create_symlink(path, path); // leads nowhere, but not to nothing
+    const std::string stamp = desktop.StampOf(path);
+    EXPECT_NE(stamp, "");
+    EXPECT_NE(desktop.StampOf(path), stamp);
+    EXPECT_TRUE(desktop.HasContent(path));
+    EXPECT_EQ(desktop.StampOf(Path("none")), "");
+    EXPECT_EQ(desktop.StampOf(Written("file", "content") + "/below"), "");
+    EXPECT_FALSE(desktop.HasContent(Path("none")));
+}
+
+TEST_F(MachineTest, TwoNamesOfOneFileAreKnownAsSuch) {
+    const std::string path = Written("file", "content");
+    const std::string other = Written("other", "content");
+    std::filesystem::create_hard_link(path, Path("hard"));
+    std::filesystem::create_symlink(path, Path("soft"));
+    EXPECT_TRUE(desktop.AreOneFile(path, Path("hard")));
+    EXPECT_TRUE(desktop.AreOneFile(path, Path("soft")));
+    EXPECT_TRUE(desktop.AreOneFile(path, path));
+    EXPECT_FALSE(desktop.AreOneFile(path, other));
+    EXPECT_FALSE(desktop.AreOneFile(path, Path("none")));
+}
+
+TEST_F(MachineTest, AFileMadeForTheUserIsForNobodyElse) {
+    const std::string path = Path("private");
+    EXPECT_TRUE(desktop.MakePrivateFile(path, "content"));
+    EXPECT_EQ(desktop.ReadFile(path), "content");
+    EXPECT_EQ(std::filesystem::status(path).permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    EXPECT_FALSE(desktop.MakePrivateFile(path, "other"));
+    EXPECT_EQ(desktop.ReadFile(path), "content");
+}
+
+TEST_F(MachineTest, TheTruePathOfANameThatIsNoTextIsNotThatOfOneThatLooksLikeIt) {
+    const std::string name = Path("caf") + "\xE9";
+    std::ofstream(name) << "content";
+    const auto removed = qScopeGuard([&] { std::filesystem::remove(name); });
+    std::ofstream(Path("caf") + "\uFFFD") << "alike";
+    EXPECT_EQ(desktop.TruePath(name), name);
+    std::filesystem::create_symlink(name, Path("link"));
+    EXPECT_EQ(desktop.ReadFile(Path("link")), "content");
 }

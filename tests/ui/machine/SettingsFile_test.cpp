@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Ui;
 
@@ -22,6 +23,8 @@ protected:
     }
     ~SettingsFileTest() override { qputenv("XDG_CONFIG_HOME", m_before); }
 
+    static constexpr QFile::Permissions ForAll =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
     QString Path(const QString& name = QStringLiteral("Quexal/QXEdit.conf")) const { return m_folder.filePath(name); }
     static bool IsFifo(const QString& path) {
         struct stat file {};
@@ -49,6 +52,25 @@ TEST_F(SettingsFileTest, WhatIsSavedStandsInAFileOfTheUser) {
     EXPECT_EQ(desktop.GetSetting("Paths", "InFile"), "/home/user/d\xC4\x85ta");
     EXPECT_EQ(desktop.GetSetting("Paths", "ProcessFile"), "C:");
     EXPECT_TRUE(QFileInfo(Path()).isFile());
+}
+
+TEST_F(SettingsFileTest, AFileThatMayNotBeReadStaysAsItIs) {
+    desktop.SaveSetting("Paths", "InFile", "/home/user");
+    QFile file(Path());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray before = file.readAll();
+    for (const QString& folder : {Path(QString()), Path(QStringLiteral("Quexal"))}) {
+        QFile::setPermissions(folder, ForAll);
+    }
+    QFile::setPermissions(Path(), {});
+    const uid_t user = geteuid();
+    constexpr uid_t nobody = 65534;
+    EXPECT_EQ(seteuid(user == 0 ? nobody : user), 0); // the superuser may read all
+    ExpectNoSettings();
+    EXPECT_EQ(seteuid(user), 0);
+    file.seek(0);
+    EXPECT_EQ(file.readAll(), before);
+    EXPECT_EQ(QFileInfo(Path()).permissions() & ForAll, QFile::Permissions());
 }
 
 TEST_F(SettingsFileTest, APipeInTheirPlaceStaysOne) {

@@ -2,6 +2,7 @@
 
 #include "ui/windows/EditingTest.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QGuiApplication>
@@ -191,6 +192,14 @@ TEST_F(EditBoxTest, LineBreaksInAPastedTextBecomeBlanks) {
     Paste(QStringLiteral("One\r\nTwo\nThree\rFour"));
     EXPECT_EQ(EditText(), QStringLiteral("One Two Three Four"));
     EXPECT_EQ(iEditMode, AddingAcceptable);
+}
+
+// It sets the text as a whole, without any key.
+TEST_F(EditBoxTest, SoDoThoseInATextThatAssistiveTechnologySets) {
+    auto* const accessible = QAccessible::queryAccessibleInterface(&Find<QLineEdit>("tbEdit"));
+    ASSERT_NE(accessible, nullptr);
+    accessible->setText(QAccessible::Value, QStringLiteral("One\r\nTwo\nThree\rFour"));
+    EXPECT_EQ(EditText(), QStringLiteral("One Two Three Four"));
 }
 
 TEST_F(EditBoxTest, ACharacterThatTheFileCannotHoldBecomesAQuestionMark) {
