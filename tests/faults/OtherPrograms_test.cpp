@@ -151,3 +151,28 @@ TEST_F(OtherProgramsTest, WhatTheyWriteBehindASaveThatFailedAtAnyCallIsKept) {
         ExpectContent(place.file, others);
     }
 }
+
+TEST_F(OtherProgramsTest, AfterALookThatFailedAtTheOpeningWhatTheyWriteIsKeptAllTheSame) {
+    int opened = 0;
+    bool met = true;
+    for (Fault fault{"fail", 1, EIO, false, true}; met; ++fault.call) {
+        SCOPED_TRACE(fault.Description());
+        PrepareDisk();
+        const Steps edits{"edits", "1", std::to_string(Edits)};
+        Session session(place, Steps{"open", place.file, "pause"} + edits + Steps{"defaults"} + save + Steps{"close"},
+                        fault);
+        EXPECT_TRUE(session.WaitForStop());
+        met = static_cast<int>(session.Calls().size()) >= fault.call;
+        if (session.Said().starts_with("box The file cannot be read:\n")) {
+            continue;
+        }
+        ++opened;
+        WriteWithSameSizeAndTime(place.file);
+        const std::string others = ContentOf(place.file).value();
+        session.Continue();
+        session.Finish();
+        EXPECT_TRUE(HasAsked(session)) << session.Said();
+        ExpectContent(place.file, others);
+    }
+    EXPECT_GT(opened, 20);
+}
