@@ -146,3 +146,16 @@ TEST_F(FailingCallsTest, BehindAFailedSaveTheWindowAsksBeforeItClosesAndCanSaveA
         << session.Said();
     ExpectContent(place.file, ContentAfter(Edits));
 }
+
+TEST_F(FailingCallsTest, BehindACancelledSaveTheWindowAsksBeforeItClosesAndKilledItLosesNothing) {
+    PrepareDisk();
+    Session session(place, EditAndPause() + Steps{"save", "", "close", "pause"});
+    EXPECT_TRUE(session.WaitForStop());
+    session.Continue();
+    EXPECT_TRUE(session.WaitForStop());
+    EXPECT_TRUE(session.Said().ends_with("\nsaving\nbox This will loose your changes.\nstill open\n"))
+        << session.Said();
+    session.Kill();
+    ExpectContent(place.file, OldContent());
+    ExpectRecovered(Edits);
+}

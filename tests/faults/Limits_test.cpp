@@ -25,11 +25,6 @@ protected:
 constexpr std::string_view Warning = "\nbox Your changes cannot be written to the recovery file."
                                      "  They are only safe once the file is saved.\n";
 
-Steps operator+(Steps a, const Steps& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
-
 } // namespace
 
 TEST_F(LimitsTest, AFileThatMayNotGrowSoLargeIsNotSavedAndNothingIsLost) {

@@ -41,6 +41,7 @@ std::vector<std::string> Environment(const Workplace& place, const Fault& fault)
         "LANG=C.UTF-8",
         "QT_QPA_PLATFORM=offscreen",
         "LD_PRELOAD=" QUEXAL_FAULTY_CALLS,
+        std::string("QUEXAL_FAULT_FAMILY=") + (fault.isOfLooks ? "looks" : "changes"),
         "QUEXAL_FAULT_FOLDERS=" + folders,
         "QUEXAL_FAULT_LOG=" + place.callLog.string(),
         "QUEXAL_FAULT_ACTION=" + fault.action,
@@ -60,8 +61,13 @@ std::vector<std::string> Environment(const Workplace& place, const Fault& fault)
 
 } // namespace
 
+Steps operator+(Steps steps, const Steps& more) {
+    steps.insert(steps.end(), more.begin(), more.end());
+    return steps;
+}
+
 std::string Fault::Description() const {
-    return (action.empty() ? "no fault" : action) + " at call " + std::to_string(call) +
+    return (action.empty() ? "no fault" : action) + (isOfLooks ? " at look " : " at call ") + std::to_string(call) +
            (error == 0 ? "" : std::string(", ") + std::strerror(error)) +
            (namedFilesOnly ? ", files with names only" : "");
 }

@@ -22,6 +22,7 @@ struct Fault {
     int call = 0;
     int error = 0;
     bool namedFilesOnly = false; // as if the file system knew no files without a name
+    bool isOfLooks = false;      // at the calls that only look at the disk, in place of those that change it
 
     [[nodiscard]] std::string Description() const;
 };
@@ -34,6 +35,7 @@ struct Call {
 };
 
 using Steps = std::vector<std::string>;
+Steps operator+(Steps steps, const Steps& more);
 
 // A session with the real window in a process of its own (session.cpp), which ends with its owner.
 class Session {

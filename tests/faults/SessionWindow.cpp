@@ -33,9 +33,15 @@ SessionDesktop::SessionDesktop() {
 
 BoxAnswer SessionDesktop::MsgBox(const Wording& text, BoxIcon icon, BoxButtons buttons) {
     const BoxAnswer answer = AnsweringDesktop::MsgBox(text, icon, buttons);
-    const bool refuses =
-        buttons == BoxButtons::YesNoCancel && text.Utf8().starts_with(UnsavedChanges) && !wantsUnsavedChanges;
-    return refuses || text.Utf8().starts_with(LosesChanges) ? BoxAnswer::No : answer;
+    if (buttons == BoxButtons::YesNoCancel && text.Utf8().starts_with(UnsavedChanges)) {
+        return aboutUnsavedChanges;
+    }
+    const bool isDefaultNo = takesDefaults && buttons == BoxButtons::YesNoDefaultNo;
+    return isDefaultNo || text.Utf8().starts_with(LosesChanges) ? BoxAnswer::No : answer;
+}
+
+std::optional<std::string> SessionDesktop::ChooseFileToSave(const FileRequest& request) {
+    return fileToSave.empty() ? std::nullopt : AnsweringDesktop::ChooseFileToSave(request);
 }
 
 bool SessionWindow::SelectVariation(int number) {

@@ -3,21 +3,25 @@
 #include "driver/AnsweringDesktop.h"
 #include "driver/DrivenForm.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 // Says on the standard output, at once and whole, what has been reached.
 void Milestone(std::string_view text);
 
-// Questions are answered with Yes, unless unsaved changes would be lost, or are not wanted back. Boxes and
-// the outcome of a save are milestones.
+// Questions are answered with Yes, unless unsaved changes would be lost, another answer is wanted about those of an
+// earlier session, or the default is taken. Boxes and the outcome of a save are milestones.
 class SessionDesktop : public Ui::AnsweringDesktop {
 public:
-    bool wantsUnsavedChanges = true;
+    CommonRoutines::BoxAnswer aboutUnsavedChanges = CommonRoutines::BoxAnswer::Yes;
+    bool takesDefaults = false; // where that is No
 
     SessionDesktop();
     CommonRoutines::BoxAnswer MsgBox(const CommonRoutines::Wording& text, CommonRoutines::BoxIcon icon,
                                      CommonRoutines::BoxButtons buttons) override;
+    // A dialogue without a name is cancelled.
+    std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& request) override;
 };
 
 // What a session does to the main window.

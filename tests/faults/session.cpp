@@ -1,7 +1,7 @@
 // A session with the real window, offscreen, step by step: quexal-fault-session STEP...
 //   open PATH            opens a data file
 //   edits FIRST LAST     makes the edits with these numbers
-//   save PATH            saves, where there is something to save
+//   save PATH            saves, where there is something to save; cancels the dialogue when the path is empty
 //   check                runs the complete check
 //   close                closes the window, but keeps what that would lose
 //   pause                stops until it is continued
@@ -9,7 +9,10 @@
 //   memory SIZE          from now on, no more memory may be taken than this, nor what lies free in large blocks
 //   handles COUNT        from now on, no more than so many further files may be open at a time
 //   unlimited            takes these limits back
+//   defaults             from now on, questions are answered as the return key does
+//   agree                from now on, they are answered with Yes again
 //   refuse               from now on, unsaved changes of an earlier session are not wanted
+//   postpone             from now on, the question about them is left with Esc
 // What is reached is printed, a line each: "opened", "edit NUMBER", "saving", "saved" when the program said so,
 // "nothing to save", "checked", "closed" or "still open", "box TEXT" for every box, and "finished" after the last step.
 
@@ -119,8 +122,11 @@ void Play(SessionWindow& window, Steps& steps) {
         Limit(RLIMIT_FSIZE, RLIM_INFINITY);
         Limit(RLIMIT_NOFILE, RLIM_INFINITY);
         Limit(RLIMIT_DATA, RLIM_INFINITY);
-    } else if (step == "refuse") {
-        window.desktop.wantsUnsavedChanges = false;
+    } else if (step == "defaults" || step == "agree") {
+        window.desktop.takesDefaults = step == "defaults";
+    } else if (step == "refuse" || step == "postpone") {
+        using CommonRoutines::BoxAnswer;
+        window.desktop.aboutUnsavedChanges = step == "refuse" ? BoxAnswer::No : BoxAnswer::Cancel;
     } else {
         qFatal("no step is called %s", step.c_str());
     }
