@@ -15,7 +15,8 @@ bool OpenFile::IsAt(Desktop& desktop, const std::string& path) {
 
 bool OpenFile::WasChangedAt(Desktop& desktop, const std::string& path) const {
     const std::string stamp = desktop.StampOf(path);
-    if (!IsAt(desktop, path) || stamp.empty() || stamp == m_stamp) {
+    const bool isThis = path == m_path || IsAt(desktop, path);
+    if (!isThis || stamp.empty() || stamp == m_stamp) {
         return false;
     }
     const auto bytes = desktop.ReadFile(path);

@@ -44,6 +44,7 @@ protected:
 
 constexpr std::string_view Named = "box There are unsaved changes to this file that cannot be had back now.";
 constexpr std::string_view NotListed = "box It cannot be told whether there are unsaved changes to this file.";
+constexpr std::string_view NotTakenUp = "box There may be unsaved changes to this file that were not taken up.";
 constexpr std::string_view Added = "|Faultby Number 1"; // by the first edit
 constexpr std::string_view EarlierState = "earlier state";
 constexpr std::string_view Outage = "box Your changes cannot be written to the recovery file.";
@@ -100,6 +101,45 @@ TEST_F(MountedLeftOversTest, InAReadOnlyStateFolderAreNamedAndComeBackLater) {
         EXPECT_EQ(CountIn(SaidAtOpening(), Named), 1);
     }
     ExpectRecovered(Edits);
+}
+
+TEST_F(MountedLeftOversTest, InAReadOnlyStateFolderMakeASaveAskAndComeBackBehindANo) {
+    LeaveEdits(Edits);
+    const std::filesystem::path file = RecoveryFile();
+    const std::string content = ContentOf(file).value();
+    {
+        TmpfsMount readOnly(state, 100);
+        WriteContent(state / file.filename(), content);
+        readOnly.MakeReadOnly();
+        const std::string next = std::to_string(Edits + 1);
+        Session session(place, {"open", place.file, "edits", next, next, "defaults", "save", place.file, "close"});
+        session.Finish();
+        EXPECT_EQ(CountIn(session.Said(), Named), 1) << session.Said();
+        EXPECT_EQ(CountIn(session.Said(), NotTakenUp), 1) << session.Said();
+        EXPECT_TRUE(session.Said().ends_with("\nbox This will loose your changes.\nstill open\nfinished\n"))
+            << session.Said();
+        ExpectContent(place.file, OldContent());
+    }
+    ExpectRecovered(Edits);
+}
+
+TEST_F(MountedLeftOversTest, InAReadOnlyStateFolderMakeASaveAskAndStayBehindAYes) {
+    LeaveEdits(Edits);
+    const std::filesystem::path file = RecoveryFile();
+    const std::string content = ContentOf(file).value();
+    {
+        TmpfsMount readOnly(state, 100);
+        WriteContent(state / file.filename(), content);
+        readOnly.MakeReadOnly();
+        Session session(place, {"open", place.file, "edits", "1", "1", "save", place.file, "close"});
+        session.Finish();
+        EXPECT_EQ(CountIn(session.Said(), NotTakenUp), 1) << session.Said();
+        EXPECT_TRUE(session.Said().ends_with("\nsaved\nclosed\nfinished\n")) << session.Said();
+        ExpectContent(place.file, ContentAfter(1));
+    }
+    EXPECT_EQ(CountIn(SaidAtOpening(), EarlierState), 1);
+    ExpectContent(file.string() + ".aside", content);
+    ExpectContent(place.file, ContentAfter(1));
 }
 
 TEST_F(LeftOversTest, OfMoreThan2GiBAreNamedAndStay) {

@@ -8,12 +8,15 @@
 // was given nor writes down the names in a folder.
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #endif
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace DurableFile {
 
@@ -22,6 +25,16 @@ namespace {
 #ifdef Q_OS_UNIX
 
 constexpr mode_t ReadableByAll = 0666; // the user's mask takes away what others may not do
+
+// Whether a new file lets everybody do what the old one does. The toolkit takes a look at that one that fails for a
+// file that nobody may touch.
+bool HasRightsOf(const QFileDevice& file, const std::filesystem::file_status& old) {
+    struct stat status {};
+    const auto rights = static_cast<mode_t>(old.permissions() & std::filesystem::perms::all);
+    return old.type() == std::filesystem::file_type::not_found ||
+           (fstat(file.handle(), &status) == 0 &&
+            (status.st_mode & static_cast<mode_t>(std::filesystem::perms::all)) == rights);
+}
 
 // Of what is kept about a file, only its size matters here, which is put on the disk with its content.
 bool SyncContent(int handle) {
@@ -50,6 +63,9 @@ bool OpenWithoutEmptying(QFile& file, bool isNew) {
 
 #else
 
+bool HasRightsOf(const QFileDevice& /*file*/, const std::filesystem::file_status& /*old*/) {
+    return true; // the folder gives them
+}
 bool OpenWithoutEmptying(QFile& file, bool /*isNew*/) {
     return file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
 }
@@ -62,6 +78,26 @@ bool SyncFolder(const QString& /*folder*/) {
 }
 
 #endif
+
+// What is to be written: a regular file, or the name of one to be made.
+struct Target {
+    QString path; // of a file that is there, without links
+    std::filesystem::file_status status;
+
+    [[nodiscard]] bool IsNew() const { return status.type() == std::filesystem::file_type::not_found; }
+};
+
+// Nothing for anything else, and where a look at it fails: it must not pass for a file that is not there.
+std::optional<Target> TargetOf(const QString& path) {
+    std::error_code error;
+    const std::filesystem::path name = QFileInfo(path).filesystemFilePath();
+    Target target{path, std::filesystem::status(name, error)};
+    if (target.status.type() == std::filesystem::file_type::regular) {
+        target.path = QFileInfo(std::filesystem::canonical(name, error)).filePath();
+        return error ? std::nullopt : std::optional(target);
+    }
+    return target.IsNew() ? std::optional(target) : std::nullopt;
+}
 
 // Goes through the bytes of a file piece by piece, at least once, until `transfer` refuses one.
 bool InPieces(std::size_t all, const Listener& listener,
@@ -99,13 +135,17 @@ std::optional<std::string> Read(const QString& path, const Listener& listener) {
 }
 
 bool Replace(const QString& path, std::string_view content, const Listener& listener) {
-    const QFileInfo target(path);
-    if (target.exists() && !target.isFile()) {
+    const auto target = TargetOf(path);
+    if (!target) {
         return false;
     }
-    QSaveFile file(path);
+    QSaveFile file(target->path);
     // The toolkit lets nobody else read the new file until it has the rights of the old one.
     if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    if (!HasRightsOf(file, target->status)) {
+        file.cancelWriting();
         return false;
     }
     // Everything is on the disk before the commit, which would put a file that is not in the place of
@@ -122,12 +162,12 @@ bool Replace(const QString& path, std::string_view content, const Listener& list
 }
 
 bool Overwrite(const QString& path, std::string_view content, const Listener& listener) {
-    const QFileInfo target(path);
-    const bool isNew = !target.exists();
+    const auto target = TargetOf(path);
     QFile file(path);
-    if ((!isNew && !target.isFile()) || !OpenWithoutEmptying(file, isNew)) {
+    if (!target || !OpenWithoutEmptying(file, target->IsNew())) {
         return false;
     }
+    const bool isNew = target->IsNew();
     // The old end goes last: what is given up on the disk might not be had back.
     const auto size = static_cast<qint64>(content.size());
     const bool isWritten = InPieces(content.size(), listener,

@@ -61,6 +61,9 @@ LockResult FileLock::Take(const QString& path) {
             return LockResult::Taken;
         }
         close(handle);
+        if (looks >= MostLooks) {
+            return LockResult::Impossible; // nobody removes it so often: it cannot be looked at
+        }
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <optional>
 
 // Goes past the toolkit to the system, since the toolkit knows nothing of mounts and of attributes.
 #ifdef Q_OS_LINUX
@@ -12,21 +13,16 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
+#include <climits>
+#include <cstdint>
+#include <cstdlib>
 #endif
 
 namespace FilePlace {
 
 namespace {
-
-// Where the file is, or will be made, whatever links lead there.
-QFileInfo Target(const QString& path) {
-    const QFileInfo file(path);
-    if (file.exists()) {
-        return QFileInfo(file.canonicalFilePath());
-    }
-    return file.isSymLink() ? QFileInfo(file.symLinkTarget()) : file;
-}
 
 #ifdef Q_OS_LINUX
 
@@ -34,18 +30,30 @@ constexpr long LongestName = 255;       // where the system does not tell
 constexpr long TemporaryEnding = 7;     // ".XXXXXX", behind the whole name
 constexpr mode_t SpecialRights = 07000; // which the toolkit does not give to a new file
 
-QByteArray NameOf(const QFileInfo& file) {
-    return QFile::encodeName(file.filePath());
+// Where the file is, or will be made, whatever links lead there; nothing when that cannot be told.
+std::optional<QByteArray> Target(const QString& path, bool exists) {
+    const QByteArray name = QFile::encodeName(path);
+    if (!exists) {
+        const QFileInfo file(path);
+        return file.isSymLink() ? QFile::encodeName(file.symLinkTarget()) : name;
+    }
+    std::array<char, PATH_MAX> target{};
+    return realpath(name.constData(), target.data()) != nullptr ? std::optional<QByteArray>(target.data())
+                                                                : std::nullopt;
 }
 
 bool HasSystemAttribute(const QByteArray& name, std::uint64_t attribute) {
     struct statx status {};
-    return statx(AT_FDCWD, name.constData(), 0, 0, &status) == 0 && (status.stx_attributes & attribute) != 0;
+    if (statx(AT_FDCWD, name.constData(), 0, 0, &status) != 0) {
+        return errno != ENOSYS && errno != EPERM; // as where the system does not know it, or a container forbids it
+    }
+    return (status.stx_attributes & attribute) != 0;
 }
 
-bool LeavesNoRoomForEnding(const QFileInfo& file, const QByteArray& folder) {
+bool LeavesNoRoomForEnding(const QByteArray& file, const QByteArray& folder) {
     const long longest = pathconf(folder.constData(), _PC_NAME_MAX);
-    return QFile::encodeName(file.fileName()).size() + TemporaryEnding > (longest > 0 ? longest : LongestName);
+    const qsizetype length = file.size() - (file.lastIndexOf('/') + 1);
+    return length + TemporaryEnding > (longest > 0 ? longest : LongestName);
 }
 
 // Labels that the system itself gives to every file do not count.
@@ -67,7 +75,8 @@ bool HasAttributes(const QByteArray& name) {
 
 // A new file gets what its folder has for new ones.
 bool WouldBeReadableByOthers(const QByteArray& folder) {
-    return getxattr(folder.constData(), "system.posix_acl_default", nullptr, 0) >= 0;
+    return getxattr(folder.constData(), "system.posix_acl_default", nullptr, 0) >= 0 ||
+           (errno != ENODATA && errno != ENOTSUP);
 }
 
 bool WouldBelongToOthers(const struct stat& file, const struct stat& folder) {
@@ -75,39 +84,55 @@ bool WouldBelongToOthers(const struct stat& file, const struct stat& folder) {
     return file.st_uid != geteuid() || file.st_gid != group;
 }
 
-bool WouldNotBeTheSame(const QByteArray& name, const QByteArray& folderName) {
-    struct stat file {};
+bool WouldNotBeTheSame(const struct stat& file, const QByteArray& name, const QByteArray& folderName) {
     struct stat folder {};
-    if (stat(name.constData(), &file) != 0 || stat(folderName.constData(), &folder) != 0) {
-        return true; // it cannot be told
-    }
-    return file.st_nlink > 1 || (file.st_mode & SpecialRights) != 0 || WouldBelongToOthers(file, folder) ||
-           HasAttributes(name) || WouldBeReadableByOthers(folderName);
+    return stat(folderName.constData(), &folder) != 0 || file.st_nlink > 1 || (file.st_mode & SpecialRights) != 0 ||
+           WouldBelongToOthers(file, folder) || HasAttributes(name) || WouldBeReadableByOthers(folderName);
 }
 
-bool MustBeKept(const QFileInfo& file, const QFileInfo& folder) {
-    const QByteArray folderName = NameOf(folder);
-    if (LeavesNoRoomForEnding(file, folderName) || HasSystemAttribute(folderName, STATX_ATTR_APPEND)) {
-        return true;
-    }
-    return file.exists() && (!folder.isWritable() || HasSystemAttribute(NameOf(file), STATX_ATTR_MOUNT_ROOT) ||
-                             WouldNotBeTheSame(NameOf(file), folderName));
-}
-
-#else
-
-bool MustBeKept(const QFileInfo& file, const QFileInfo& folder) {
-    return file.exists() && !folder.isWritable();
+bool IsForbidden(int error) {
+    return error == EACCES || error == EROFS;
 }
 
 #endif
 
 } // namespace
 
+#ifdef Q_OS_LINUX
+
+// What cannot be looked at might be anything: it is kept.
 bool MustBeKept(const QString& path) {
-    const QFileInfo file = Target(path);
-    const bool mayBeWritten = !file.exists() || (file.isFile() && file.isWritable());
-    return mayBeWritten && MustBeKept(file, QFileInfo(file.absolutePath()));
+    const QByteArray name = QFile::encodeName(path);
+    struct stat file {};
+    const bool exists = stat(name.constData(), &file) == 0;
+    if (!exists && errno != ENOENT && errno != ENOTDIR && errno != ENAMETOOLONG) {
+        return true;
+    }
+    if (exists && !S_ISREG(file.st_mode)) {
+        return false;
+    }
+    if (exists && access(name.constData(), W_OK) != 0) {
+        return !IsForbidden(errno);
+    }
+    const auto target = Target(path, exists);
+    if (!target) {
+        return true;
+    }
+    const QByteArray folder = target->left(std::max<qsizetype>(target->lastIndexOf('/'), 1));
+    if (LeavesNoRoomForEnding(*target, folder) || HasSystemAttribute(folder, STATX_ATTR_APPEND)) {
+        return true;
+    }
+    return exists && (access(folder.constData(), W_OK) != 0 || HasSystemAttribute(*target, STATX_ATTR_MOUNT_ROOT) ||
+                      WouldNotBeTheSame(file, *target, folder));
 }
+
+#else
+
+bool MustBeKept(const QString& path) {
+    const QFileInfo file(path);
+    return file.isFile() && file.isWritable() && !QFileInfo(file.absolutePath()).isWritable();
+}
+
+#endif
 
 } // namespace FilePlace

@@ -22,13 +22,16 @@ bool IsText(const std::string& path) {
 } // namespace
 
 std::string ReadableName::TruePath(const std::string& path) {
-    if (!IsText(path)) {
-        std::error_code error;
-        const auto truePath = std::filesystem::canonical(path, error);
-        return error ? path : truePath.string();
+    const auto name = IsText(path) ? QFileInfo(Text::PathToQt(path)).filesystemFilePath() : std::filesystem::path(path);
+    std::error_code error;
+    auto truePath = std::filesystem::canonical(name, error);
+    if (error && error != std::errc::no_such_file_or_directory) { // a call may fail once
+        truePath = std::filesystem::canonical(name, error);
     }
-    const QString truePath = QFileInfo(Text::PathToQt(path)).canonicalFilePath();
-    return truePath.isEmpty() ? path : Text::PathFromQt(truePath);
+    if (error) {
+        return path;
+    }
+    return IsText(path) ? Text::PathFromQt(QFileInfo(truePath).filePath()) : truePath.string();
 }
 
 ReadableName::ReadableName(const std::string& path) : m_name(Text::PathToQt(path)) {
