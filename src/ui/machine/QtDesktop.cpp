@@ -204,7 +204,9 @@ std::optional<std::string> QtDesktop::ChooseFileToOpen(const FileRequest& reques
 }
 
 std::optional<std::string> QtDesktop::ChooseFileToSave(const FileRequest& request) {
-    return FileDialogues::ChooseToSave(m_window, request, *this);
+    auto path = FileDialogues::ChooseToSave(m_window, request, *this);
+    Memory::LimitToWhatIsLeft(); // which may be more than when a file was read
+    return path;
 }
 
 std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
@@ -324,7 +326,6 @@ void QtDesktop::Beep() {
 
 void QtDesktop::ShowBusy(bool busy) {
     if (busy) {
-        Memory::LimitToWhatIsLeft(); // which may be more than it was
         // A report window that is open stands before the main window.
         QWidget* dialogue = QApplication::activeModalWidget();
         m_work.Begin(dialogue != nullptr ? dialogue : m_window.data());
