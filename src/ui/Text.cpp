@@ -5,7 +5,6 @@
 #include "core/State.h"
 #include "core/Wording.h"
 
-#include <QFile>
 #include <QUrl>
 
 #include <algorithm>
@@ -98,11 +97,11 @@ QString ForToolTip(const QString& text) {
 }
 
 QString PathToQt(const std::string& path) {
-    return QFile::decodeName(QByteArray::fromStdString(path));
+    return QString::fromStdString(path);
 }
 
 std::string PathFromQt(const QString& path) {
-    return QFile::encodeName(path).toStdString();
+    return path.toStdString();
 }
 
 std::string PathFromUrl(const QUrl& url) {

@@ -5,11 +5,11 @@
 #include "checks/CompleteCheck.h"
 #include "checks/ReportOutput.h"
 #include "core/State.h"
+#include "support/LittleMemory.h"
 #include "support/ScriptedDesktop.h"
 #include "support/Table.h"
 
 #include <functional>
-#include <sys/resource.h>
 
 using namespace CommonRoutines;
 
@@ -51,20 +51,10 @@ public:
 
 class LongNamesTest : public StateTest {
 protected:
-    // Runs what must stay within half a gigabyte; 3 GB are listed.
-    static void Within([[maybe_unused]] const std::function<void()>& work) {
-#ifdef __SANITIZE_ADDRESS__
-        GTEST_SKIP() << "the sanitizer ends a program that is refused memory";
-#else
-        const auto run = [&] {
-            constexpr rlim_t megabytes512 = 512UL << 20U;
-            const rlimit limit{megabytes512, megabytes512};
-            setrlimit(RLIMIT_AS, &limit);
-            work();
-            std::exit(HasFailure() ? 1 : 0);
-        };
-        EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
-#endif
+    // 3 GB are listed.
+    static void Within(const std::function<void()>& work) {
+        constexpr std::size_t megabytes512 = 512UL << 20U;
+        DoWithin(megabytes512, work);
     }
     static void ExpectTaken(const TakingDesktop& desktop, std::size_t lines, const std::string& line) {
         EXPECT_EQ(desktop.lines, lines);

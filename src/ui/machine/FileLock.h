@@ -3,13 +3,8 @@
 #include "core/StateFolder.h"
 
 #include <QString>
-#include <QtGlobal>
 
-#ifndef Q_OS_UNIX
-#include <QLockFile>
-
-#include <memory>
-#endif
+#include <cstdint>
 
 namespace Ui {
 
@@ -31,12 +26,8 @@ public:
 
 private:
     QString m_problem;
-#ifdef Q_OS_UNIX
     QString m_path;
-    int m_handle = -1;
-#else
-    std::unique_ptr<QLockFile> m_lock;
-#endif
+    std::intptr_t m_handle = -1; // of the system
 };
 
 } // namespace Ui

@@ -9,6 +9,7 @@
 #include "ui/machine/Memory.h"
 #include "ui/machine/OnlyForTheUser.h"
 #include "ui/machine/Printing.h"
+#include "ui/machine/Process.h"
 #include "ui/machine/ReadableName.h"
 #include "ui/machine/SettingsFile.h"
 #include "ui/machine/Spool.h"
@@ -31,7 +32,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
 #include <system_error>
 
@@ -134,10 +134,7 @@ void LetTabReachText(QMessageBox& box) {
 } // namespace
 
 QtDesktop::QtDesktop() {
-#ifdef SIGXFSZ
-    // A write beyond the largest size that a file may have is to fail, not to end the program.
-    std::signal(SIGXFSZ, SIG_IGN);
-#endif
+    Process::LetCallsFail();
 }
 
 BoxAnswer QtDesktop::ShowBox(const QString& title, const Wording& text, BoxIcon icon, BoxButtons buttons) {

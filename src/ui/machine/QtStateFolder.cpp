@@ -5,13 +5,13 @@
 #include "ui/machine/DateTimeText.h"
 #include "ui/machine/DurableFile.h"
 #include "ui/machine/OnlyForTheUser.h"
+#include "ui/machine/UserFolders.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <filesystem>
@@ -22,42 +22,25 @@ using namespace CommonRoutines;
 
 namespace {
 
-QString FolderPath() {
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    // The toolkit knows where states are kept (XDG_STATE_HOME) only from version 6.7 on.
-    QString states = qEnvironmentVariable("XDG_STATE_HOME");
-    if (!QDir::isAbsolutePath(states)) {
-        states = QDir::homePath() + QStringLiteral("/.local/state");
-    }
-    return states + QStringLiteral("/quexal-editor");
-#else
-    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-#endif
-}
-
-// A folder that was there is closed to others, too. One behind a link is somebody's own arrangement.
 void MakeFolder() {
-    const QFileInfo folder(FolderPath());
-    QDir().mkpath(folder.filePath());
-    if (!folder.isSymLink()) {
-        QFile::setPermissions(folder.filePath(),
-                              QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    }
+    QDir().mkpath(UserFolders::State());
+    UserFolders::CloseToOthers(UserFolders::State()); // also one that was there
 }
 
 } // namespace
 
 QString QtStateFolder::FilePath(const std::string& name) {
-    return FolderPath() + QLatin1Char('/') + Text::PathToQt(name);
+    return UserFolders::State() + QLatin1Char('/') + Text::PathToQt(name);
 }
 
 std::vector<std::string> QtStateFolder::Names() {
     std::vector<std::string> names;
     std::error_code error;
-    std::filesystem::directory_iterator entry(QDir(FolderPath()).filesystemAbsolutePath(), error);
+    std::filesystem::directory_iterator entry(QDir(UserFolders::State()).filesystemAbsolutePath(), error);
     while (!error && entry != std::filesystem::directory_iterator()) {
         if (std::error_code other; entry->is_regular_file(other)) {
-            names.push_back(entry->path().filename().string());
+            const std::u8string name = entry->path().filename().u8string();
+            names.emplace_back(name.begin(), name.end());
         }
         entry.increment(error);
     }

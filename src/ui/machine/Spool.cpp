@@ -1,5 +1,7 @@
 #include "ui/machine/Spool.h"
 
+#include "ui/machine/UserFolders.h"
+
 #include <QTemporaryFile>
 
 namespace Spool {
@@ -24,8 +26,7 @@ bool Use(const CommonRoutines::PieceSource& pieces, const std::function<bool(std
     if (!piece) {
         return use(content);
     }
-    // The usual folder for what is temporary is often itself in memory.
-    QTemporaryFile file(QStringLiteral("/var/tmp/quexal-editor-XXXXXX"));
+    QTemporaryFile file(UserFolders::Large() + QStringLiteral("/quexal-editor-XXXXXX"));
     bool isWritten = file.open() && Write(file, content);
     content = {};
     for (; isWritten && piece; piece = pieces()) {

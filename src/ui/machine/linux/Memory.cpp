@@ -5,16 +5,12 @@
 #include <algorithm>
 #include <optional>
 
-#ifdef Q_OS_LINUX
 #include <sys/resource.h>
 #include <unistd.h>
-#endif
 
 namespace Memory {
 
 namespace {
-
-#ifdef Q_OS_LINUX
 
 QByteArrayList WordsOf(const QString& systemFile) {
     QFile file(systemFile);
@@ -44,12 +40,9 @@ std::optional<rlim_t> Left() {
     return left;
 }
 
-#endif
-
 } // namespace
 
 void LimitToWhatIsLeft() {
-#ifdef Q_OS_LINUX
     // The limit that the user has set, if any, is never raised.
     static const rlimit before = [] {
         rlimit limit{RLIM_INFINITY, RLIM_INFINITY};
@@ -62,7 +55,6 @@ void LimitToWhatIsLeft() {
         const rlimit limit{std::min(before.rlim_cur, *taken + *left), before.rlim_max};
         setrlimit(RLIMIT_DATA, &limit);
     }
-#endif
 }
 
 } // namespace Memory

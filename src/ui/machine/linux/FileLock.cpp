@@ -5,16 +5,12 @@
 
 // Goes past the toolkit to the system, since the toolkit tells who has a lock from what is written in it.
 // A process that is killed, or finds the disk full, before it has written that leaves a lock for ever.
-#ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#endif
-
-#ifdef Q_OS_UNIX
 
 namespace Ui {
 
@@ -69,34 +65,13 @@ LockResult FileLock::Take(const QString& path) {
 
 void FileLock::Release() {
     if (m_handle >= 0) {
-        if (IsStillThere(m_handle, QFile::encodeName(m_path).constData())) {
+        const int handle = static_cast<int>(m_handle);
+        if (IsStillThere(handle, QFile::encodeName(m_path).constData())) {
             QFile::remove(m_path); // while it is locked, so that nobody else's is removed
         }
-        close(m_handle);
+        close(handle);
         m_handle = -1;
     }
 }
-
-#else
-
-// There the toolkit's lock has to do.
-LockResult FileLock::Take(const QString& path) {
-    m_lock = std::make_unique<QLockFile>(path);
-    m_lock->setStaleLockTime(0); // a lock ends with its process, not with time
-    if (m_lock->tryLock(0)) {
-        return LockResult::Taken;
-    }
-    if (m_lock->error() == QLockFile::LockFailedError) {
-        return LockResult::HeldByAnother;
-    }
-    m_problem = QStringLiteral("No lock can be made");
-    return LockResult::Impossible;
-}
-
-void FileLock::Release() {
-    m_lock.reset();
-}
-
-#endif
 
 } // namespace Ui

@@ -7,10 +7,8 @@
 #include <filesystem>
 #include <system_error>
 
-#ifdef Q_OS_LINUX
 #include <fcntl.h>
 #include <unistd.h>
-#endif
 
 namespace {
 
@@ -35,7 +33,6 @@ std::string ReadableName::TruePath(const std::string& path) {
 }
 
 ReadableName::ReadableName(const std::string& path) : m_name(Text::PathToQt(path)) {
-#ifdef Q_OS_LINUX
     if (IsText(path)) {
         return;
     }
@@ -43,13 +40,10 @@ ReadableName::ReadableName(const std::string& path) : m_name(Text::PathToQt(path
     if (m_handle >= 0) {
         m_name = QStringLiteral("/proc/self/fd/%1").arg(m_handle);
     }
-#endif
 }
 
 ReadableName::~ReadableName() {
-#ifdef Q_OS_LINUX
     if (m_handle >= 0) {
         close(m_handle);
     }
-#endif
 }

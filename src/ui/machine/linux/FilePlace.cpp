@@ -7,7 +7,6 @@
 #include <optional>
 
 // Goes past the toolkit to the system, since the toolkit knows nothing of mounts and of attributes.
-#ifdef Q_OS_LINUX
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -18,13 +17,10 @@
 #include <climits>
 #include <cstdint>
 #include <cstdlib>
-#endif
 
 namespace FilePlace {
 
 namespace {
-
-#ifdef Q_OS_LINUX
 
 constexpr long LongestName = 255;       // where the system does not tell
 constexpr long TemporaryEnding = 7;     // ".XXXXXX", behind the whole name
@@ -94,11 +90,7 @@ bool IsForbidden(int error) {
     return error == EACCES || error == EROFS;
 }
 
-#endif
-
 } // namespace
-
-#ifdef Q_OS_LINUX
 
 // What cannot be looked at might be anything: it is kept.
 bool MustBeKept(const QString& path) {
@@ -125,14 +117,5 @@ bool MustBeKept(const QString& path) {
     return exists && (access(folder.constData(), W_OK) != 0 || HasSystemAttribute(*target, STATX_ATTR_MOUNT_ROOT) ||
                       WouldNotBeTheSame(file, *target, folder));
 }
-
-#else
-
-bool MustBeKept(const QString& path) {
-    const QFileInfo file(path);
-    return file.isFile() && file.isWritable() && !QFileInfo(file.absolutePath()).isWritable();
-}
-
-#endif
 
 } // namespace FilePlace
