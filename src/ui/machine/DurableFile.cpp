@@ -79,8 +79,12 @@ bool Replace(const QString& path, std::string_view content, const Listener& list
                    file.flush() && SystemFile::Sync(file);
         });
     };
-    return SystemFile::Replace(target->path, target->status, write) &&
-           SystemFile::SyncFolder(QFileInfo(target->path).absolutePath());
+    if (!SystemFile::Replace(target->path, target->status, write)) {
+        return false;
+    }
+    // A link that led nowhere leads to the folder in which the name of the new file stands.
+    const QString written = target->IsNew() ? QFileInfo(path).canonicalFilePath() : target->path;
+    return SystemFile::SyncFolder(QFileInfo(written).absolutePath());
 }
 
 bool Overwrite(const QString& path, std::string_view content, const Listener& listener) {
