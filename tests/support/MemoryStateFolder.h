@@ -76,7 +76,8 @@ public:
         if (!canWrite || file == storage->files.end() || file->second.size() < kept) {
             return false;
         }
-        file->second = file->second.substr(0, kept).append(added);
+        file->second.resize(kept);
+        file->second += added;
         return true;
     }
     bool Rename(const std::string& name, const std::string& newName) override {
