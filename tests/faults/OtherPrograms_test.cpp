@@ -6,7 +6,9 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <chrono>
 #include <functional>
+#include <thread>
 
 namespace {
 
@@ -44,6 +46,8 @@ protected:
     // What makes the file another one, while a session pauses at its first pause. The bytes that are there then.
     std::string WriteMeanwhile(Session& session, const std::function<void(const std::filesystem::path&)>& write) const {
         EXPECT_TRUE(session.WaitForStop());
+        // The times of files go in steps. What happens within one leaves no trace but in the bytes.
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
         write(place.file);
         session.Continue();
         return ContentOf(place.file).value_or("");
