@@ -40,9 +40,17 @@ bool ScarceMemory::End() {
     return hasFailed;
 }
 
-// Those of the whole program; the other forms of the standard library call these.
+// Those of the whole program. The sanitizer has forms of its own for what is not here.
 void* operator new(std::size_t size) {
     return Allocate(size);
+}
+
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    try {
+        return Allocate(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
 }
 
 void operator delete(void* memory) noexcept {
