@@ -53,7 +53,7 @@ std::uint64_t Pack(std::string_view text, std::size_t from) {
     // From the end of a longer text, eight bytes are taken at once all the same.
     const std::uint64_t word =
         text.size() >= WordLength ? take(text.size() - WordLength, WordLength) : take(from, length);
-    return word << (BitsPerCharacter * (WordLength - length));
+    return word << (BitsPerCharacter * ((WordLength - length) % WordLength)); // less than a word, as length is not 0
 }
 
 // `change` makes the bytes that count of eight others.
