@@ -78,7 +78,7 @@ private:
     Encoding m_encoding = eFileEncoding;
 };
 
-void ReadAndShow(Session& session, StayingTexts& texts) {
+void ReadAndRestore(Session& session, StayingTexts& texts) {
     ReadDistrictFile(session.desktop, [&] { texts.FollowEncoding(); });
     if (sDataFileName.empty()) {
         // Nothing is open, so nothing must be saved over the file that could not be read.
@@ -111,7 +111,7 @@ void ReadAndShow(Session& session, std::string path) {
     session.districtsByName.clear();
     StayingTexts texts(session);
     try {
-        ReadAndShow(session, texts);
+        ReadAndRestore(session, texts);
     } catch (const std::bad_alloc&) {
         // Changes of which only some have been made must not pass for all.
         ForgetDistrictFile(session.desktop);

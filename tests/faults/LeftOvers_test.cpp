@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <fstream>
+#include <functional>
 
 namespace {
 
@@ -86,31 +87,28 @@ protected:
             GTEST_SKIP() << "left out: only root may mount file systems";
         }
     }
+    // Does this while the state folder, with the recovery file in it, is on a disk that cannot be written.
+    void WhileReadOnly(const std::function<void()>& work) {
+        const std::filesystem::path file = RecoveryFile();
+        const std::string content = ContentOf(file).value();
+        TmpfsMount readOnly(state, 100);
+        WriteContent(state / file.filename(), content);
+        readOnly.MakeReadOnly();
+        work();
+    }
 };
 
 } // namespace
 
 TEST_F(MountedLeftOversTest, InAReadOnlyStateFolderAreNamedAndComeBackLater) {
     LeaveEdits(Edits);
-    const std::filesystem::path file = RecoveryFile();
-    const std::string content = ContentOf(file).value();
-    {
-        TmpfsMount readOnly(state, 100);
-        WriteContent(state / file.filename(), content);
-        readOnly.MakeReadOnly();
-        EXPECT_EQ(CountIn(SaidAtOpening(), Named), 1);
-    }
+    WhileReadOnly([&] { EXPECT_EQ(CountIn(SaidAtOpening(), Named), 1); });
     ExpectRecovered(Edits);
 }
 
 TEST_F(MountedLeftOversTest, InAReadOnlyStateFolderMakeASaveAskAndComeBackBehindANo) {
     LeaveEdits(Edits);
-    const std::filesystem::path file = RecoveryFile();
-    const std::string content = ContentOf(file).value();
-    {
-        TmpfsMount readOnly(state, 100);
-        WriteContent(state / file.filename(), content);
-        readOnly.MakeReadOnly();
+    WhileReadOnly([&] {
         const std::string next = std::to_string(Edits + 1);
         Session session(place, {"open", place.file, "edits", next, next, "defaults", "save", place.file, "close"});
         session.Finish();
@@ -119,7 +117,7 @@ TEST_F(MountedLeftOversTest, InAReadOnlyStateFolderMakeASaveAskAndComeBackBehind
         EXPECT_TRUE(session.Said().ends_with("\nbox This will loose your changes.\nstill open\nfinished\n"))
             << session.Said();
         ExpectContent(place.file, OldContent());
-    }
+    });
     ExpectRecovered(Edits);
 }
 
@@ -127,16 +125,13 @@ TEST_F(MountedLeftOversTest, InAReadOnlyStateFolderMakeASaveAskAndStayBehindAYes
     LeaveEdits(Edits);
     const std::filesystem::path file = RecoveryFile();
     const std::string content = ContentOf(file).value();
-    {
-        TmpfsMount readOnly(state, 100);
-        WriteContent(state / file.filename(), content);
-        readOnly.MakeReadOnly();
+    WhileReadOnly([&] {
         Session session(place, {"open", place.file, "edits", "1", "1", "save", place.file, "close"});
         session.Finish();
         EXPECT_EQ(CountIn(session.Said(), NotTakenUp), 1) << session.Said();
         EXPECT_TRUE(session.Said().ends_with("\nsaved\nclosed\nfinished\n")) << session.Said();
         ExpectContent(place.file, ContentAfter(1));
-    }
+    });
     EXPECT_EQ(CountIn(SaidAtOpening(), EarlierState), 1);
     ExpectContent(file.string() + ".aside", content);
     ExpectContent(place.file, ContentAfter(1));
