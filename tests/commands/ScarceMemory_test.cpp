@@ -108,6 +108,12 @@ TEST_F(ScarceMemoryTest, WhateverACommandHasDoneIsInTheRecoveryFileToo) {
              player.Press(Control::cbDelete);
          },
          press(Control::cbCompleteCheck)},
+        {[=](CommandPlayer& player) {
+             choose(player);
+             player.desktop.files["/data/proposals.txt"] = LongText + "\r\n";
+             player.Do([](Commands::Session& session) { Commands::ProcessPath(session, "/data/proposals.txt"); });
+         },
+         press(Control::cbApplyAll)},
     };
     for (std::size_t i = 0; i < commands.size(); ++i) {
         const auto& [prepare, act] = commands[i];
