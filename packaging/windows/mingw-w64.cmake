@@ -10,3 +10,10 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
+
+# The hour of the build and the folder it was made in are not part of what is made.
+foreach(kind EXE SHARED MODULE)
+    set(CMAKE_${kind}_LINKER_FLAGS_INIT -Wl,--no-insert-timestamp)
+endforeach()
+set(CMAKE_C_FLAGS_INIT -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+set(CMAKE_CXX_FLAGS_INIT -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
