@@ -1,0 +1,47 @@
+# shellcheck shell=bash
+# What the scripts share that run programs for Windows under Wine. To be sourced; it only defines functions:
+#   on_own_screen 1366x768 "$@"   starts the script anew on an X server of its own; needed by programs with windows
+#   start_wine                    Wine with a prefix of its own, a scratch folder $work, the DLLs of the compiler and Qt
+#   windows_path /a/b             Z:\a\b, as programs there name this path
+# Afterwards "wine PROGRAM.EXE" runs a program. What was started under Wine ends with the script.
+
+on_own_screen() {
+    local size=$1
+    shift
+    [ -n "${QUEXAL_ON_XVFB-}" ] || QUEXAL_ON_XVFB=1 exec xvfb-run -a -s "-screen 0 ${size}x24" "$0" "$@"
+}
+
+windows_path() {
+    local path
+    path=$(readlink -m "$1")
+    echo "Z:${path//\//\\}"
+}
+
+# Without $QUEXAL_QT_WINDOWS only programs that need no Qt can be run. A script that traps EXIT itself calls
+# end_wine there.
+start_wine() {
+    local folder dlls=()
+    work=$(mktemp -d)
+    trap end_wine EXIT
+    chmod 700 "$work"
+    mkdir "$work/home"
+    # Wine leads into the home of its user. This one has nothing in it.
+    export HOME=$work/home WINEPREFIX=$work/wine WINEDEBUG=-all
+    unset QT_QPA_PLATFORM QT_PLUGIN_PATH
+    for folder in "$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")" \
+        /usr/x86_64-w64-mingw32/lib ${QUEXAL_QT_WINDOWS:+"$QUEXAL_QT_WINDOWS/bin"}; do
+        dlls+=("$(windows_path "$folder")")
+    done
+    if [ -n "${QUEXAL_QT_WINDOWS-}" ]; then
+        QT_PLUGIN_PATH=$(windows_path "$QUEXAL_QT_WINDOWS/plugins")
+        export QT_PLUGIN_PATH
+    fi
+    WINEPATH=$(IFS=';' && echo "${dlls[*]}")
+    export WINEPATH
+    timeout 120 wineboot -i >/dev/null 2>&1
+}
+
+end_wine() {
+    wineserver -k 2>/dev/null || true
+    rm -rf "$work"
+}
