@@ -5,6 +5,7 @@ BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev libxxhash-dev libgl-dev fonts
 TEST_PACKAGES="libgtest-dev xvfb xauth xdotool openbox"
 FAULT_PACKAGES="e2fsprogs mount"
 PACKAGE_PACKAGES="dpkg-dev file"
+WINDOWS_BUILD_PACKAGES="g++-mingw-w64-x86-64-posix googletest dpkg-dev qt6-base-dev-tools nsis zip"
 
 say() { printf '%s\n' "$*"; }
 fail() {
@@ -53,4 +54,17 @@ need_packages() {
 build_preset() {
     quietly "configuring ($1)" cmake --preset "$1"
     quietly "building ($1)" cmake --build --preset "$1"
+}
+
+# Where Qt for Windows is kept: outside the tree, in a folder that is named after all that it is made of.
+windows_qt_folder() {
+    local key
+    key=$(cat packaging/windows/build-qt.sh packaging/windows/mingw-w64.cmake - \
+        <<<"$(dpkg-query -W -f '${Package} ${Version}\n' qt6-base-dev g++-mingw-w64-x86-64-posix)" | sha256sum)
+    printf '%s' "${XDG_CACHE_HOME:-$HOME/.cache}/quexal-editor/qt-windows-${key:0:16}"
+}
+
+# Whether all of it is there, byte for byte.
+is_windows_qt_whole() {
+    (cd "$1" 2>/dev/null && sha256sum --check --status --strict complete 2>/dev/null)
 }

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds Qt's base libraries for Windows from Debian's own source package, with Debian's security fixes: Core, Gui,
 # Widgets, PrintSupport, Test and the plug-ins of the platform and of its style. 15 to 30 minutes on two cores, and
-# 2 GB while it lasts. FOLDER is whole once its file "complete" is there; it has the licences of what is inside, too.
+# 2 GB while it lasts. FOLDER is whole once its file "complete" is there, which has the checksums of all others. The
+# licences of what is inside are in it, too.
 # usage: build-qt.sh FOLDER
 set -euo pipefail
 here=$(dirname "$(readlink -f "$0")")
@@ -41,4 +42,4 @@ cp "$work"/qt6-base_*.dsc "$folder/licences/" # says which sources these are
 (cd "$source" && find src/corelib src/gui src/3rdparty -type f \
     \( -name '*LICEN[CS]E*' -o -name COPYING -o -name qt_attribution.json \) -exec cp --parents {} "$folder/licences/" \;)
 rm -rf "$work"
-touch "$folder/complete"
+(cd "$folder" && find . -type f | LC_ALL=C sort | xargs -d '\n' sha256sum >"$work" && mv "$work" complete)
