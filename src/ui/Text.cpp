@@ -105,9 +105,10 @@ std::string PathFromQt(const QString& path) {
 }
 
 std::string PathFromUrl(const QUrl& url) {
-    // Decoded by the toolkit, bytes that are no characters would be lost.
-    return url.host().isEmpty() ? QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString()
-                                : PathFromQt(url.toLocalFile());
+    // Decoded by the toolkit, bytes that are no characters would be lost. What is text, it knows as the system's path.
+    const std::string bytes = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
+    const bool isText = PathFromQt(PathToQt(bytes)) == bytes;
+    return url.host().isEmpty() && !isText ? bytes : PathFromQt(url.toLocalFile());
 }
 
 QString ShownPath(const std::string& path) {
