@@ -345,8 +345,8 @@ TEST_F(LayoutTest, ADistrictColumnIsAsWideAsItsWidestTextOrItsHeading) {
     };
     expectWidth(0, wide + "W");
     expectWidth(1, wide + "WW");
-    expectWidth(2, "CountyWW");
-    expectWidth(5, "AbolishedWW");
+    expectWidth(2, "WWCounty");
+    expectWidth(5, "WWAbolished");
 }
 
 TEST_F(LayoutTest, AWindowThatFitsTheScreenKeepsItsSize) {
