@@ -1,18 +1,24 @@
+#include "ui/machine/UserPlaces.h"
+
 #include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFont>
+#include <QFontDatabase>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSize>
 #include <QStyleFactory>
 #include <QTemporaryDir>
-#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 
 namespace {
 
 // The screens that people have, from the largest one, on which windows open, to a small one at twice its size.
-void DescribeScreens(QTemporaryFile& file) {
+void DescribeScreens(const QString& path) {
+    QFile file(path);
     QJsonArray screens;
     int left = 0;
     for (const QSize& size :
@@ -27,25 +33,47 @@ void DescribeScreens(QTemporaryFile& file) {
                                    {QStringLiteral("dpr"), 1}});
         left += size.width();
     }
-    if (!file.open() || file.write(QJsonDocument(QJsonObject{{QStringLiteral("screens"), screens}}).toJson()) < 0) {
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write(QJsonDocument(QJsonObject{{QStringLiteral("screens"), screens}}).toJson()) < 0) {
         qFatal("the screens cannot be described");
     }
-    file.close();
+}
+
+// What the toolkit is told of a platform ends at a colon, which is why it is given no path.
+void ChoosePlatform(const QTemporaryDir& folder) {
+    const QString screens = QStringLiteral("screens.json");
+    DescribeScreens(folder.filePath(screens));
+    QDir::setCurrent(folder.path());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.toUtf8());
+    // On Windows that platform does not look for the fonts of the system.
+    if (const QByteArray system = qgetenv("SystemRoot"); !system.isEmpty()) {
+        qputenv("QT_QPA_FONTDIR", system + "\\Fonts");
+    }
+}
+
+// One look on every machine that can have it.
+void ChooseLook() {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    for (const QString& family : {QStringLiteral("DejaVu Sans"), QStringLiteral("Segoe UI")}) {
+        if (QFontDatabase::hasFamily(family)) {
+            constexpr int points = 9;
+            QApplication::setFont(QFont(family, points));
+            return;
+        }
+    }
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
     testing::InitGoogleTest(&argc, argv);
-    QTemporaryFile screens;
-    DescribeScreens(screens);
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
-    const QTemporaryDir settings; // and never the user's own
-    qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
-    qputenv("XDG_STATE_HOME", settings.path().toUtf8());
+    const UserPlaces places;
+    const QString folder = QDir::currentPath();
+    const QTemporaryDir screens;
+    ChoosePlatform(screens);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
-    // One look on every machine.
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QDir::setCurrent(folder); // or the other one could not be removed
+    ChooseLook();
     return RUN_ALL_TESTS();
 }

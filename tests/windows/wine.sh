@@ -3,7 +3,8 @@
 #   on_own_screen 1366x768 "$@"   starts the script anew on an X server of its own; needed by programs with windows
 #   start_wine                    Wine with a prefix of its own, a scratch folder $work, the DLLs of the compiler and Qt
 #   windows_path /a/b             Z:\a\b, as programs there name this path
-# Afterwards "wine PROGRAM.EXE" runs a program. What was started under Wine ends with the script.
+# Afterwards "wine PROGRAM.EXE" runs a program, which gets no variables QT_*: Wine keeps them for itself. What was
+# started under Wine ends with the script.
 
 on_own_screen() {
     local size=$1
@@ -27,15 +28,10 @@ start_wine() {
     mkdir "$work/home"
     # Wine leads into the home of its user. This one has nothing in it.
     export HOME=$work/home WINEPREFIX=$work/wine WINEDEBUG=-all
-    unset QT_QPA_PLATFORM QT_PLUGIN_PATH
     for folder in "$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")" \
         /usr/x86_64-w64-mingw32/lib ${QUEXAL_QT_WINDOWS:+"$QUEXAL_QT_WINDOWS/bin"}; do
         dlls+=("$(windows_path "$folder")")
     done
-    if [ -n "${QUEXAL_QT_WINDOWS-}" ]; then
-        QT_PLUGIN_PATH=$(windows_path "$QUEXAL_QT_WINDOWS/plugins")
-        export QT_PLUGIN_PATH
-    fi
     WINEPATH=$(IFS=';' && echo "${dlls[*]}")
     export WINEPATH
     timeout 120 wineboot -i >/dev/null 2>&1

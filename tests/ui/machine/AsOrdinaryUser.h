@@ -1,21 +1,28 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include <QFile>
+#include <QString>
 
-#include <sys/types.h>
-#include <unistd.h>
+#include <gtest/gtest.h>
 
 // To the superuser no file is read-only. Meanwhile the tests ask as somebody else.
 class AsOrdinaryUser {
 public:
-    AsOrdinaryUser() : m_real(getuid()) { Become(m_real == 0 ? Nobody : m_real); }
-    ~AsOrdinaryUser() { Become(m_real); }
+    AsOrdinaryUser();
+    ~AsOrdinaryUser();
     AsOrdinaryUser(const AsOrdinaryUser&) = delete;
     AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
 
-private:
-    static constexpr uid_t Nobody = 65534;
-    static void Become(uid_t user) { EXPECT_EQ(setreuid(user, static_cast<uid_t>(-1)), 0); }
-
-    uid_t m_real;
+    // Makes a file read-only. False where that holds nobody up: Wine lets root write it.
+    static bool MakeReadOnly(const QString& path) {
+        EXPECT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+        const AsOrdinaryUser user;
+        return !QFile(path).open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
+    }
+    // A temporary folder is closed to this one.
+    static bool LetIn(const QString& folder) {
+        return QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                                 QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
+                                                 QFile::WriteOther | QFile::ExeOther);
+    }
 };

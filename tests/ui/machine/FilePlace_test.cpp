@@ -1,250 +1,62 @@
 // Files that a new one must not, or cannot, take the place of: they stay what they are and get the new content.
 
-#include "ui/machine/FilePlace.h"
+#include "ui/machine/FilePlaceTest.h"
 
-#include "recovery/SaveCopy.h"
-#include "ui/machine/DurableFile.h"
-#include "ui/machine/QtDesktop.h"
+#include "ui/machine/AsOrdinaryUser.h"
 
-#include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
+#include <QFileInfo>
 
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cstdint>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <sys/xattr.h>
-#include <unistd.h>
+#include <filesystem>
 
 namespace {
 
-constexpr uid_t Nobody = 65534;
-constexpr const char* States = "XDG_STATE_HOME";
-
-// Access control lists as the kernel takes them: version 2; the owner, user 1, the group, the mask, others.
-struct Entry {
-    std::uint16_t tag;
-    std::uint16_t rights;
-    std::uint32_t id;
-};
-struct AccessList {
-    static constexpr std::uint32_t None = 0xFFFFFFFF;
-    std::uint32_t version = 2;
-    std::array<Entry, 5> entries{{{0x01, 6, None}, {0x02, 4, 1}, {0x04, 4, None}, {0x10, 4, None}, {0x20, 4, None}}};
-};
-constexpr const char* AccessOfFile = "system.posix_acl_access";
-constexpr const char* AccessOfNewFiles = "system.posix_acl_default";
-
-class FilePlaceTest : public testing::Test {
-protected:
-    FilePlaceTest() : m_statesBefore(qgetenv(States)) {
-        EXPECT_TRUE(DurableFile::Replace(file, "old"));
-        // Others must be able to reach the file and to keep copies.
-        EXPECT_EQ(chmod(Encoded(Folder()).constData(), 0755), 0);
-        EXPECT_EQ(chmod(Encoded(m_states.path()).constData(), 0777), 0);
-        qputenv(States, Encoded(m_states.path()));
-    }
-    ~FilePlaceTest() override { qputenv(States, m_statesBefore); }
-
-    [[nodiscard]] QString Path(const QString& name) const { return m_folder.filePath(name); }
-    [[nodiscard]] QString Folder() const { return m_folder.path(); }
-    static QByteArray Encoded(const QString& path) { return QFile::encodeName(path); }
-    static struct stat StatusOf(const QString& path) {
-        struct stat status {};
-        EXPECT_EQ(stat(Encoded(path).constData(), &status), 0);
-        return status;
-    }
-    static bool Write(const QString& path, const std::string& content = "new and longer") {
-        Ui::QtDesktop desktop;
-        return CommonRoutines::WriteFile(desktop, Encoded(path).toStdString(), content);
-    }
-    // Writes the file and shows that it is still the same one, and that no copy is left.
-    void ExpectStays() {
-        const struct stat before = StatusOf(file);
-        EXPECT_TRUE(FilePlace::MustBeKept(file));
-        EXPECT_TRUE(Write(file));
-        const struct stat after = StatusOf(file);
-        EXPECT_EQ(after.st_ino, before.st_ino);
-        EXPECT_EQ(after.st_mode, before.st_mode);
-        EXPECT_EQ(after.st_uid, before.st_uid);
-        EXPECT_EQ(after.st_gid, before.st_gid);
-        EXPECT_EQ(DurableFile::Read(file), "new and longer");
-        EXPECT_TRUE(Write(file, "short"));
-        EXPECT_EQ(DurableFile::Read(file), "short");
-        EXPECT_EQ(StatusOf(file).st_ino, before.st_ino);
-        EXPECT_EQ(CopiesLeft(), QStringList());
-    }
-    void ExpectReplaced() {
-        const struct stat before = StatusOf(file);
-        EXPECT_FALSE(FilePlace::MustBeKept(file));
-        EXPECT_TRUE(Write(file));
-        EXPECT_NE(StatusOf(file).st_ino, before.st_ino);
-        EXPECT_EQ(DurableFile::Read(file), "new and longer");
-    }
-    [[nodiscard]] QStringList CopiesLeft() const {
-        return QDir(m_states.filePath(QStringLiteral("quexal-editor"))).entryList(QDir::Files | QDir::Hidden);
-    }
-    // What a user without special rights gets done.
-    template <typename Work>
-    static bool AsOrdinaryUser(Work work) {
-        const pid_t child = fork();
-        if (child == 0) {
-            const bool became = geteuid() != 0 || (setgid(Nobody) == 0 && setuid(Nobody) == 0);
-            _exit(became && work() ? 0 : 1);
-        }
-        int status = 0;
-        EXPECT_EQ(waitpid(child, &status, 0), child);
-        EXPECT_TRUE(WIFEXITED(status));
-        return WEXITSTATUS(status) == 0;
-    }
-
-private:
-    QTemporaryDir m_folder;
-    QTemporaryDir m_states;
-    QByteArray m_statesBefore;
-
-protected:
-    const QString file = Path(QStringLiteral("file"));
-    const bool isRoot = geteuid() == 0;
-};
+// Another name of the same file.
+void GiveName(const QString& file, const QString& name) {
+    std::filesystem::create_hard_link(QFileInfo(file).filesystemFilePath(), QFileInfo(name).filesystemFilePath());
+}
 
 } // namespace
 
-TEST_F(FilePlaceTest, AnOrdinaryFileIsReplaced) {
-    ExpectReplaced();
-}
-
-TEST_F(FilePlaceTest, AFileOfSomebodyElseStaysTheirs) {
-    if (!isRoot) {
-        GTEST_SKIP() << "only root can give a file away";
-    }
-    ASSERT_EQ(chown(Encoded(file).constData(), Nobody, getegid()), 0);
-    ExpectStays();
-}
-
-TEST_F(FilePlaceTest, AFileOfAnotherGroupStaysOfThatGroup) {
-    if (!isRoot) {
-        GTEST_SKIP() << "only root can give a file to any group";
-    }
-    ASSERT_EQ(chown(Encoded(file).constData(), geteuid(), Nobody), 0);
-    ExpectStays();
-}
-
-TEST_F(FilePlaceTest, AFileOfTheGroupThatItsFolderGivesIsReplacedAndStaysOfThatGroup) {
-    if (!isRoot) {
-        GTEST_SKIP() << "only root can give a file to any group";
-    }
-    ASSERT_EQ(chown(Encoded(Folder()).constData(), geteuid(), Nobody), 0);
-    ASSERT_EQ(chmod(Encoded(Folder()).constData(), 02755), 0);
-    ASSERT_EQ(chown(Encoded(file).constData(), geteuid(), Nobody), 0);
-    ExpectReplaced();
-    EXPECT_EQ(StatusOf(file).st_gid, Nobody);
-    ASSERT_EQ(chown(Encoded(file).constData(), geteuid(), getegid()), 0);
-    ExpectStays();
-}
-
-TEST_F(FilePlaceTest, ExtendedAttributesStay) {
-    if (setxattr(Encoded(file).constData(), "user.note", "x", 1, 0) != 0) {
-        GTEST_SKIP() << "no extended attributes on this disk";
-    }
-    ExpectStays();
-    EXPECT_EQ(getxattr(Encoded(file).constData(), "user.note", nullptr, 0), 1);
-}
-
-TEST_F(FilePlaceTest, AnAccessControlListStays) {
-    const AccessList list;
-    if (setxattr(Encoded(file).constData(), AccessOfFile, &list, sizeof(list), 0) != 0) {
-        GTEST_SKIP() << "no access control lists on this disk";
-    }
-    ExpectStays();
-    EXPECT_EQ(getxattr(Encoded(file).constData(), AccessOfFile, nullptr, 0), static_cast<ssize_t>(sizeof(list)));
-}
-
-// A new file in such a folder could be read by user 1.
-TEST_F(FilePlaceTest, AFileThatLacksTheListOfItsFolderDoesNotGetIt) {
-    const AccessList list;
-    if (setxattr(Encoded(Folder()).constData(), AccessOfNewFiles, &list, sizeof(list), 0) != 0) {
-        GTEST_SKIP() << "no access control lists on this disk";
-    }
-    ExpectStays();
-    EXPECT_LT(getxattr(Encoded(file).constData(), AccessOfFile, nullptr, 0), 0);
+TEST_F(FilePlaceTest, AnOrdinaryFileMayBeReplaced) {
+    EXPECT_FALSE(FilePlace::MustBeKept(file));
+    EXPECT_FALSE(FilePlace::MustBeKept(Path(QStringLiteral("new"))));
+    EXPECT_TRUE(Write(file));
+    EXPECT_EQ(DurableFile::Read(file), "new and longer");
 }
 
 TEST_F(FilePlaceTest, AllNamesOfAFileGetTheNewContent) {
     const QString other = Path(QStringLiteral("other"));
-    ASSERT_EQ(link(Encoded(file).constData(), Encoded(other).constData()), 0);
-    ExpectStays();
-    EXPECT_EQ(DurableFile::Read(other), "short");
-}
-
-TEST_F(FilePlaceTest, NamesOfAnyLengthCanBeWritten) {
-    for (const int length : {248, 249, 255}) {
-        const QString path = Path(QString(length, QLatin1Char('n')));
-        EXPECT_EQ(FilePlace::MustBeKept(path), length > 248) << length;
-        EXPECT_TRUE(Write(path, "first")) << length;
-        EXPECT_EQ(DurableFile::Read(path), "first") << length;
-        EXPECT_TRUE(Write(path, "then")) << length;
-        EXPECT_EQ(DurableFile::Read(path), "then") << length;
+    GiveName(file, other);
+    EXPECT_TRUE(FilePlace::MustBeKept(file));
+    for (const char* content : {"new and longer", "short"}) {
+        EXPECT_TRUE(Write(file, content));
+        EXPECT_EQ(DurableFile::Read(file), content);
+        EXPECT_EQ(DurableFile::Read(other), content);
     }
-    const QString umlauts = Path(QString(127, QChar(0xE4))); // of two bytes each
-    EXPECT_TRUE(FilePlace::MustBeKept(umlauts));
-    EXPECT_TRUE(Write(umlauts));
-    EXPECT_FALSE(Write(Path(QString(256, QLatin1Char('n')))));
     EXPECT_EQ(CopiesLeft(), QStringList());
 }
 
-TEST_F(FilePlaceTest, ALinkToAFileThatStaysLeadsToItAndStays) {
-    const QString link = Path(QStringLiteral("link"));
-    const QString target = Path(QString(255, QLatin1Char('n')));
-    ASSERT_EQ(symlink(Encoded(target).constData(), Encoded(link).constData()), 0);
-    for (const char* content : {"made", "written again"}) {
-        EXPECT_TRUE(FilePlace::MustBeKept(link));
-        EXPECT_TRUE(Write(link, content));
-        EXPECT_EQ(DurableFile::Read(target), content);
-        EXPECT_TRUE(QFileInfo(link).isSymLink());
-    }
-}
-
-TEST_F(FilePlaceTest, AFileInAFolderThatTheUserMayNotWriteIsWrittenWhereItIs) {
-    ASSERT_EQ(chmod(Encoded(file).constData(), 0666), 0);
-    ASSERT_EQ(chmod(Encoded(Folder()).constData(), 0555), 0);
-    EXPECT_TRUE(AsOrdinaryUser([&] { return FilePlace::MustBeKept(file) && Write(file); }));
-    EXPECT_EQ(DurableFile::Read(file), "new and longer");
-    EXPECT_FALSE(AsOrdinaryUser([&] { return Write(Path(QStringLiteral("another"))); }));
-    ASSERT_EQ(chmod(Encoded(Folder()).constData(), 0755), 0);
-}
-
-TEST_F(FilePlaceTest, NewFilesAreNotToBeMadeInAFolderThatTheUserMayNotWrite) {
-    const auto mayMakeFiles = [&] { return Ui::QtDesktop().MayMakeFilesIn(Encoded(Folder()).toStdString()); };
-    ASSERT_EQ(chmod(Encoded(Folder()).constData(), 0555), 0);
-    EXPECT_FALSE(AsOrdinaryUser(mayMakeFiles));
-    ASSERT_EQ(chmod(Encoded(Folder()).constData(), 0777), 0);
-    EXPECT_TRUE(AsOrdinaryUser(mayMakeFiles));
-}
-
-// As of a box into which a report may be put that others read.
-TEST_F(FilePlaceTest, AFileThatMayOnlyBeWrittenIsWritten) {
-    ASSERT_EQ(chmod(Encoded(file).constData(), 0222), 0);
-    ASSERT_EQ(chmod(Encoded(Folder()).constData(), 0555), 0);
-    EXPECT_TRUE(AsOrdinaryUser([&] { return Write(file); }));
-    ASSERT_EQ(chmod(Encoded(Folder()).constData(), 0755), 0);
-    ASSERT_EQ(chmod(Encoded(file).constData(), 0600), 0);
-    EXPECT_EQ(DurableFile::Read(file), "new and longer");
-}
-
 TEST_F(FilePlaceTest, AReadOnlyFileIsNoSuchFileAndStaysAsItIs) {
-    ASSERT_EQ(chmod(Encoded(file).constData(), 0444), 0);
-    ASSERT_EQ(link(Encoded(file).constData(), Encoded(Path(QStringLiteral("other"))).constData()), 0);
-    EXPECT_FALSE(AsOrdinaryUser([&] { return FilePlace::MustBeKept(file) || Write(file); }));
+    ASSERT_TRUE(AsOrdinaryUser::LetIn(Folder()));
+    const QFile::Permissions before = QFileInfo(file).permissions();
+    GiveName(file, Path(QStringLiteral("other")));
+    if (!AsOrdinaryUser::MakeReadOnly(file)) {
+        GTEST_SKIP() << "no file is read-only here";
+    }
+    {
+        const AsOrdinaryUser user;
+        EXPECT_FALSE(FilePlace::MustBeKept(file));
+        EXPECT_FALSE(Write(file));
+    }
     EXPECT_EQ(DurableFile::Read(file), "old");
+    EXPECT_TRUE(QFile::setPermissions(file, before)); // so that it can be removed
 }
 
 TEST_F(FilePlaceTest, WithoutThePlaceForACopyTheFileIsNotTouched) {
-    ASSERT_EQ(link(Encoded(file).constData(), Encoded(Path(QStringLiteral("other"))).constData()), 0);
-    qputenv(States, Encoded(file)); // which is no folder
+    GiveName(file, Path(QStringLiteral("other")));
+    ASSERT_TRUE(QDir().mkpath(UserPlaces::States()));
+    ASSERT_TRUE(DurableFile::Replace(UserPlaces::StateFolder(), "no folder"));
     EXPECT_FALSE(Write(file));
     EXPECT_EQ(DurableFile::Read(file), "old");
 }

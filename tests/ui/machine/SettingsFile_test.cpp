@@ -1,117 +1,13 @@
-// The settings, and what may stand in their place: nobody waits for it, and it stays what it is.
+#include "ui/machine/QtDesktop.h"
+#include "ui/machine/UserPlaces.h"
 
-#include "ui/machine/DesktopTest.h"
+#include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QLockFile>
-#include <QTemporaryDir>
-
-#include <sys/stat.h>
-#include <unistd.h>
-
-using namespace Ui;
-
-namespace {
-
-class SettingsFileTest : public DesktopTest {
-protected:
-    SettingsFileTest() {
-        qputenv("XDG_CONFIG_HOME", m_folder.path().toUtf8());
-        EXPECT_TRUE(QDir().mkpath(m_folder.filePath(QStringLiteral("Quexal"))));
-    }
-    ~SettingsFileTest() override { qputenv("XDG_CONFIG_HOME", m_before); }
-
-    static constexpr QFile::Permissions ForAll =
-        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
-    QString Path(const QString& name = QStringLiteral("Quexal/QXEdit.conf")) const { return m_folder.filePath(name); }
-    static bool IsFifo(const QString& path) {
-        struct stat file {};
-        return lstat(QFile::encodeName(path).constData(), &file) == 0 && S_ISFIFO(file.st_mode);
-    }
-    static void MakeFifo(const QString& path) { EXPECT_EQ(mkfifo(QFile::encodeName(path).constData(), 0600), 0); }
-    // Neither is there a setting, nor can one be saved.
-    void ExpectNoSettings() {
-        EXPECT_EQ(desktop.GetSetting("Paths", "InFile"), "");
-        desktop.SaveSetting("Paths", "InFile", "/home");
-        EXPECT_EQ(desktop.GetSetting("Paths", "InFile"), "");
-    }
-
-private:
-    const QByteArray m_before = qgetenv("XDG_CONFIG_HOME");
-    QTemporaryDir m_folder;
-};
-
-} // namespace
-
-TEST_F(SettingsFileTest, WhatIsSavedStandsInAFileOfTheUser) {
-    EXPECT_EQ(desktop.GetSetting("Paths", "InFile"), "");
-    desktop.SaveSetting("Paths", "InFile", "/home/user/d\xC4\x85ta");
-    desktop.SaveSetting("Paths", "ProcessFile", "C:");
-    EXPECT_EQ(desktop.GetSetting("Paths", "InFile"), "/home/user/d\xC4\x85ta");
-    EXPECT_EQ(desktop.GetSetting("Paths", "ProcessFile"), "C:");
-    EXPECT_TRUE(QFileInfo(Path()).isFile());
-}
-
-TEST_F(SettingsFileTest, AFileThatMayNotBeReadStaysAsItIs) {
-    desktop.SaveSetting("Paths", "InFile", "/home/user");
-    QFile file(Path());
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray before = file.readAll();
-    for (const QString& folder : {Path(QString()), Path(QStringLiteral("Quexal"))}) {
-        QFile::setPermissions(folder, ForAll);
-    }
-    QFile::setPermissions(Path(), {});
-    const uid_t user = geteuid();
-    constexpr uid_t nobody = 65534;
-    EXPECT_EQ(seteuid(user == 0 ? nobody : user), 0); // the superuser may read all
-    ExpectNoSettings();
-    EXPECT_EQ(seteuid(user), 0);
-    file.seek(0);
-    EXPECT_EQ(file.readAll(), before);
-    EXPECT_EQ(QFileInfo(Path()).permissions() & ForAll, QFile::Permissions());
-}
-
-TEST_F(SettingsFileTest, APipeInTheirPlaceStaysOne) {
-    MakeFifo(Path());
-    ExpectNoSettings();
-    EXPECT_TRUE(IsFifo(Path()));
-}
-
-TEST_F(SettingsFileTest, ADeviceInTheirPlaceStaysOne) {
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/zero"), Path()));
-    ExpectNoSettings();
-    EXPECT_EQ(QFileInfo(Path()).symLinkTarget(), QStringLiteral("/dev/zero"));
-}
-
-TEST_F(SettingsFileTest, AFolderInTheirPlaceStaysOne) {
-    ASSERT_TRUE(QDir().mkdir(Path()));
-    ExpectNoSettings();
-    EXPECT_TRUE(QFileInfo(Path()).isDir());
-}
-
-TEST_F(SettingsFileTest, WhileTheyAreLockedTheyAreReadAndNotChanged) {
-    desktop.SaveSetting("Paths", "InFile", "/before");
-    QLockFile lock(Path() + QStringLiteral(".lock"));
-    ASSERT_TRUE(lock.tryLock(0));
-    desktop.SaveSetting("Paths", "InFile", "/meanwhile");
-    EXPECT_EQ(desktop.GetSetting("Paths", "InFile"), "/before");
-    lock.unlock();
-    desktop.SaveSetting("Paths", "InFile", "/after");
-    EXPECT_EQ(desktop.GetSetting("Paths", "InFile"), "/after");
-}
-
-TEST_F(SettingsFileTest, APipeInThePlaceOfTheirLockIsNotWaitedFor) {
-    MakeFifo(Path() + QStringLiteral(".lock"));
-    ExpectNoSettings();
-    EXPECT_TRUE(IsFifo(Path() + QStringLiteral(".lock")));
-}
-
-TEST_F(SettingsFileTest, NoDialogueForFilesWaitsForTheSettingsOfTheToolkit) {
-    const QString ofToolkit = Path(QStringLiteral("QtProject.conf"));
-    MakeFifo(ofToolkit);
-    PressNext("Cancel");
-    EXPECT_EQ(desktop.ChooseFileToOpen({}), std::nullopt);
-    EXPECT_TRUE(IsFifo(ofToolkit));
+TEST(SettingsTest, WhatIsSavedIsThereWhenTheProgramIsStartedAgain) {
+    const UserPlaces places;
+    EXPECT_EQ(Ui::QtDesktop().GetSetting("Paths", "InFile"), "");
+    Ui::QtDesktop().SaveSetting("Paths", "InFile", "/home/user/d\xC4\x85ta");
+    Ui::QtDesktop().SaveSetting("Paths", "ProcessFile", "C:");
+    EXPECT_EQ(Ui::QtDesktop().GetSetting("Paths", "InFile"), "/home/user/d\xC4\x85ta");
+    EXPECT_EQ(Ui::QtDesktop().GetSetting("Paths", "ProcessFile"), "C:");
 }

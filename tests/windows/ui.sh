@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Runs the window tests that were built for Windows (preset "windows-tests") under Wine. Their Qt is in the folder
+# $QUEXAL_QT_WINDOWS. What is behind the name of the tests goes to them, as --gtest_filter=.
+# usage: ui.sh TESTS.EXE [OPTION...]
+set -euo pipefail
+tests=$(readlink -f "${1:?usage: ui.sh TESTS.EXE [OPTION...]}")
+: "${QUEXAL_QT_WINDOWS:?is to name the folder of Qt for Windows}"
+# shellcheck source=tests/windows/wine.sh
+. "$(dirname "$(readlink -f "$0")")/wine.sh"
+
+on_own_screen 1920x1080 "$@"
+start_wine
+cp /usr/share/fonts/truetype/dejavu/DejaVuSans*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+cd "$work"
+timeout 1200 wine "$tests" --gtest_brief=1 "${@:2}"
