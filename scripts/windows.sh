@@ -28,6 +28,8 @@ build_preset windows
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' build/windows/CMakeCache.txt)
 name=quexal-editor-$version-windows-x64
 day=$(sed -n 's/^ -- .*>  //p;T;q' packaging/changelog)
+SOURCE_DATE_EPOCH=$(date -d "$day" +%s) # the linker and the installer take their times from it
+export SOURCE_DATE_EPOCH
 
 say "Building the packages"
 rm -rf build/windows/package build/quexal-editor-*-windows-x64*
@@ -40,7 +42,7 @@ find "$files" -exec touch -d "$day" {} +
 (cd "$files/.." && find "quexal-editor-$version" | LC_ALL=C sort | TZ=UTC zip -qX9@ "../../$name.zip")
 
 packaging/windows/file-list.sh "$files" >build/windows/package/files.nsh
-SOURCE_DATE_EPOCH=$(date -d "$day" +%s) quietly "making the installer" makensis -V2 -NOCD \
+quietly "making the installer" makensis -V2 -NOCD \
     -DVERSION="$version" -DFILES="$files" -DFILE_LIST="$PWD/build/windows/package/files.nsh" -DOUTPUT="$PWD/build/$name-setup.exe" \
     packaging/windows/installer.nsi
 say "Built build/$name.zip and build/$name-setup.exe"

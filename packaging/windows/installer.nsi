@@ -1,6 +1,6 @@
 ; The installer for one user, who needs no rights of an administrator. scripts/windows.sh gives VERSION, FILES (the
 ; folder of what is installed), FILE_LIST (file-list.sh) and OUTPUT.
-Unicode true
+Target amd64-unicode
 ManifestDPIAware true
 RequestExecutionLevel user
 SetCompressor /SOLID lzma

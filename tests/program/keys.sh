@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# Pressing keys on the X server, waiting for windows, and an end with a message. To be sourced, with $work as a scratch
-# folder; the program's own messages belong into $work/editor.log.
+# Pressing keys on the X server, waiting for windows, what is often done with them, and an end with a message. To be
+# sourced, with $work as a scratch folder; the program's own messages belong into $work/editor.log.
 
 # Ends with a message. QUEXAL_PICTURE names a file for a picture of the screen.
 fail() {
@@ -25,4 +25,71 @@ type_path() {
     press ctrl+a
     xdotool type --delay 5 "$1"
     press Return
+}
+
+# Windows have the focus only once they are managed.
+manage_windows() {
+    openbox --config-file /dev/null >/dev/null 2>&1 &
+    until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done
+}
+# Takes a picture of the screen, where QUEXAL_PICTURES names a folder for them.
+picture() {
+    [ -z "${QUEXAL_PICTURES-}" ] || import -window root "$QUEXAL_PICTURES/$1.png"
+}
+# Runs the editor by this command, and waits for its window.
+start_editor() {
+    "$@" >"$work/editor.log" 2>&1 &
+    wait_for "Quexal Editor" "${editors-1}"
+}
+choose_file() {
+    wait_for "$1"
+    type_path "$2"
+    wait_for "$1" 0
+}
+answer_box() {
+    wait_for "Quexal Editor" $((${editors-1} + 1)) # where there are several, one of them shows it
+    press "$1"
+}
+close_report() {
+    wait_for "$1"
+    press Escape
+    wait_for "$1" 0
+}
+# Opens the practice file, which asks and tells; "repaired" is one that has been opened and saved before.
+open_practice() {
+    press ctrl+o
+    choose_file "Open" "$1"
+    answer_box Return # an incomplete line is retained
+    answer_box Return # a quarter contradicts its year
+    if [ "${2-}" != repaired ]; then
+        wait_for "Null Variation"
+        picture repair
+        press Return # combines it with the next one
+    fi
+    wait_for "Read File Results"
+    picture report
+    close_report "Read File Results"
+    answer_box Return # a district occurs twice
+    wait_for "Quexal Editor"
+}
+# Chooses the district that begins so.
+choose_district() {
+    press Home
+    xdotool type --delay 20 "$1"
+}
+add_variation() {
+    press Insert
+    xdotool type --delay 5 "$1"
+    press Return
+}
+# The file may be replaced, says the dialogue.
+confirm_replacing() {
+    wait_for "Save As" 2
+    press alt+y
+}
+save_as() {
+    press ctrl+s
+    choose_file "Save As" "$1"
+    answer_box Return # "File Saved to"
+    wait_for "Quexal Editor"
 }

@@ -3,6 +3,7 @@
 #   on_own_screen 1366x768 "$@"   starts the script anew on an X server of its own; needed by programs with windows
 #   start_wine                    Wine with a prefix of its own, a scratch folder $work, the DLLs of the compiler and Qt
 #   windows_path /a/b             Z:\a\b, as programs there name this path
+#   name_a_font "Open Sans"       lets this font stand in for Segoe UI, in which Windows writes
 # Afterwards "wine PROGRAM.EXE" runs a program, which gets no variables QT_*: Wine keeps them for itself. What was
 # started under Wine ends with the script.
 
@@ -35,6 +36,17 @@ start_wine() {
     WINEPATH=$(IFS=';' && echo "${dlls[*]}")
     export WINEPATH
     timeout 120 wineboot -i >/dev/null 2>&1
+}
+
+# Wine names no font of its own but one that the toolkit does not know.
+name_a_font() {
+    local face zeros=$(printf '00%.0s' {1..64}) metric
+    face=$(printf '%s' "Segoe UI" | iconv -t UTF-16LE | od -An -v -tx1 | tr -d ' \n')$zeros
+    for metric in MessageFont MenuFont StatusFont CaptionFont IconFont; do # LOGFONTW: 12 pixels, medium weight
+        wine reg add 'HKCU\Control Panel\Desktop\WindowMetrics' /v "$metric" /t REG_BINARY /f \
+            /d "f4ffffff${zeros:0:24}90010000${zeros:0:16}${face:0:128}" >/dev/null 2>&1
+    done
+    wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "Segoe UI" /d "$1" /f >/dev/null 2>&1
 }
 
 end_wine() {

@@ -1,0 +1,126 @@
+#!/usr/bin/env bash
+# Accidents of a day's work with the real program on a real X server: it is killed, two editors have one file, the file
+# is read-only, the disk is full, on Windows somebody else holds the file. A program for Windows is run by Wine. The full
+# disk needs root and is left out without.
+# usage: accidents.sh EDITOR
+set -euo pipefail
+editor=$(readlink -f "$1")
+
+# The full disk is mounted for this test alone, and goes with it.
+if [ "$(id -u)" = 0 ] && [ -z "${QUEXAL_OWN_MOUNTS-}" ]; then
+    QUEXAL_OWN_MOUNTS=1 exec unshare --mount "$0" "$editor"
+fi
+
+# shellcheck source=tests/program/either_system.sh
+. "$(dirname "$(readlink -f "$0")")/either_system.sh"
+
+header=+1+Kent+1837+3+9999+0+N+N
+# What a file of two districts has to be, with further variations of its first one.
+expect() {
+    printf 'Alpha%s|Ash%s\r\nBeta%s|Elm\r\n' "$header" "$2" "$header" >"$work/expected.txt"
+    cmp "$1" "$work/expected.txt" || fail "$3"
+}
+# Such a file as it is at first.
+file_text() { printf 'Alpha%s|Ash\r\nBeta%s|Elm\r\n' "$header" "$header"; }
+# Opens a file in the editor that has the focus.
+open_file() {
+    press ctrl+o
+    choose_file "Open" "$(path_for "$1")"
+}
+add_to_first() {
+    choose_district Alpha
+    add_variation "$1"
+}
+# Saves it in its place.
+save() {
+    press ctrl+s
+    wait_for "Save As"
+    press Return
+    confirm_replacing
+}
+
+# Ends all editors at once, as a crash does.
+kill_editors() {
+    local id
+    for id in $(pgrep -f "$(basename "$editor")"); do
+        if grep -zqxF "HOME=$HOME" "/proc/$id/environ" 2>/dev/null; then
+            kill -9 "$id"
+        fi
+    done
+    wait_for "Quexal Editor" 0
+}
+
+# Killed: the changes are offered and come back.
+file_text >"$work/killed.txt"
+start_editor run_editor
+open_file "$work/killed.txt"
+add_to_first Ashe
+add_to_first %Asche
+kill_editors
+expect "$work/killed.txt" "" "the file was changed without being saved"
+start_editor run_editor
+open_file "$work/killed.txt"
+picture killed
+answer_box Return # they are wanted back
+sleep 1
+picture back
+wait_for "Quexal Editor"
+save
+answer_box Return # "File Saved to"
+expect "$work/killed.txt" "|Ashe|%Asche" "what came back was not saved as it was"
+
+# Two editors: the second one is told of the first, and what the first one saves is not lost.
+first=$(xdotool search --onlyvisible --name "^Quexal Editor$")
+editors=2
+start_editor run_editor
+file_text >"$work/two.txt"
+xdotool windowactivate --sync "$first"
+open_file "$work/two.txt"
+add_to_first Ashe
+second=$(xdotool search --onlyvisible --name "^Quexal Editor$" | grep -vx "$first")
+xdotool windowactivate --sync "$second"
+open_file "$work/two.txt"
+answer_box Return # another editor has it open
+wait_for "Quexal Editor" 2
+add_to_first Asche
+xdotool windowactivate --sync "$first"
+save
+answer_box Return # "File Saved to"
+wait_for "Quexal Editor" 2
+expect "$work/two.txt" "|Ashe" "the first editor did not save its variation"
+xdotool windowactivate --sync "$second"
+save
+wait_for "Quexal Editor" 3
+picture two
+press Escape # the file has been changed by another program: it stays
+wait_for "Quexal Editor" 2
+expect "$work/two.txt" "|Ashe" "the second editor replaced the file unasked"
+kill_editors
+editors=1
+
+# A full disk: the old file stays whole, and nothing is left beside it.
+if [ "$(id -u)" = 0 ]; then
+    mkdir "$work/disk"
+    mount -t tmpfs -o size=64k tmpfs "$work/disk"
+    {
+        file_text
+        head -c 40000 /dev/zero | tr '\0' '#'
+        printf '\r\n'
+    } >"$work/disk/full.txt"
+    cp "$work/disk/full.txt" "$work/full.txt"
+    start_editor run_editor
+    open_file "$work/disk/full.txt"
+    add_to_first Ashe
+    save
+    wait_for "Quexal Editor" 2
+    picture full
+    press Return
+    wait_for "Quexal Editor"
+    cmp "$work/disk/full.txt" "$work/full.txt" || fail "a full disk changed the file"
+    [ "$(ls "$work/disk")" = full.txt ] || fail "a full disk has more files: $(ls "$work/disk")"
+    kill_editors
+    umount "$work/disk"
+else
+    echo "accidents: left out: a full disk needs root" >&2
+fi
+exit
