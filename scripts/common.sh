@@ -5,6 +5,7 @@ BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev libxxhash-dev libgl-dev fonts
 TEST_PACKAGES="libgtest-dev xvfb xauth xdotool openbox"
 FAULT_PACKAGES="e2fsprogs mount"
 PACKAGE_PACKAGES="dpkg-dev file"
+ARCHIVE_PACKAGES="binutils patchelf qt6-base-dev-tools xz-utils bsdextrautils"
 WINDOWS_BUILD_PACKAGES="g++-mingw-w64-x86-64-posix googletest dpkg-dev qt6-base-dev-tools nsis zip"
 
 say() { printf '%s\n' "$*"; }
@@ -67,4 +68,19 @@ windows_qt_folder() {
 # Whether all of it is there, byte for byte.
 is_windows_qt_whole() {
     (cd "$1" 2>/dev/null && sha256sum --check --status --strict complete 2>/dev/null)
+}
+
+# The version of the newest release, and the moment of it.
+release_version() { sed -n '1s/.*(\(.*\)).*/\1/p' packaging/changelog; }
+release_day() { sed -n 's/^ -- .*>  //p;T;q' packaging/changelog; }
+# What a system with this processor is called in the names of files.
+linux_name() { uname -m | sed 's/x86_64/x64/; s/aarch64/arm64/'; }
+
+# Packs files as of a moment, with further arguments for tar, so that neither when and by whom it is done, nor their
+# rights, nor the order of a folder matter.
+pack() {
+    local moment=$1
+    shift
+    tar --sort=name --mtime="$moment" --owner=0 --group=0 --numeric-owner --mode=u=rwX,go=rX --format=gnu "$@" -c |
+        xz -9 -T1
 }

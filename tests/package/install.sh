@@ -3,30 +3,11 @@
 # it came, and changed by an administrator; removes it and looks for anything left behind. Needs root.
 # usage: install.sh PACKAGE CACHE-FOLDER
 set -euo pipefail
-umask 022
 package=$(readlink -f "$1")
-mkdir -p "$2"
-cache=$(readlink -f "$2")
-here=$(dirname "$(readlink -f "$0")")
-work=$(mktemp -d "$cache/work.XXXXXX")
-root=$work/root
-say() { echo "install: $*"; }
-fail() {
-    say "$*" >&2
-    tail -n 20 "$work/log" >&2 || true
-    exit 1
-}
-# shellcheck disable=SC2317 # called by the trap
-cleanup() {
-    ! mountpoint -q "$root/proc" || umount "$root/proc"
-    rm -rf --one-file-system "$work"
-}
-trap cleanup EXIT
+cache=$2
+# shellcheck source=tests/package/other_system.sh
+. "$(dirname "$(readlink -f "$0")")/other_system.sh"
 
-# Runs a command in the other system.
-inside() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
-    http_proxy="${http_proxy-}" https_proxy="${https_proxy-}" "$@" </dev/null >"$work/log" 2>&1; }
-installs() { inside apt-get install -y --no-install-recommends "$@" || fail "apt-get install $* failed"; }
 # All that is in the other system, with rights and checksums, but what apt and dpkg write down about their work.
 whats_there() {
     (cd "$root" &&
@@ -46,19 +27,11 @@ later_package() {
 }
 list=/etc/quexal-editor/qx_lower.txt
 
-say "unpacking a bare system"
-eval "$(apt-config shell http_proxy Acquire::http::Proxy https_proxy Acquire::https::Proxy)"
-"$here/debian_root.sh" "$cache" "$root"
-mount -t proc proc "$root/proc"
-mkdir -p "$cache/archives"
-find "$cache/archives" -name '*.deb' -exec cp -t "$root/var/cache/apt/archives" {} +
-echo force-unsafe-io >"$root/etc/dpkg/dpkg.cfg.d/quick" # it need not survive a power cut
-inside useradd -m maintainer || fail "useradd failed"
-inside apt-get update || fail "apt-get update failed"
+bare_system ""
 
 say "installing what the package says it needs"
 inside apt-get satisfy -y --no-install-recommends "$(dpkg-deb -f "$package" Depends)" || fail "apt-get satisfy failed"
-find "$root/var/cache/apt/archives" -name '*.deb' -exec cp -u -t "$cache/archives" {} +
+keep_archives
 whats_there >"$work/before.txt"
 
 say "installing the package and using the program"

@@ -1,29 +1,36 @@
 #!/usr/bin/env bash
-# Uses the installed program as its user does, by keyboard on a real X server: starts what the menu entry says, opens
-# the sample that comes with it, adds a variation, saves it into the home folder and compares the bytes; then the same
-# with a file in which the word "zzyzx" is in small letters, which is reported unless the word list has it.
-# usage: use_installed.sh ROOT USER reported|listed
+# Uses the installed program as its user does, by keyboard on a real X server: starts what the menu entry says, or the
+# program in a folder, opens the sample that comes with it, adds a variation, saves it into the home folder and compares
+# the bytes; then the same with a file in which the word "zzyzx" is in small letters, which is reported unless the word
+# list has it.
+# usage: use_installed.sh ROOT USER reported|listed [FOLDER]
 set -euo pipefail
 root=$(readlink -f "$1")
 user=$2
 word=$3
+folder=${4-/usr/lib/quexal-editor}
 
 if [ -z "${QUEXAL_ON_XVFB-}" ]; then
-    QUEXAL_ON_XVFB=1 exec xvfb-run -a -s "-screen 0 1366x768x24" "$0" "$root" "$user" "$word"
+    QUEXAL_ON_XVFB=1 exec xvfb-run -a -s "-screen 0 1366x768x24" "$0" "$root" "${@:2}"
 fi
 
 home=$root/home/$user
 # shellcheck source=tests/program/session.sh
 . "$(dirname "$(readlink -f "$0")")/../program/session.sh"
 
-entry=$root/usr/share/applications/quexal-editor.desktop
-command=$(sed -n 's/^Exec=//p' "$entry")
-icon=$(sed -n 's/^Icon=//p' "$entry")
+if [ $# = 3 ]; then
+    entry=$root/usr/share/applications/quexal-editor.desktop
+    command=$(sed -n 's/^Exec=//p' "$entry")
+    icon=$(sed -n 's/^Icon=//p' "$entry")
+    for size in 48x48 64x64 128x128; do
+        [ -s "$root/usr/share/icons/hicolor/$size/apps/$icon.png" ] || fail "there is no icon of $size"
+    done
+    [ -s "$root/usr/share/icons/hicolor/scalable/apps/$icon.svg" ] || fail "there is no scalable icon"
+else
+    entry=$(dirname "$(readlink -f "$0")")/../../packaging/quexal-editor.desktop
+    command="'$folder/quexal-editor'"
+fi
 class=$(sed -n 's/^StartupWMClass=//p' "$entry")
-for size in 48x48 64x64 128x128; do
-    [ -s "$root/usr/share/icons/hicolor/$size/apps/$icon.png" ] || fail "there is no icon of $size"
-done
-[ -s "$root/usr/share/icons/hicolor/scalable/apps/$icon.svg" ] || fail "there is no scalable icon"
 
 printf 'Aston zzyzx Bury+5b+Devon+1837+3+9999+9+N+N|Aston zzyzx Berry\r\n' >"$home/words.txt"
 rm -f "$home/saved.txt"
@@ -76,9 +83,9 @@ add_and_save() {
     rm "$home/saved.txt"
 }
 
-open_file /usr/lib/quexal-editor/gazetteer-gb.txt
+open_file "$folder/gazetteer-gb.txt"
 close_report
-add_and_save /usr/lib/quexal-editor/gazetteer-gb.txt Abberton
+add_and_save "$folder/gazetteer-gb.txt" Abberton
 open_file "/home/$user/words.txt"
 [ "$word" = listed ] || close_report
 add_and_save "/home/$user/words.txt" "Aston zzyzx Bury" # not to be reached while a report is shown
