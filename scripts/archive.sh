@@ -47,8 +47,8 @@ newest() {
     find "$folder" -type f \( -name '*.so*' -o -name quexal-editor \) -exec objdump -T {} + |
         grep -o "\b$1_[0-9.]*[0-9]" | sed "s/^$1_//" | sort -Vu | tail -n 1
 }
-sed -e "s/@VERSION@/$version/; s/@ARCHITECTURE@/$architecture/; s/@GLIBC@/$(newest GLIBC)/; s/@GLIBCXX@/$(newest GLIBCXX)/" \
-    packaging/archive/README.txt.in >"$folder/README.txt"
+sed -e "s/@VERSION@/$version/; s/@ARCHITECTURE@/$architecture/" \
+    -e "s/@GLIBC@/$(newest GLIBC)/; s/@GLIBCXX@/$(newest GLIBCXX)/" packaging/archive/README.txt.in >"$folder/README.txt"
 
 pack "$(release_day)" -C "$work" "$name" >"build/$name.tar.xz"
 say "Built build/$name.tar.xz"

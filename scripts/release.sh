@@ -10,8 +10,10 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 version=$(release_version)
 commit=$(git rev-parse HEAD)
 day=$(date -u -d "$(release_day)" +%F)
-grep -qF "project(QuexalEditor VERSION $version " CMakeLists.txt || fail "CMakeLists.txt is of another version than $version"
-[ "$(grep -m 1 '^## \[' CHANGELOG.md)" = "## [$version] - $day" ] || fail "CHANGELOG.md does not begin with $version of $day"
+grep -qF "project(QuexalEditor VERSION $version " CMakeLists.txt ||
+    fail "CMakeLists.txt is of another version than $version"
+[ "$(grep -m 1 '^## \[' CHANGELOG.md)" = "## [$version] - $day" ] ||
+    fail "CHANGELOG.md does not begin with $version of $day"
 grep -m 1 '<release ' packaging/metainfo.xml.in | grep -qF "version=\"$version\" date=\"$day\"" ||
     fail "packaging/metainfo.xml.in does not begin with $version of $day"
 [ -z "$(git status --porcelain)" ] || fail "there is something that is not committed: git status"

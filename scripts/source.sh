@@ -14,7 +14,7 @@ mkdir -p build
 rm -f build/quexal-editor-*-source.tar.xz
 git ls-files -z >build/source-files
 # The moment of the commit: what is built of files from the future is built again and again.
-pack "$(git log -1 --format=%cI)" --null --no-recursion --verbatim-files-from --files-from build/source-files --transform "flags=r;s,^,$name/," \
-    >"build/$name-source.tar.xz"
+pack "$(git log -1 --format=%cI)" --null --no-recursion --verbatim-files-from --files-from build/source-files \
+    --transform "flags=r;s,^,$name/," >"build/$name-source.tar.xz"
 rm build/source-files
 say "Built build/$name-source.tar.xz"

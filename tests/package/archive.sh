@@ -17,8 +17,7 @@ unpack() { tar -C "$1" -xf "$archive" --warning=no-timestamp; }
 whats_in() { (cd "$1" && find . -printf '%p %M %U:%G %l\n' -type f -exec sha256sum {} \; | sort); }
 # Every library, or symbol, that files in a folder miss.
 missing() {
-    # shellcheck disable=SC2016 # the other shell expands it
-    inside env LD_LIBRARY_PATH="$1/lib" sh -c 'find "$1" -name "*.so*" -o -name quexal-editor | xargs -d "\n" ldd -r' sh "$1" ||
+    inside env LD_LIBRARY_PATH="$1/lib" find "$1" \( -name '*.so*' -o -name quexal-editor \) -exec ldd -r {} + ||
         fail "ldd failed"
     sed -nE "s/^\t(\S+) => not found/\1/p; s/^undefined symbol: (\S+).*/\1/p" "$work/log" | sort -u
 }
@@ -41,7 +40,8 @@ say "installing $needs"
 installs $needs
 ! compgen -G "$root/usr/lib/*/libQt*" >/dev/null || fail "Qt is installed"
 missing "$folder" >"$work/missing.txt"
-[ "$(grep '\.so' "$work/missing.txt")" = libcups.so.2 ] || fail "missing are, not only CUPS: $(xargs <"$work/missing.txt")"
+[ "$(grep '\.so' "$work/missing.txt")" = libcups.so.2 ] ||
+    fail "missing are, not only CUPS: $(xargs <"$work/missing.txt")"
 
 say "using the program where its user cannot write"
 [ "$(stat -c %U:%G "$root$folder")" = root:root ] || fail "the folder is not root's"

@@ -18,6 +18,7 @@ chmod +x "$work/bin/git"
 tar -C "$work/somewhere else" -xf "$sources" --warning=no-timestamp
 cd "$work/somewhere else/$(basename "$sources" -source.tar.xz)"
 [ ! -e .git ] || fail "there is a repository in the sources"
-(umask 077 && PATH=$work/bin:$PATH TZ=Pacific/Auckland CCACHE_BASEDIR=$PWD scripts/archive.sh) || fail "the sources are not enough"
+(umask 077 && PATH=$work/bin:$PATH TZ=Pacific/Auckland CCACHE_BASEDIR=$PWD scripts/archive.sh) ||
+    fail "the sources are not enough"
 cmp "$archive" "build/$(basename "$archive")" || fail "another archive was made of the same sources"
 echo "source: the same archive was made of them, without git"
