@@ -21,7 +21,8 @@ tagged=$(git rev-parse -q --verify "refs/tags/v$version^{commit}" || true)
 [ -z "$tagged" ] || [ "$tagged" = "$commit" ] || fail "the tag v$version is on another commit"
 
 rm -f build/SHA256SUMS
-for part in package archive windows source; do "scripts/$part.sh"; done
+for part in source package archive windows; do "scripts/$part.sh"; done
+[ "$(git rev-parse HEAD; git status --porcelain)" = "$commit" ] || fail "the sources were changed meanwhile"
 files=("quexal-editor_${version}_$(dpkg --print-architecture).deb" "quexal-editor-$version-linux-$(linux_name).tar.xz"
     "quexal-editor-$version-windows-x64.zip" "quexal-editor-$version-windows-x64-setup.exe"
     "quexal-editor-$version-source.tar.xz")
