@@ -8,7 +8,7 @@ tests=$(readlink -f "${1:?usage: ui.sh TESTS.EXE [OPTION...]}")
 # shellcheck source=tests/windows/wine.sh
 . "$(dirname "$(readlink -f "$0")")/wine.sh"
 
-on_own_screen 1920x1080 "$@"
+unset DISPLAY # the tests bring their screens along
 start_wine
 cp /usr/share/fonts/truetype/dejavu/DejaVuSans*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
 cd "$work"

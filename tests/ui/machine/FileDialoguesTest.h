@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -29,6 +30,13 @@ protected:
     void LetOthersOnlyEnterFolder() const {
         QFile::setPermissions(QString::fromStdString(Folder()),
                               ForAllToRead | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
+    }
+    // The box shows this name with the characters that it has.
+    static void ExpectPlain(QWidget& box, const QString& name) {
+        const auto& message = dynamic_cast<QMessageBox&>(box);
+        EXPECT_EQ(message.textFormat(), Qt::PlainText);
+        EXPECT_TRUE(message.text().contains(name)) << message.text().toStdString();
+        EXPECT_EQ(message.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))->textFormat(), Qt::PlainText);
     }
     void ExpectRefused(const std::string& path, bool isThere);
     // The guide takes one that comes again for answered.

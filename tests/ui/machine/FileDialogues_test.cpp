@@ -76,6 +76,19 @@ TEST_F(FileDialoguesTest, AnExistingFileIsReplacedOnlyAfterAQuestion) {
     EXPECT_EQ(desktop.ChooseFileToSave(InFolder()), path);
 }
 
+TEST_F(FileDialoguesTest, AMissingNameThatLooksLikeMarkupIsShownAsItIs) {
+    const char* const name = "<img src=x><b>x.txt";
+    guide.Next([&](QWidget& dialogue) {
+        guide.Next([&](QWidget& box) {
+            ExpectPlain(box, QString::fromLatin1(name));
+            DialogueGuide::Press(box, "OK");
+        });
+        DialogueGuide::ChooseFile(dialogue, Path(name));
+        dynamic_cast<QFileDialog&>(dialogue).reject();
+    });
+    EXPECT_EQ(desktop.ChooseFileToOpen(InFolder()), std::nullopt);
+}
+
 TEST_F(FileDialoguesTest, AReadOnlyFileIsRefusedAndTheDialogueComesAgain) {
     const std::string path = Existing("data.txt");
     QFile::setPermissions(QString::fromStdString(path), ForAllToRead);

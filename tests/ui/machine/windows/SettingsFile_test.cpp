@@ -1,4 +1,4 @@
-// Where the settings stand.
+// Where the settings stand, and that tests have others than the user.
 
 #include "ui/machine/QtDesktop.h"
 #include "ui/machine/UserPlaces.h"
@@ -24,4 +24,10 @@ TEST(SettingsTest, TheTestsHaveOthersThanTheUser) {
     }
     EXPECT_EQ(Ui::QtDesktop().GetSetting("Paths", "InFile"), "outside");
     QSettings(name, QSettings::NativeFormat).clear();
+}
+
+TEST(SettingsTest, TheTestsHaveAnotherStateFolderThanTheUser) {
+    const UserPlaces places;
+    EXPECT_TRUE(UserPlaces::States().endsWith(QStringLiteral("/qttest")));
+    EXPECT_EQ(Ui::QtDesktop().State().PathOf("a"), (UserPlaces::StateFolder() + QStringLiteral("/a")).toStdString());
 }
