@@ -11,42 +11,44 @@
 
 namespace {
 
-class RightsOfDurableFile : public DurableFileTest {
-protected:
-    void GiveRights(mode_t ofFile, mode_t ofFolder) const {
-        EXPECT_EQ(chmod(QFile::encodeName(file).constData(), ofFile), 0);
-        EXPECT_EQ(chmod(QFile::encodeName(Folder()).constData(), ofFolder), 0);
-    }
-    bool ReplacesAsOrdinaryUser() const {
-        const AsOrdinaryUser user;
-        return DurableFile::Replace(file, "new");
-    }
-};
+void GiveRights(const QString& path, mode_t rights) {
+    EXPECT_EQ(chmod(QFile::encodeName(path).constData(), rights), 0);
+}
+
+bool ReplacesAsOrdinaryUser(const QString& file) {
+    const AsOrdinaryUser user;
+    return DurableFile::Replace(file, "new");
+}
 
 } // namespace
 
-TEST_F(RightsOfDurableFile, AFileThatTheUserMayNotWriteStays) {
-    GiveRights(0444, 0777);
-    EXPECT_FALSE(ReplacesAsOrdinaryUser());
+TEST_F(DurableFileTest, AFileThatTheUserMayNotWriteStays) {
+    GiveRights(file, 0444);
+    GiveRights(Folder(), 0777);
+    EXPECT_FALSE(ReplacesAsOrdinaryUser(file));
     EXPECT_EQ(DurableFile::Read(file), "old");
     EXPECT_EQ(Names(), QStringList{QStringLiteral("file")});
 }
 
-TEST_F(RightsOfDurableFile, AFileInAFolderThatTheUserMayNotWriteStays) {
-    GiveRights(0666, 0555);
-    EXPECT_FALSE(ReplacesAsOrdinaryUser());
+TEST_F(DurableFileTest, AFileInAFolderThatTheUserMayNotWriteStays) {
+    GiveRights(file, 0666);
+    GiveRights(Folder(), 0555);
+    EXPECT_FALSE(ReplacesAsOrdinaryUser(file));
     EXPECT_EQ(DurableFile::Read(file), "old");
-    GiveRights(0666, 0777);
-    EXPECT_TRUE(ReplacesAsOrdinaryUser()); // it was the folder
+    GiveRights(file, 0666);
+    GiveRights(Folder(), 0777);
+    EXPECT_TRUE(ReplacesAsOrdinaryUser(file)); // it was the folder
     EXPECT_EQ(DurableFile::Read(file), "new");
 }
 
 // Such a folder cannot be opened to have its names put on the disk.
-TEST_F(RightsOfDurableFile, AFileInAFolderThatTheUserMayOnlyWriteIsReplaced) {
-    GiveRights(0666, 0333);
-    EXPECT_TRUE(ReplacesAsOrdinaryUser());
+TEST_F(DurableFileTest, AFileInAFolderThatTheUserMayOnlyWriteIsReplaced) {
+    GiveRights(file, 0666);
+    GiveRights(Folder(), 0333);
+    EXPECT_TRUE(ReplacesAsOrdinaryUser(file));
     EXPECT_EQ(DurableFile::Read(file), "new");
-    GiveRights(0666, 0777);
+    GiveRights(file, 0666);
+    GiveRights(Folder(), 0777);
 }
 
 // As a disk does that fails half way, the system gives less of such a file than it says there is.

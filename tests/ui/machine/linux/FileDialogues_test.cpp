@@ -11,7 +11,7 @@
 using namespace CommonRoutines;
 using namespace Ui;
 
-TEST_F(FileDialoguesTest, ANameOfAFileThatLooksLikeMarkupIsShownAsItIs) {
+TEST_F(FileDialoguesTest, ANameThatLooksLikeMarkupIsShownAsItIs) {
     const char* const name = "<img src=x><b>x.txt";
     const std::string path = Existing(name);
     guide.Next([&](QWidget& dialogue) {
