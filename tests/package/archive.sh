@@ -32,7 +32,7 @@ unpack "$root/opt"
 folder=/opt/$(basename "$archive" .tar.xz)
 needs=$(sed -n 's/^    apt-get install --no-install-recommends //p' "$root$folder/README.txt")
 glibc=$(sed -nE 's/.*(glibc [0-9.]+) .*/\1/p' "$root$folder/README.txt")
-for need in "$glibc" $needs libcups2t64; do
+for need in "${glibc:?}" $needs libcups2t64; do
     grep -qF "$need" "$here/../../docs/packaging.md" || fail "docs/packaging.md does not say that it needs $need"
 done
 say "installing $needs"
