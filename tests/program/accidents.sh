@@ -74,21 +74,21 @@ first=$(xdotool search --onlyvisible --name "^Quexal Editor$")
 editors=2
 start_editor run_editor
 file_text >"$work/two.txt"
-xdotool windowactivate --sync "$first"
+focus "$first"
 open_file "$work/two.txt"
 add_to_first Ashe
 second=$(xdotool search --onlyvisible --name "^Quexal Editor$" | grep -vx "$first")
-xdotool windowactivate --sync "$second"
+focus "$second"
 open_file "$work/two.txt"
 answer_box Return # another editor has it open
 wait_for "Quexal Editor" 2
 add_to_first Asche
-xdotool windowactivate --sync "$first"
+focus "$first"
 save
 answer_box Return # "File Saved to"
 wait_for "Quexal Editor" 2
 expect "$work/two.txt" "|Ashe" "the first editor did not save its variation"
-xdotool windowactivate --sync "$second"
+focus "$second"
 save
 wait_for "Quexal Editor" 3
 picture two

@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # Pressing keys on the X server, waiting for windows, what is often done with them, and an end with a message. To be
 # sourced, with $work as a scratch folder; the program's own messages belong into $work/editor.log.
+: "${work:?}"
 
 # Ends with a message. QUEXAL_PICTURE names a file for a picture of the screen.
 fail() {
@@ -32,6 +33,8 @@ manage_windows() {
     openbox --config-file /dev/null >/dev/null 2>&1 &
     until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done
 }
+# Gives a window the focus.
+focus() { xdotool windowactivate --sync "$1" 2>/dev/null; } # before the first one is active it complains
 # Takes a picture of the screen, where QUEXAL_PICTURES names a folder for them.
 picture() {
     [ -z "${QUEXAL_PICTURES-}" ] || import -window root "$QUEXAL_PICTURES/$1.png"

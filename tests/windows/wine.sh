@@ -40,7 +40,8 @@ start_wine() {
 
 # Wine names no font of its own but one that the toolkit does not know.
 name_a_font() {
-    local face zeros=$(printf '00%.0s' {1..64}) metric
+    local face metric zeros
+    zeros=$(printf '00%.0s' {1..64})
     face=$(printf '%s' "Segoe UI" | iconv -t UTF-16LE | od -An -v -tx1 | tr -d ' \n')$zeros
     for metric in MessageFont MenuFont StatusFont CaptionFont IconFont; do # LOGFONTW: 12 pixels, medium weight
         wine reg add 'HKCU\Control Panel\Desktop\WindowMetrics' /v "$metric" /t REG_BINARY /f \
