@@ -70,14 +70,14 @@ answer_box Return # "File Saved to"
 expect "$work/killed.txt" "|Ashe|%Asche" "what came back was not saved as it was"
 
 # Two editors: the second one is told of the first, and what the first one saves is not lost.
-first=$(xdotool search --onlyvisible --name "^Quexal Editor$")
+first=$(main_windows)
 editors=2
 start_editor run_editor
 file_text >"$work/two.txt"
 focus "$first"
 open_file "$work/two.txt"
 add_to_first Ashe
-second=$(xdotool search --onlyvisible --name "^Quexal Editor$" | grep -vx "$first")
+second=$(main_windows | grep -vx "$first")
 focus "$second"
 open_file "$work/two.txt"
 answer_box Return # another editor has it open
@@ -97,6 +97,7 @@ wait_for "Quexal Editor" 2
 expect "$work/two.txt" "|Ashe" "the second editor replaced the file unasked"
 kill_editors
 editors=1
+unset focused
 
 # A full disk: the old file stays whole, and nothing is left beside it.
 if [ "$(id -u)" = 0 ]; then
@@ -112,7 +113,7 @@ if [ "$(id -u)" = 0 ]; then
     open_file "$work/disk/full.txt"
     add_to_first Ashe
     save
-    wait_for "Save As" 0
+    wait_for_end "Save As"
     sleep 2 # a save that fails says nothing
     picture full
     cmp "$work/disk/full.txt" "$work/full.txt" || fail "a full disk changed the file"
@@ -151,7 +152,7 @@ add_to_first Ashe
 sleep 60 | wine cmd /c "more >>$(windows_path "$work/held/held.txt")" >/dev/null 2>&1 &
 sleep 2
 save
-wait_for "Save As" 0
+wait_for_end "Save As"
 sleep 2
 picture held
 expect "$work/held/held.txt" "" "a file that another program holds was changed"

@@ -33,8 +33,12 @@ manage_windows() {
     openbox --config-file /dev/null >/dev/null 2>&1 &
     until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done
 }
-# Gives a window the focus.
-focus() { xdotool windowactivate --sync "$1" 2>/dev/null; } # before the first one is active it complains
+# Gives a window the focus. Before the first one has it, there is a complaint.
+focus() {
+    focused=$1
+    xdotool windowactivate --sync "$1" 2>/dev/null
+}
+main_windows() { xdotool search --onlyvisible --name "^Quexal Editor\$"; }
 # Takes a picture of the screen, where QUEXAL_PICTURES names a folder for them.
 picture() {
     [ -z "${QUEXAL_PICTURES-}" ] || import -window root "$QUEXAL_PICTURES/$1.png"
@@ -44,10 +48,15 @@ start_editor() {
     "$@" >"$work/editor.log" 2>&1 &
     wait_for "Quexal Editor" "${editors-1}"
 }
+# Waits until a dialogue for files has gone. Under Wine it gives the focus to nobody.
+wait_for_end() {
+    wait_for "$1" 0
+    xdotool getactivewindow getwindowname >/dev/null 2>&1 || focus "${focused-$(main_windows)}"
+}
 choose_file() {
     wait_for "$1"
     type_path "$2"
-    wait_for "$1" 0
+    wait_for_end "$1"
 }
 answer_box() {
     wait_for "Quexal Editor" $((${editors-1} + 1)) # where there are several, one of them shows it
