@@ -1,5 +1,6 @@
 #include "ui/machine/DurableFile.h"
 
+#include "ui/machine/FileLook.h"
 #include "ui/machine/SystemFile.h"
 
 #include <QFile>
@@ -7,7 +8,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <system_error>
 
 namespace DurableFile {
 
@@ -23,14 +23,13 @@ struct Target {
 
 // Nothing for anything else, and where a look at it fails: it must not pass for a file that is not there.
 std::optional<Target> TargetOf(const QString& path) {
-    std::error_code error;
-    const std::filesystem::path name = QFileInfo(path).filesystemFilePath();
-    Target target{path, std::filesystem::status(name, error)};
+    Target target{path, FileLook::StatusOf(path)};
     if (target.status.type() == std::filesystem::file_type::regular) {
-        target.path = QFileInfo(std::filesystem::canonical(name, error)).filePath();
-        return error ? std::nullopt : std::optional(target);
+        const auto file = FileLook::WithoutLinks(path);
+        target.path = file.value_or(QString());
+        return file ? std::optional(target) : std::nullopt;
     }
-    return target.IsNew() ? std::optional(target) : std::nullopt;
+    return target.IsNew() && FileLook::MayBeNamed(path) ? std::optional(target) : std::nullopt;
 }
 
 // Goes through the bytes of a file piece by piece, at least once, until `transfer` refuses one.
@@ -104,6 +103,7 @@ bool Overwrite(const QString& path, std::string_view content, const Listener& li
                            (file.size() == size || file.resize(size)) && SystemFile::Sync(file);
     const QFileInfo written(QFileInfo(path).canonicalFilePath());
     if (isNew && !isWritten) {
+        file.close();
         QFile::remove(written.filePath());
     }
     return isWritten && (!isNew || SystemFile::SyncFolder(written.absolutePath()));

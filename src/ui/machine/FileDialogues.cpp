@@ -1,6 +1,7 @@
 #include "ui/machine/FileDialogues.h"
 
 #include "ui/Text.h"
+#include "ui/machine/FileLook.h"
 #include "ui/machine/PlainBoxes.h"
 #include "ui/machine/ReadableName.h"
 #include "ui/machine/SettingsFile.h"
@@ -19,7 +20,7 @@ std::optional<std::string> Choose(QFileDialog& dialog, const FileRequest& reques
         dialog.setWindowTitle(Text::ForList(request.title));
     }
     if (!request.folder.empty()) {
-        dialog.setDirectory(Text::PathToQt(request.folder));
+        dialog.setDirectory(FileLook::FolderLeft(Text::PathToQt(request.folder)));
     }
     if (!request.fileName.empty()) {
         dialog.selectFile(Text::PathToQt(request.fileName));
@@ -37,10 +38,10 @@ bool IsReadOnly(const std::string& path) {
     const ReadableName name(path);
     const QFileInfo file(name.ForToolkit());
     if (file.exists()) {
-        return !file.isWritable();
+        return !FileLook::MayWrite(file.filePath());
     }
     const QFileInfo made(file.isSymLink() ? file.symLinkTarget() : file.filePath());
-    return !QFileInfo(made.absolutePath()).isWritable();
+    return !FileLook::MayWrite(made.absolutePath());
 }
 
 // Whether the file that was proposed is meant: the toolkit cannot show its name as it is, and the one that it shows was
@@ -79,6 +80,8 @@ std::optional<std::string> ChooseToSave(QWidget* parent, const FileRequest& requ
             desktop.MsgBox(
                 "This file is not there any more, and its name cannot be written. Please choose another name.",
                 BoxIcon::Exclamation);
+        } else if (!FileLook::MayBeNamed(Text::PathToQt(path))) {
+            desktop.MsgBox("A file cannot have this name. Please choose another name.", BoxIcon::Exclamation);
         } else if (IsReadOnly(path)) {
             desktop.MsgBox("This file is read-only. Please choose another name.", BoxIcon::Exclamation);
         } else if (!isProposed || MayReplace(request, path, desktop)) {

@@ -5,6 +5,7 @@
 #include "ui/machine/DateTimeText.h"
 #include "ui/machine/DurableFile.h"
 #include "ui/machine/FileDialogues.h"
+#include "ui/machine/FileLook.h"
 #include "ui/machine/FilePlace.h"
 #include "ui/machine/Memory.h"
 #include "ui/machine/OnlyForTheUser.h"
@@ -18,7 +19,6 @@
 #include "ui/windows/frmCustomMessageBox.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -32,7 +32,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <filesystem>
 #include <system_error>
 
 namespace Ui {
@@ -109,12 +108,6 @@ QIcon StandardPicture(std::int32_t number) {
 
 QString SettingName(std::string_view section, std::string_view key) {
     return Text::ToQt(section) + QLatin1Char('/') + Text::ToQt(key);
-}
-
-// There is no such file, nor can there be one. Any other error may go by.
-bool IsMissing(const std::error_code& error) {
-    return error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory ||
-           error == std::errc::filename_too_long;
 }
 
 // The toolkit's label takes the focus from a click alone. It may only take it by Tab when a button has it already,
@@ -215,8 +208,8 @@ std::optional<std::string> QtDesktop::ReadFile(const std::string& path) {
 bool QtDesktop::HasContent(const std::string& path) {
     const ReadableName name(path);
     std::error_code error;
-    const auto size = std::filesystem::file_size(QFileInfo(name.ForToolkit()).filesystemFilePath(), error);
-    return error ? !IsMissing(error) : size > 0;
+    const auto size = FileLook::SizeOf(name.ForToolkit(), error);
+    return error ? !FileLook::IsMissing(error) : size > 0;
 }
 
 bool QtDesktop::ReplaceFile(const std::string& path, std::string_view content) {
@@ -248,17 +241,12 @@ bool QtDesktop::MakePrivateFile(const std::string& path, std::string_view conten
 
 std::string QtDesktop::StampOf(const std::string& path) {
     const ReadableName name(path);
-    const QFileInfo file(name.ForToolkit());
     std::error_code error;
-    const auto size = std::filesystem::file_size(file.filesystemFilePath(), error);
+    const auto size = FileLook::SizeOf(name.ForToolkit(), error);
     if (error) { // what cannot be looked at is like nothing that was seen before
-        return IsMissing(error) ? std::string() : "unknown " + std::to_string(++m_unknownStamps);
+        return FileLook::IsMissing(error) ? std::string() : "unknown " + std::to_string(++m_unknownStamps);
     }
-    std::string stamp = std::to_string(size);
-    for (const QDateTime& time : {file.lastModified(), file.metadataChangeTime()}) {
-        stamp += ' ' + std::to_string(time.toMSecsSinceEpoch());
-    }
-    return stamp;
+    return std::to_string(size) + FileLook::TimesOf(name.ForToolkit());
 }
 
 std::string QtDesktop::TruePath(const std::string& path) {
@@ -266,12 +254,9 @@ std::string QtDesktop::TruePath(const std::string& path) {
 }
 
 bool QtDesktop::AreOneFile(const std::string& a, const std::string& b) {
-    std::error_code error;
     const ReadableName nameOfA(a);
     const ReadableName nameOfB(b);
-    return TruePath(a) == TruePath(b) ||
-           std::filesystem::equivalent(QFileInfo(nameOfA.ForToolkit()).filesystemFilePath(),
-                                       QFileInfo(nameOfB.ForToolkit()).filesystemFilePath(), error);
+    return TruePath(a) == TruePath(b) || FileLook::AreOne(nameOfA.ForToolkit(), nameOfB.ForToolkit());
 }
 
 bool QtDesktop::ShowDocument(const std::string& path) {
@@ -280,8 +265,7 @@ bool QtDesktop::ShowDocument(const std::string& path) {
 }
 
 bool QtDesktop::MayMakeFilesIn(const std::string& folder) {
-    const QFileInfo info(Text::PathToQt(folder));
-    return info.isDir() && info.isWritable() && info.isExecutable(); // which lets one enter it
+    return FileLook::MayMakeFilesIn(FileLook::FolderLeft(Text::PathToQt(folder)));
 }
 
 std::string QtDesktop::DocumentsFolder() {

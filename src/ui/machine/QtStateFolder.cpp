@@ -1,10 +1,11 @@
 #include "ui/machine/QtStateFolder.h"
 
-#include "core/Ansi.h"
 #include "ui/Text.h"
 #include "ui/machine/DateTimeText.h"
 #include "ui/machine/DurableFile.h"
+#include "ui/machine/FileLook.h"
 #include "ui/machine/OnlyForTheUser.h"
+#include "ui/machine/SystemFile.h"
 #include "ui/machine/UserFolders.h"
 
 #include <QCoreApplication>
@@ -14,7 +15,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <filesystem>
+#include <system_error>
 
 namespace Ui {
 
@@ -34,18 +35,10 @@ QString QtStateFolder::FilePath(const std::string& name) {
 }
 
 std::vector<std::string> QtStateFolder::Names() {
-    std::vector<std::string> names;
     std::error_code error;
-    std::filesystem::directory_iterator entry(QDir(UserFolders::State()).filesystemAbsolutePath(), error);
-    while (!error && entry != std::filesystem::directory_iterator()) {
-        if (std::error_code other; entry->is_regular_file(other)) {
-            const std::u8string name = entry->path().filename().u8string();
-            names.emplace_back(name.begin(), name.end());
-        }
-        entry.increment(error);
-    }
+    std::vector<std::string> names = FileLook::NamesIn(QDir(UserFolders::State()).absolutePath(), error);
     const bool isMissing = error == std::errc::no_such_file_or_directory;
-    m_problem = error && !isMissing ? Ansi::FromUtf8(error.message()) : std::string();
+    m_problem = error && !isMissing ? Text::FromQt(FileLook::Message(error)) : std::string();
     std::sort(names.begin(), names.end());
     return names;
 }
@@ -74,9 +67,7 @@ std::optional<std::string> QtStateFolder::Read(const std::string& name) {
 }
 
 bool QtStateFolder::IsGone(const std::string& name) {
-    std::error_code error;
-    const auto status = std::filesystem::symlink_status(QFileInfo(FilePath(name)).filesystemFilePath(), error);
-    return status.type() == std::filesystem::file_type::not_found;
+    return FileLook::IsGone(FilePath(name));
 }
 
 bool QtStateFolder::Replace(const std::string& name, std::string_view content) {
@@ -91,17 +82,11 @@ bool QtStateFolder::Extend(const std::string& name, std::size_t kept, std::strin
 
 // The toolkit would copy what cannot be renamed, and half a copy could be left.
 bool QtStateFolder::Rename(const std::string& name, const std::string& newName) {
-    std::error_code error;
-    if (IsGone(newName)) {
-        std::filesystem::rename(QFileInfo(FilePath(name)).filesystemFilePath(),
-                                QFileInfo(FilePath(newName)).filesystemFilePath(), error);
-        return !error;
-    }
-    return false;
+    return IsGone(newName) && SystemFile::Rename(FilePath(name), FilePath(newName));
 }
 
 bool QtStateFolder::Remove(const std::string& name) {
-    return QFile::remove(FilePath(name));
+    return SystemFile::Remove(FilePath(name));
 }
 
 LockResult QtStateFolder::Lock(const std::string& name) {

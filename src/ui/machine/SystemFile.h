@@ -26,4 +26,8 @@ namespace SystemFile {
 [[nodiscard]] bool Replace(const QString& path, const std::filesystem::file_status& old,
                            const std::function<bool(QFileDevice&)>& write);
 
+// Another file of the new name, if any, need not stay.
+[[nodiscard]] bool Rename(const QString& path, const QString& newPath);
+[[nodiscard]] bool Remove(const QString& path);
+
 } // namespace SystemFile

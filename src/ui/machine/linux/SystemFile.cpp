@@ -1,6 +1,7 @@
 #include "ui/machine/SystemFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <fcntl.h>
@@ -8,6 +9,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <system_error>
 
 namespace SystemFile {
 
@@ -64,6 +66,16 @@ bool Replace(const QString& path, const std::filesystem::file_status& old,
         file.cancelWriting();
     }
     return file.commit();
+}
+
+bool Rename(const QString& path, const QString& newPath) {
+    std::error_code error;
+    std::filesystem::rename(QFileInfo(path).filesystemFilePath(), QFileInfo(newPath).filesystemFilePath(), error);
+    return !error;
+}
+
+bool Remove(const QString& path) {
+    return QFile::remove(path);
 }
 
 } // namespace SystemFile

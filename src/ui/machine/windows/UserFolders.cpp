@@ -5,6 +5,7 @@
 
 namespace UserFolders {
 
+// On this machine alone, since a lock holds nowhere else.
 QString State() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/quexal-editor");
 }
