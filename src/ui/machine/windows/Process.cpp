@@ -4,9 +4,9 @@
 
 namespace Process {
 
-// A drive without its disk.
+// A drive without its disk, or a file that is not found, for which the system would show a box.
 void LetCallsFail() {
-    SetErrorMode(SEM_FAILCRITICALERRORS);
+    SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
 }
 
 } // namespace Process
