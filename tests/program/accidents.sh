@@ -24,7 +24,7 @@ expect() {
 file_text() { printf 'Alpha%s|Ash\r\nBeta%s|Elm\r\n' "$header" "$header"; }
 # Opens a file in the editor that has the focus.
 open_file() {
-    press ctrl+o
+    bring_up "Open" ctrl+o
     choose_file "Open" "$(path_for "$1")"
 }
 add_to_first() {
@@ -33,8 +33,7 @@ add_to_first() {
 }
 # Saves it in its place.
 save() {
-    press ctrl+s
-    wait_for "Save As"
+    bring_up "Save As" ctrl+s
     press Return
     confirm_replacing
 }
@@ -44,7 +43,7 @@ kill_editors() {
     local id
     for id in $(pgrep -f "$(basename "$editor")"); do
         if grep -zqxF "HOME=$HOME" "/proc/$id/environ" 2>/dev/null; then
-            kill -9 "$id"
+            kill -9 "$id" 2>/dev/null || true # it may have ended with another one
         fi
     done
     wait_for "Quexal Editor" 0
@@ -56,6 +55,10 @@ start_editor run_editor
 open_file "$work/killed.txt"
 add_to_first Ashe
 add_to_first %Asche
+for ((i = 0; i < 100; i++)); do # the keys have reached the editor
+    grep -rqsF %Asche "$state" && break
+    sleep 0.1
+done
 kill_editors
 expect "$work/killed.txt" "" "the file was changed without being saved"
 start_editor run_editor
@@ -135,11 +138,11 @@ chmod a-w "$work/read-only.txt"
 start_editor run_editor
 open_file "$work/read-only.txt"
 add_to_first Ashe
-press ctrl+s
-wait_for "Save As"
-press Return
-sleep 2
+save
+wait_for "Quexal Editor" 2
 picture read-only
+press Return # it is read-only: another name is to be chosen
+wait_for "Save As"
 expect "$work/read-only.txt" "" "a read-only file was changed"
 kill_editors
 

@@ -54,8 +54,7 @@ cmp "$work/saved.txt" "$work/expected.txt" || fail "the saved file differs"
 open_practice "$(path_for "$work/saved.txt")" repaired
 choose_district Langm
 add_variation "!Langmor"
-press ctrl+s
-wait_for "Save As"
+bring_up "Save As" ctrl+s
 press Return
 confirm_replacing
 wait_for "Quexal Editor" 2

@@ -12,14 +12,28 @@ fail() {
     exit 1
 }
 
-# Waits until COUNT visible windows have this title.
-wait_for() {
-    local title=$1 count=${2-1} i
-    for ((i = 0; i < 100; i++)); do
+# Whether COUNT visible windows have this title, at last after so many tenths of a second.
+are_there() {
+    local title=$1 count=$2 tenths=$3 i
+    for ((i = 0; i < tenths; i++)); do
         [ "$(xdotool search --onlyvisible --name "^$title\$" 2>/dev/null | wc -l)" = "$count" ] && sleep 0.3 && return
         sleep 0.1
     done
-    fail "line ${BASH_LINENO[0]}: expected $count window(s) \"$title\""
+    return 1
+}
+# Waits until COUNT visible windows have this title.
+wait_for() {
+    local title=$1 count=${2-1}
+    are_there "$title" "$count" 100 || fail "line ${BASH_LINENO[0]}: expected $count window(s) \"$title\""
+}
+# Presses a key that brings up a dialogue; again where it came before the window had the focus.
+bring_up() {
+    local title=$1 key=$2 i
+    for ((i = 0; i < 5; i++)); do
+        press "$key"
+        are_there "$title" 1 30 && return
+    done
+    fail "line ${BASH_LINENO[0]}: $key does not bring up \"$title\""
 }
 press() { xdotool key --clearmodifiers "$@"; }
 type_path() {
@@ -69,7 +83,7 @@ close_report() {
 }
 # Opens the practice file, which asks and tells; "repaired" is one that has been opened and saved before.
 open_practice() {
-    press ctrl+o
+    bring_up "Open" ctrl+o
     choose_file "Open" "$1"
     answer_box Return # an incomplete line is retained
     answer_box Return # a quarter contradicts its year
@@ -100,7 +114,7 @@ confirm_replacing() {
     press alt+y
 }
 save_as() {
-    press ctrl+s
+    bring_up "Save As" ctrl+s
     choose_file "Save As" "$1"
     answer_box Return # "File Saved to"
     wait_for "Quexal Editor"

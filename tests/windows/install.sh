@@ -42,8 +42,7 @@ open_practice "$(windows_path "$folder/practice.txt")"
 choose_district Ashc
 add_variation "Ashcome Regis"
 picture installed
-press ctrl+s
-wait_for "Save As"
+bring_up "Save As" ctrl+s
 press Return
 confirm_replacing
 answer_box Return # "File Saved to"
