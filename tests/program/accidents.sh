@@ -27,9 +27,16 @@ open_file() {
     bring_up "Open" ctrl+o
     choose_file "Open" "$(path_for "$1")"
 }
+# Adds a variation to its first district, and waits until it has been noted.
 add_to_first() {
+    local i
     choose_district Alpha
     add_variation "$1"
+    for ((i = 0; i < 100; i++)); do
+        grep -rqsF "$1" "$state" && return
+        sleep 0.1
+    done
+    fail "$1 was not added"
 }
 # Saves it in its place.
 save() {
@@ -55,10 +62,6 @@ start_editor run_editor
 open_file "$work/killed.txt"
 add_to_first Ashe
 add_to_first %Asche
-for ((i = 0; i < 100; i++)); do # the keys have reached the editor
-    grep -rqsF %Asche "$state" && break
-    sleep 0.1
-done
 kill_editors
 expect "$work/killed.txt" "" "the file was changed without being saved"
 start_editor run_editor
@@ -152,7 +155,9 @@ file_text >"$work/held/held.txt"
 start_editor run_editor
 open_file "$work/held/held.txt"
 add_to_first Ashe
-sleep 60 | wine cmd /c "more >>$(windows_path "$work/held/held.txt")" >/dev/null 2>&1 &
+mkfifo "$work/nothing"
+wine cmd /c "more >>$(windows_path "$work/held/held.txt")" <"$work/nothing" >/dev/null 2>&1 &
+exec {nothing}>"$work/nothing" # it waits for something to add
 sleep 2
 save
 wait_for_end "Save As"
@@ -160,3 +165,8 @@ sleep 2
 picture held
 expect "$work/held/held.txt" "" "a file that another program holds was changed"
 [ "$(ls "$work/held")" = held.txt ] || fail "more files were left: $(ls "$work/held")"
+exec {nothing}>&- # it ends
+sleep 2
+save
+answer_box Return # "File Saved to"
+expect "$work/held/held.txt" "|Ashe" "a file that is not held any more was not saved"

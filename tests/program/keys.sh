@@ -66,6 +66,7 @@ start_editor() {
 wait_for_end() {
     wait_for "$1" 0
     xdotool getactivewindow getwindowname >/dev/null 2>&1 || focus "${focused-$(main_windows)}"
+    sleep 0.5 # until the window knows that
 }
 choose_file() {
     wait_for "$1"
