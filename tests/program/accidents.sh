@@ -156,7 +156,7 @@ start_editor run_editor
 open_file "$work/held/held.txt"
 add_to_first Ashe
 mkfifo "$work/nothing"
-wine cmd /c "more >>$(windows_path "$work/held/held.txt")" <"$work/nothing" >/dev/null 2>&1 &
+wine cmd /c "set /p nothing= >>$(windows_path "$work/held/held.txt")" <"$work/nothing" >/dev/null 2>&1 &
 exec {nothing}>"$work/nothing" # it waits for something to add
 sleep 2
 save
