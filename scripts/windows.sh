@@ -25,9 +25,9 @@ exec {lock}>&-
 
 say "Building the editor for Windows"
 build_preset windows
-version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' build/windows/CMakeCache.txt)
+version=$(release_version)
 name=quexal-editor-$version-windows-x64
-day=$(sed -n 's/^ -- .*>  //p;T;q' packaging/changelog)
+day=$(release_day)
 SOURCE_DATE_EPOCH=$(date -d "$day" +%s) # the linker and the installer take their times from it
 export SOURCE_DATE_EPOCH
 

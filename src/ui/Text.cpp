@@ -5,6 +5,7 @@
 #include "core/State.h"
 #include "core/Wording.h"
 
+#include <QDir>
 #include <QUrl>
 
 #include <algorithm>
@@ -112,7 +113,7 @@ std::string PathFromUrl(const QUrl& url) {
 }
 
 QString ShownPath(const std::string& path) {
-    return WithVisibleControls(PathToQt(path));
+    return WithVisibleControls(QDir::toNativeSeparators(PathToQt(path)));
 }
 
 QString WordingToQt(const CommonRoutines::Wording& wording) {

@@ -34,10 +34,12 @@ void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInde
     option->state &= ~QStyle::State_HasFocus;
     QPalette& colours = option->palette;
     if (option->state.testFlag(QStyle::State_Selected)) {
-        const QColor ink = colours.color(QPalette::Text);
-        const bool isEnabled = option->state.testFlag(QStyle::State_Enabled);
-        colours.setColor(QPalette::HighlightedText,
-                         isEnabled ? Colours::Legible(ink, colours.color(QPalette::Highlight)) : ink);
+        if (option->state.testFlag(QStyle::State_Enabled)) {
+            const QColor ink = colours.color(QPalette::Text);
+            colours.setColor(QPalette::Text, Colours::Legible(ink, colours.color(QPalette::Highlight)));
+        }
+        // The list has painted the ground of the whole row. Some styles have grounds of their own for parts of one.
+        option->state &= ~QStyle::State_Selected;
     }
     if (option->features.testFlag(QStyleOptionViewItem::HasCheckIndicator)) {
         colours.setColor(QPalette::Window, StateColours::ShadedToOutline);
