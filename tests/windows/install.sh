@@ -38,7 +38,7 @@ wine reg query "$listed" /v DisplayVersion | grep -q '1\.' || fail "it is not am
 cp "$folder/practice.txt" "$work/practice.txt"
 start_editor wine start /unix "$entry"
 install && fail "it was installed while the program runs"
-open_practice "$(windows_path "$folder/practice.txt")"
+open_practice practice.txt # the dialogue begins beside the program
 choose_district Ashc
 add_variation "Ashcome Regis"
 picture installed
