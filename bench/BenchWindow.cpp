@@ -23,10 +23,6 @@ double Milliseconds(const QElapsedTimer& clock) {
 
 } // namespace
 
-PrivateSettings::PrivateSettings() {
-    qputenv("XDG_CONFIG_HOME", m_folder.path().toUtf8());
-}
-
 BenchWindow::BenchWindow() {
     Window().resize(NormalSize);
     Settle();

@@ -4,22 +4,11 @@
 #include "driver/AnsweringDesktop.h"
 #include "driver/DrivenForm.h"
 
-#include <QTemporaryDir>
-
 #include <cstdint>
 #include <functional>
 #include <string>
 
 namespace Bench {
-
-// The settings of a measurement must not become those of the user.
-class PrivateSettings {
-public:
-    PrivateSettings();
-
-private:
-    QTemporaryDir m_folder;
-};
 
 // The main window as a user sees it, and what a user does to it. What is done is timed from the click
 // or the key to the painted result, in milliseconds.

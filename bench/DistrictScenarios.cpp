@@ -142,7 +142,6 @@ double TimeToMarkAll(BenchWindow& window, const std::string& file) {
 } // namespace
 
 void MeasureTyping(const std::string& file) {
-    const PrivateSettings settings;
     BenchWindow window;
     window.Open(file);
     Print("variations", window.ChooseBiggestDistrict());
@@ -163,7 +162,6 @@ void MeasureTyping(const std::string& file) {
 }
 
 void MeasureEditing(const std::string& file) {
-    const PrivateSettings settings;
     BenchWindow window;
     window.Open(file);
     Print("variations", window.ChooseBiggestDistrict());
@@ -184,7 +182,6 @@ void MeasureEditing(const std::string& file) {
 }
 
 void MeasureApplying(const std::string& file, const std::string& proposals) {
-    const PrivateSettings settings;
     BenchWindow window;
     Times times;
     std::size_t ignored = 0;

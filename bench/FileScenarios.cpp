@@ -60,13 +60,11 @@ void MarkOneVariation(BenchWindow& window) {
 } // namespace
 
 void MeasureOpening(const std::string& file) {
-    const PrivateSettings settings;
     BenchWindow window;
     OpenAndPrint(window, file);
 }
 
 void MeasureSession(const std::string& file) {
-    const PrivateSettings settings;
     BenchWindow window;
     OpenAndPrint(window, file);
     std::size_t findings = 0;

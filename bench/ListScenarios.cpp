@@ -55,7 +55,6 @@ void FilterOnce(BenchWindow& window, int round, ListTimes& times) {
 } // namespace
 
 void MeasureLists(const std::string& file) {
-    const PrivateSettings settings;
     BenchWindow window;
     window.Open(file);
     QApplication::setKeyboardInputInterval(0); // every letter is the first one

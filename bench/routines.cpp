@@ -7,6 +7,8 @@
 #include "core/Ansi.h"
 #include "core/State.h"
 #include "driver/AnsweringDesktop.h"
+#include "driver/OffscreenPlatform.h"
+#include "driver/UserPlaces.h"
 #include "edit/EditPanel.h"
 #include "file/DistrictFileReader.h"
 #include "recovery/RecoveryFile.h"
@@ -197,8 +199,6 @@ void SortingTexts(benchmark::State& state) {
 }
 
 void WritingAnUnsavedChange(benchmark::State& state) {
-    const QTemporaryDir states;
-    qputenv("XDG_STATE_HOME", states.path().toUtf8());
     Ui::AnsweringDesktop desktop;
     UnsavedChanges changes;
     changes.Begin(desktop, "/data/districts.txt", "bytes", Numbering::AsRead);
@@ -245,7 +245,8 @@ BENCHMARK(WritingAnUnsavedChange)->Unit(benchmark::kMicrosecond)->UseRealTime();
 } // namespace
 
 int main(int argc, char* argv[]) {
-    qputenv("QT_QPA_PLATFORM", "offscreen"); // the desktop asks for its windows when it is busy
+    UseOffscreenPlatform(); // the desktop asks for its windows when it is busy
+    const UserPlaces places;
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {

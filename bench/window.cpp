@@ -3,9 +3,10 @@
 //   quexal-bench-window apply FILE PROPOSALS
 
 #include "Scenarios.h"
+#include "driver/OffscreenPlatform.h"
+#include "driver/UserPlaces.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
 
 #include <filesystem>
 #include <iostream>
@@ -41,12 +42,10 @@ int Measure(const std::string& scenario, const std::vector<std::string>& files) 
 } // namespace
 
 int main(int argc, char* argv[]) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    UseOffscreenPlatform();
     // The platform's own pause before it paints is no work of the program's.
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
-    // Unsaved changes go on a real disk, but not among the user's own.
-    const QTemporaryDir states;
-    qputenv("XDG_STATE_HOME", states.path().toUtf8());
+    const UserPlaces places; // unsaved changes go on a real disk, but not among the user's own
     QApplication application(argc, argv);
     std::vector<std::string> files;
     for (int i = 2; i < argc; ++i) {

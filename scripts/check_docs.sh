@@ -57,8 +57,9 @@ check_tests docs/reliability.md
 # Every picture is shown somewhere, and is one that the tour takes.
 while read -r picture; do
     name=$(basename "$picture" .png)
+    station=${name#dark-} station=${station#windows-}
     grep -q "/$name\.png)" README.md docs/*.md || complain "$picture is shown nowhere"
-    grep -q "Picture(.*QStringLiteral(\"${name#dark-}\")" tour/main.cpp || complain "the tour does not take $picture"
+    grep -q "Picture(.*QStringLiteral(\"$station\")" tour/main.cpp || complain "the tour does not take $picture"
 done < <(git ls-files docs/images)
 
 # Software centres are told the size of each picture, which stands in the header of its file.

@@ -1,8 +1,28 @@
 #!/usr/bin/env bash
 # Takes the pictures of the documents anew, into docs/images: plays the tour, once more on a dark desktop at twice the
-# size, and keeps the pictures that a document shows. Needs the build folder of the preset "dev", and no display.
+# size, and keeps the pictures that a document shows. Needs the build folder of the preset "dev", and no display. With
+# the tour of the preset "windows" it takes those whose names begin with "windows-", under Wine.
+# usage: pictures.sh [TOUR.EXE]
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
+
+# The pictures that a document shows.
+shown() { grep -ohP 'images/\K[\w-]+\.png' README.md docs/*.md | sort -u; }
+
+if [ $# = 1 ]; then
+    # shellcheck source=tests/windows/wine.sh
+    . tests/windows/wine.sh
+    on_own_screen 1920x1080 "$@"
+    tour=$(readlink -f "$1")
+    start_wine
+    name_a_font "Open Sans"
+    wine "$tour" "$(windows_path "$work/pictures")" >"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
+    shown | sed -n 's/^windows-//p' | while read -r picture; do
+        cp "$work/pictures/$picture" "docs/images/windows-$picture"
+    done
+    exit 0
+fi
+
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
@@ -15,8 +35,8 @@ cmake --build --preset dev --target quexal-tour >"$work/log"
 build/dev/bin/quexal-tour "$work" >>"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
 QT_SCALE_FACTOR=2 build/dev/bin/quexal-tour "$work" dark >>"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
 
-rm -f docs/images/*.png
-grep -ohP 'images/\K[\w-]+\.png' README.md docs/*.md | sort -u | while read -r picture; do
+find docs/images -name '*.png' -not -name 'windows-*' -delete
+shown | grep -v '^windows-' | while read -r picture; do
     cp "$work/$picture" docs/images/
 done
 # Software centres are told the sizes, which stand in the header of each file.

@@ -5,6 +5,7 @@
 #include "Picture.h"
 #include "driver/DialogueGuide.h"
 #include "driver/DrivenForm.h"
+#include "driver/UserPlaces.h"
 #include "ui/machine/QtDesktop.h"
 
 #include <QApplication>
@@ -217,10 +218,7 @@ QPalette DarkPalette() {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    // The tour must not touch the user's own settings and unsaved changes.
-    const QTemporaryDir settings;
-    qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
-    qputenv("XDG_STATE_HOME", settings.path().toUtf8());
+    const UserPlaces places;
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     const bool isDark = argc == 3 && std::string_view(argv[2]) == "dark";

@@ -6,11 +6,9 @@
 set -euo pipefail
 editor=$(readlink -f "$1")
 
-# The full disk is mounted for this test alone, and goes with it.
-if [ "$(id -u)" = 0 ] && [ -z "${QUEXAL_OWN_MOUNTS-}" ]; then
-    QUEXAL_OWN_MOUNTS=1 exec unshare --mount "$0" "$editor"
-fi
-
+# shellcheck source=tests/program/small_disk.sh
+. "$(dirname "$(readlink -f "$0")")/small_disk.sh"
+with_own_mounts "$editor"
 # shellcheck source=tests/program/either_system.sh
 . "$(dirname "$(readlink -f "$0")")/either_system.sh"
 
@@ -106,9 +104,7 @@ editors=1
 unset focused
 
 # A full disk: the old file stays whole, and nothing is left beside it.
-if [ "$(id -u)" = 0 ]; then
-    mkdir "$work/disk"
-    mount -t tmpfs -o size=64k tmpfs "$work/disk"
+if mount_small_disk "$work/disk" 64k; then
     {
         file_text
         head -c 40000 /dev/zero | tr '\0' '#'

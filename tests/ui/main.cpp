@@ -1,4 +1,5 @@
-#include "ui/machine/UserPlaces.h"
+#include "driver/OffscreenPlatform.h"
+#include "driver/UserPlaces.h"
 
 #include <QApplication>
 #include <QDir>
@@ -44,11 +45,7 @@ void ChoosePlatform(const QTemporaryDir& folder) {
     const QString screens = QStringLiteral("screens.json");
     DescribeScreens(folder.filePath(screens));
     QDir::setCurrent(folder.path());
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.toUtf8());
-    // On Windows that platform does not look for the fonts of the system.
-    if (const QByteArray system = qgetenv("SystemRoot"); !system.isEmpty()) {
-        qputenv("QT_QPA_FONTDIR", system + "\\Fonts");
-    }
+    UseOffscreenPlatform("configfile=" + screens.toUtf8());
 }
 
 // One look on every machine that can have it.

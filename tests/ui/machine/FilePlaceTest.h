@@ -1,11 +1,11 @@
 #pragma once
 
+#include "driver/UserPlaces.h"
 #include "recovery/SaveCopy.h"
 #include "ui/Text.h"
 #include "ui/machine/DurableFile.h"
 #include "ui/machine/FilePlace.h"
 #include "ui/machine/QtDesktop.h"
-#include "ui/machine/UserPlaces.h"
 
 #include <QDir>
 #include <QString>

@@ -1,5 +1,5 @@
+#include "driver/UserPlaces.h"
 #include "ui/machine/QtDesktop.h"
-#include "ui/machine/UserPlaces.h"
 
 #include <gtest/gtest.h>
 

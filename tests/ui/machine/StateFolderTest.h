@@ -1,7 +1,7 @@
 #pragma once
 
+#include "driver/UserPlaces.h"
 #include "ui/machine/QtStateFolder.h"
-#include "ui/machine/UserPlaces.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 #include "ui/machine/FileLock.h"
 
 #include "OnDisk.h"
+#include "driver/UserPlaces.h"
 #include "recovery/OpenMark.h"
 #include "ui/machine/QtDesktop.h"
-#include "ui/machine/UserPlaces.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -3,9 +3,9 @@
 #include "ui/machine/FilePlace.h"
 
 #include "OnDisk.h"
+#include "driver/UserPlaces.h"
 #include "recovery/SaveCopy.h"
 #include "ui/machine/QtDesktop.h"
-#include "ui/machine/UserPlaces.h"
 
 #include <winioctl.h>
 

@@ -1,7 +1,7 @@
 // Where the settings stand, and that tests have others than the user.
 
+#include "driver/UserPlaces.h"
 #include "ui/machine/QtDesktop.h"
-#include "ui/machine/UserPlaces.h"
 
 #include <QSettings>
 

@@ -1,4 +1,4 @@
-#include "ui/machine/UserPlaces.h"
+#include "driver/UserPlaces.h"
 
 #include <QByteArray>
 #include <QTemporaryDir>
