@@ -25,8 +25,12 @@ source=$(echo "$work"/qt6-base-*/)
 
 # Left out is what the program has no use for; tablets, because the source package lacks a header for them. The
 # libraries are installed below a root of their own, so that no path of this machine is written into them, and files
-# that are compiled in have no time.
+# that are compiled in are of no day.
 export QT_RCC_SOURCE_DATE_OVERRIDE=1
+mime=$source/src/corelib/mimetypes/mime/generate.pl
+# shellcheck disable=SC2016 # they are Perl's
+sed -i 's/gzip \\$data => \\$compressed,/& -Time => 0,/' "$mime"
+grep -q -e '-Time => 0' "$mime"
 QUEXAL_QT_WINDOWS=$folder cmake -S "$source" -B "$work/build" -G Ninja \
     -DCMAKE_TOOLCHAIN_FILE="$here/mingw-w64.cmake" -DCMAKE_INSTALL_PREFIX=/qt -DCMAKE_BUILD_TYPE=Release \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
