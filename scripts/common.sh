@@ -65,6 +65,12 @@ windows_qt_folder() {
     printf '%s' "${XDG_CACHE_HOME:-$HOME/.cache}/quexal-editor/qt-windows-${key:0:16}"
 }
 
+# Configures and builds a preset for Windows with the Qt in $QUEXAL_QT_WINDOWS; anew where it was built with another.
+build_windows_preset() {
+    grep -qsF "Qt6_DIR:PATH=$QUEXAL_QT_WINDOWS/" "build/$1/CMakeCache.txt" || rm -rf "build/$1"
+    build_preset "$1"
+}
+
 # Whether all of it is there, byte for byte.
 is_windows_qt_whole() {
     (cd "$1" 2>/dev/null && sha256sum --check --status --strict complete 2>/dev/null)

@@ -23,13 +23,13 @@ fi
 exec {lock}>&-
 [ "${1-}" != --qt ] || exit 0
 
-say "Building the editor for Windows"
-build_preset windows
 version=$(release_version)
 name=quexal-editor-$version-windows-x64
 day=$(release_day)
-SOURCE_DATE_EPOCH=$(date -d "$day" +%s) # the linker and the installer take their times from it
+SOURCE_DATE_EPOCH=$(date -d "$day" +%s) # what writes a time takes it from there
 export SOURCE_DATE_EPOCH
+say "Building the editor for Windows"
+build_windows_preset windows
 
 say "Building the packages"
 rm -rf build/windows/package build/quexal-editor-*-windows-x64*

@@ -71,15 +71,21 @@ Function un.AreTheSame
     ${If} $5 = $6
         FileSeek $3 0 SET
         FileSeek $4 0 SET
-        ${Do}
+        ClearErrors
+        StrCpy $9 0 ; so many bytes are the same
+        ${DoWhile} $9 < $5
             FileReadByte $3 $7
             FileReadByte $4 $8
-            ${If} ${Errors} ; both are at their ends
-                Pop $0
-                Push 1
+            ${If} ${Errors}
+            ${OrIf} $7 != $8
                 ${ExitDo}
             ${EndIf}
-        ${LoopUntil} $7 != $8
+            IntOp $9 $9 + 1
+        ${Loop}
+        ${If} $9 = $5
+            Pop $0
+            Push 1
+        ${EndIf}
     ${EndIf}
     FileClose $3
     FileClose $4
@@ -96,7 +102,8 @@ Function ${un}WaitForProgram
             Return
         ${EndIf}
         MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
-            "The Quexal Editor is running. Please save your work and close it." /SD IDCANCEL IDRETRY +3
+            "The Quexal Editor cannot be replaced. If it is running, please save your work and close it." \
+            /SD IDCANCEL IDRETRY +3
         SetErrorLevel 2
         Abort
     ${Loop}
@@ -107,11 +114,21 @@ FunctionEnd
 
 Section
     Call WaitForProgram
-    ; What an older version had and this one has not, goes with that one.
-    ${If} ${FileExists} "$INSTDIR\uninstall.exe"
-        ExecWait '"$INSTDIR\uninstall.exe" /S _?=$INSTDIR'
+    ; What an older version had and this one has not, goes with that one; also where it stands in another folder.
+    ReadRegStr $R0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
+    ${IfThen} $R0 == "" ${|} StrCpy $R0 $INSTDIR ${|}
+    ${If} ${FileExists} "$R0\uninstall.exe"
+        ExecWait '"$R0\uninstall.exe" /S _?=$R0'
+        Delete "$R0\uninstall.exe"
     ${EndIf}
     SetOutPath "$INSTDIR"
+    ${If} $R0 != $INSTDIR
+        ${If} ${FileExists} "$R0\qx_lower.txt" ; which its user has changed
+        ${AndIfNot} ${FileExists} "$INSTDIR\qx_lower.txt"
+            CopyFiles /SILENT "$R0\qx_lower.txt" "$INSTDIR"
+        ${EndIf}
+        RMDir "$R0"
+    ${EndIf}
     ClearErrors
     !insertmacro InstallFiles
     WriteUninstaller "$INSTDIR\uninstall.exe"
@@ -141,6 +158,9 @@ Section "Uninstall"
     RMDir "$INSTDIR\originals"
     SetOutPath "$TEMP" ; a folder that is in use cannot be removed
     RMDir "$INSTDIR"
-    Delete "$SMPROGRAMS\Quexal Editor.lnk"
-    DeleteRegKey HKCU "${UNINSTALL_KEY}"
+    ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
+    ${If} $0 == $INSTDIR ; and not another installation
+        Delete "$SMPROGRAMS\Quexal Editor.lnk"
+        DeleteRegKey HKCU "${UNINSTALL_KEY}"
+    ${EndIf}
 SectionEnd

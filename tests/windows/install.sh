@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
-# Installs the editor for one user under Wine, uses it from the start menu, installs it over itself after the user has
-# changed texts beside it, and removes it: what the user made stays, and nothing else does.
-# usage: install.sh SETUP.EXE
+# Installs the editor for one user under Wine, uses it from the start menu, installs it over itself and over an older
+# version after the user has changed texts beside it, and removes it: what the user made stays, and nothing else does.
+# usage: install.sh SETUP.EXE FOLDER, in which everything stands as it is to be installed
 set -euo pipefail
 setup=$(readlink -f "$1")
+files=$(readlink -f "$2")
 here=$(dirname "$(readlink -f "$0")")
+project=$(readlink -f "$here/../..")
+version=$(basename "$setup" | sed 's/quexal-editor-\(.*\)-windows.*/\1/')
 
 # shellcheck source=tests/windows/program.sh
 . "$here/program.sh"
@@ -15,7 +18,8 @@ folder="$user/AppData/Local/Programs/Quexal Editor"
 entry="$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Quexal Editor.lnk"
 listed='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\QuexalEditor'
 
-install() { timeout 120 wine "$setup" /S; }
+install() { timeout 120 wine "${1-$setup}" /S "${@:2}"; }
+listed_version() { wine reg query "$listed" /v DisplayVersion | tr -d '\r' | awk '$1 == "DisplayVersion" { print $3 }'; }
 all_files() { (cd "$folder" && find . -type f | LC_ALL=C sort | xargs -d '\n' sha256sum); }
 uninstall() {
     local i
@@ -24,6 +28,7 @@ uninstall() {
         wine reg query "$listed" >/dev/null 2>&1 || break
         sleep 0.2
     done
+    ! wine reg query "$listed" >/dev/null 2>&1 || fail "it is still among the installed programs"
     sleep 1
     [ ! -e "$entry" ] || fail "the entry in the start menu was left"
 }
@@ -32,7 +37,7 @@ find "$user" | LC_ALL=C sort >"$work/before.txt"
 install || fail "the installer failed"
 all_files >"$work/installed.txt"
 [ -s "$entry" ] || fail "there is no entry in the start menu"
-wine reg query "$listed" /v DisplayVersion | grep -q '1\.' || fail "it is not among the installed programs"
+[ "$(listed_version)" = "$version" ] || fail "it is not among the installed programs as $version"
 
 # The sample that came along is opened from the start menu's program, changed and saved over itself.
 cp "$folder/practice.txt" "$work/practice.txt"
@@ -70,11 +75,32 @@ left=$(all_files | sed 's/^.* //' | tr '\n' ' ')
 [ "$left" = "./guide/mine.txt ./practice.txt ./qx_lower.txt " ] || fail "the uninstaller left $left"
 cmp "$folder/practice.txt" "$work/expected.txt" || fail "the uninstaller changed the sample"
 
-# Without anything of the user's nothing is left but the settings.
+# An older version had another word list and a further library, and stands in another folder.
 rm -r "$folder"
-install || fail "it could not be installed again"
-all_files | cmp - "$work/installed.txt" || fail "installed again, it is another program"
+cp -r "$files" "$work/older"
+echo zzyzx >"$work/older/qx_lower.txt"
+echo library >"$work/older/library.dll"
+(
+    cd "$project"
+    packaging/windows/file-list.sh "$work/older" >"$work/older.nsh"
+    makensis -V2 -NOCD -DVERSION=0.9.0 -DFILES="$work/older" -DFILE_LIST="$work/older.nsh" \
+        -DOUTPUT="$work/older-setup.exe" packaging/windows/installer.nsi
+)
+mkdir "$WINEPREFIX/drive_c/older"
+install "$work/older-setup.exe" '/D=C:\older' || fail "the older version was not installed"
+[ "$(listed_version)" = 0.9.0 ] || fail "the older version is not among the installed programs"
+[ -e "$WINEPREFIX/drive_c/older/library.dll" ] || fail "the older version is not where it was to be"
+echo mine >>"$WINEPREFIX/drive_c/older/practice.txt"
+folder=$WINEPREFIX/drive_c/newer
+install "$setup" '/D=C:\newer' || fail "it was not installed over the older version"
+[ "$(listed_version)" = "$version" ] || fail "the older version is still among the installed programs"
+all_files | cmp - "$work/installed.txt" || fail "over an older version it is another program"
+left=$(find "$WINEPREFIX/drive_c/older" -type f)
+[ "$left" = "$WINEPREFIX/drive_c/older/practice.txt" ] || fail "of the older version was left: $left"
+
+# Without anything of the user's nothing is left but the settings.
+rm -r "$WINEPREFIX/drive_c/older"
 uninstall
 left=$(find "$user" | LC_ALL=C sort | { diff "$work/before.txt" - || true; } | sed -n 's/^> //p' |
-    grep -v -e '/Temp/~nsu' -e '/AppData/Local/Programs$' -e '/AppData/Local/quexal-editor') || true
+    { grep -v -e '/Temp/~nsu' -e '/AppData/Local/Programs$' -e '/AppData/Local/quexal-editor' || true; })
 [ -z "$left" ] || fail "the uninstaller left $left"

@@ -52,12 +52,12 @@ LockResult FileLock::Take(const QString& path) {
             }
             CloseHandle(file);
         }
-        if (looks >= MostLooks || !(Native::MayPass(error) || error == ERROR_IO_PENDING)) {
-            const bool isHeld = error == ERROR_LOCK_VIOLATION || error == ERROR_IO_PENDING;
+        const bool isHeld = error == ERROR_LOCK_VIOLATION || error == ERROR_IO_PENDING;
+        if (looks >= (isHeld ? MostLooks : Native::Tries) || !(isHeld || Native::MayPass(error))) {
             m_problem = isHeld ? QString() : qt_error_string(static_cast<int>(error));
             return isHeld ? LockResult::HeldByAnother : LockResult::Impossible;
         }
-        QThread::msleep(LookMilliseconds);
+        QThread::msleep(isHeld ? LookMilliseconds : Native::PauseMilliseconds);
     }
 }
 

@@ -180,7 +180,7 @@ bool MayWrite(const QString& path) {
         const DWORD error = GetLastError();
         return error == ERROR_SHARING_VIOLATION;
     }
-    return (Native::VolumeOf(file.Get()) & FILE_READ_ONLY_VOLUME) == 0 && !IsReadOnly(path);
+    return (Native::VolumeOf(file.Get()).value_or(0) & FILE_READ_ONLY_VOLUME) == 0 && !IsReadOnly(path);
 }
 
 bool MayMakeFilesIn(const QString& folder) {

@@ -23,8 +23,9 @@ constexpr DWORD PlainAttributes = FILE_ATTRIBUTE_NORMAL | FILE_ATTRIBUTE_ARCHIVE
 
 // Streams beside the content, such as where a file was loaded from.
 bool HasFurtherStreams(const QString& path, HANDLE file) {
-    if ((Native::VolumeOf(file) & FILE_NAMED_STREAMS) == 0) {
-        return false;
+    const auto volume = Native::VolumeOf(file);
+    if (!volume || (*volume & FILE_NAMED_STREAMS) == 0) {
+        return !volume;
     }
     WIN32_FIND_STREAM_DATA stream{};
     const HANDLE search = FindFirstStreamW(Native::NameOf(path).c_str(), FindStreamInfoStandard, &stream, 0);

@@ -72,9 +72,10 @@ bool AreOne(HANDLE a, HANDLE b) {
            (infoOfA.nFileIndexHigh | infoOfA.nFileIndexLow) != 0;
 }
 
-DWORD VolumeOf(HANDLE file) {
+std::optional<DWORD> VolumeOf(HANDLE file) {
     DWORD flags = 0;
-    return GetVolumeInformationByHandleW(file, nullptr, 0, nullptr, nullptr, &flags, nullptr, 0) != 0 ? flags : 0;
+    const bool isKnown = GetVolumeInformationByHandleW(file, nullptr, 0, nullptr, nullptr, &flags, nullptr, 0) != 0;
+    return isKnown ? std::optional(flags) : std::nullopt;
 }
 
 bool MayPass(DWORD error) {

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <string>
 #include <windows.h>
 
@@ -37,8 +38,8 @@ private:
 // Whether two handles are of one file.
 [[nodiscard]] bool AreOne(HANDLE a, HANDLE b);
 
-// What the volume of a file can do, as flags of the system.
-[[nodiscard]] DWORD VolumeOf(HANDLE file);
+// What the volume of a file can do, as flags of the system; nothing where that cannot be told.
+[[nodiscard]] std::optional<DWORD> VolumeOf(HANDLE file);
 
 // Whether an error may pass: another program has the file for a moment, a virus scanner, say.
 [[nodiscard]] bool MayPass(DWORD error);

@@ -83,8 +83,9 @@ bool Give(HANDLE file, Descriptor& rights) {
 
 // The user may own a file, and so may the group that stands in for an administrator.
 bool CannotBeGiven(HANDLE file) {
-    if ((Native::VolumeOf(file) & FILE_PERSISTENT_ACLS) == 0) {
-        return false; // nothing there belongs to anybody
+    const auto volume = Native::VolumeOf(file);
+    if (!volume || (*volume & FILE_PERSISTENT_ACLS) == 0) {
+        return !volume; // without rights, nothing there belongs to anybody
     }
     auto kept = Kept(file, OWNER_SECURITY_INFORMATION);
     const auto user = OfThisProgram(TokenUser);

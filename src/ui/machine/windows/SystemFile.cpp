@@ -66,7 +66,11 @@ std::optional<Traits> TraitsOf(const QString& path) {
         GetFileInformationByHandleEx(file.Get(), FileBasicInfo, &traits.info, sizeof traits.info) == 0) {
         return std::nullopt;
     }
-    const bool hasRights = (Native::VolumeOf(file.Get()) & FILE_PERSISTENT_ACLS) != 0;
+    const auto volume = Native::VolumeOf(file.Get());
+    if (!volume) {
+        return std::nullopt;
+    }
+    const bool hasRights = (*volume & FILE_PERSISTENT_ACLS) != 0;
     traits.rights = hasRights ? Rights::Of(file.Get()) : std::nullopt;
     return hasRights == traits.rights.has_value() ? std::optional(traits) : std::nullopt;
 }
@@ -152,7 +156,7 @@ bool SyncFolder(const QString& /*folder*/) {
 bool OpenWithoutEmptying(QFile& file, bool isNew) {
     const std::wstring name = Native::NameOf(file.fileName());
     constexpr DWORD access = GENERIC_WRITE | FILE_READ_ATTRIBUTES;
-    constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE;
+    constexpr DWORD sharing = 0; // nobody is to meet half of a file
     HANDLE handle = INVALID_HANDLE_VALUE;
     const bool isOpen = Patiently([&] {
         handle = isNew ? Make(name, access, sharing, Rights::OfNewFiles())

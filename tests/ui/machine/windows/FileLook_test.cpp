@@ -232,3 +232,10 @@ TEST_F(FileLookTest, DevicesAndPartsOfFilesAreNoNamesOfFiles) {
     EXPECT_TRUE(FileLook::MayBeNamed(QStringLiteral("C:\\x.txt")));
     EXPECT_FALSE(FileLook::MayBeNamed(QStringLiteral("C:\\")));
 }
+
+TEST_F(FileLookTest, ASharedFolderIsNamedAsOne) {
+    const QString shared = QStringLiteral("//server/share/a b.txt");
+    EXPECT_EQ(Native::NameOf(shared), LR"(\\?\UNC\server\share\a b.txt)");
+    EXPECT_EQ(Native::PathOf(Native::NameOf(shared)), shared);
+    EXPECT_EQ(Native::PathOf(LR"(\\?\C:\a\b.txt)"), QStringLiteral("C:/a/b.txt"));
+}

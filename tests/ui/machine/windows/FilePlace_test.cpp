@@ -49,6 +49,17 @@ TEST_F(KeptFileTest, AFileOfTwoNamesStaysOneFile) {
     EXPECT_TRUE(desktop.AreOneFile(file.toStdString(), other.toStdString()));
 }
 
+TEST_F(KeptFileTest, AFileOfTwoNamesThatIsHeldIsRefused) {
+    ASSERT_NE(CreateHardLinkW(Native(Path(QStringLiteral("other.txt"))).c_str(), Native(file).c_str(), nullptr), 0);
+    {
+        const Native::Handle held(OpenForOthers(file, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE));
+        EXPECT_FALSE(DurableFile::Overwrite(file, "new and longer"));
+        EXPECT_EQ(DurableFile::Read(file), "old");
+    }
+    EXPECT_TRUE(Write(file));
+    EXPECT_EQ(DurableFile::Read(file), "new and longer");
+}
+
 TEST_F(KeptFileTest, ANameThatLeavesNoRoomForAnotherIsWritten) {
     for (const int length : {248, 249, 255}) {
         const QString name = QString(length, QLatin1Char('n'));

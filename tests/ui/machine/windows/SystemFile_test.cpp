@@ -214,7 +214,12 @@ TEST_F(SystemFileTest, NobodyReadsTheNewContentBeforeItHasTheRights) {
 }
 
 TEST_F(SystemFileTest, TheOldFileHasItsNameUntilTheNewOneIsWhole) {
-    EXPECT_TRUE(ReplaceAndLook([&] { EXPECT_EQ(DurableFile::Read(file), "old"); }));
+    bool hasLooked = false;
+    EXPECT_TRUE(ReplaceAndLook([&] {
+        EXPECT_EQ(DurableFile::Read(file), "old");
+        hasLooked = true;
+    }));
+    EXPECT_TRUE(hasLooked);
 }
 
 TEST_F(SystemFileTest, AFailedWriteLeavesTheOldFileAlone) {
