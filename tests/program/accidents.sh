@@ -113,7 +113,7 @@ if mount_small_disk "$work/disk" 64k; then
     cp "$work/disk/full.txt" "$work/full.txt"
     start_editor run_editor
     open_file "$work/disk/full.txt"
-    add_to_first Ashe
+    add_to_first Ashfull
     save
     wait_for_end "Save As"
     sleep 2 # a save that fails says nothing
@@ -121,7 +121,7 @@ if mount_small_disk "$work/disk" 64k; then
     cmp "$work/disk/full.txt" "$work/full.txt" || fail "a full disk changed the file"
     [ "$(ls "$work/disk")" = full.txt ] || fail "a full disk has more files: $(ls "$work/disk")"
     save_as "$(path_for "$work/elsewhere.txt")"
-    sed '1s/\r$/|Ashe\r/' "$work/full.txt" | cmp - "$work/elsewhere.txt" || fail "elsewhere it was not saved"
+    sed '1s/\r$/|Ashfull\r/' "$work/full.txt" | cmp - "$work/elsewhere.txt" || fail "elsewhere it was not saved"
     kill_editors
     umount "$work/disk"
 else
@@ -136,7 +136,7 @@ file_text >"$work/read-only.txt"
 chmod a-w "$work/read-only.txt"
 start_editor run_editor
 open_file "$work/read-only.txt"
-add_to_first Ashe
+add_to_first Ashread
 save
 wait_for "Quexal Editor" 2
 picture read-only
@@ -150,7 +150,7 @@ mkdir "$work/held"
 file_text >"$work/held/held.txt"
 start_editor run_editor
 open_file "$work/held/held.txt"
-add_to_first Ashe
+add_to_first Ashheld
 mkfifo "$work/nothing"
 wine cmd /c "set /p nothing= >>$(windows_path "$work/held/held.txt")" <"$work/nothing" >/dev/null 2>&1 &
 exec {nothing}>"$work/nothing" # it waits for something to add
@@ -165,4 +165,4 @@ exec {nothing}>&- # it ends
 sleep 2
 save
 answer_box Return # "File Saved to"
-expect "$work/held/held.txt" "|Ashe" "a file that is not held any more was not saved"
+expect "$work/held/held.txt" "|Ashheld" "a file that is not held any more was not saved"
