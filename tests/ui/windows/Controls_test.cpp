@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QCheckBox>
+#include <QDir>
 #include <QFrame>
 #include <QHeaderView>
 #include <QLabel>
@@ -193,7 +194,7 @@ TEST_F(FormTest, AHintIsReadOutOnlyWhileItsListIsEmpty) {
     const auto hint = [&](const char* list) { return Find<RowList>(list).accessibleDescription(); };
     EXPECT_FALSE(hint("lvAlpha").isEmpty());
     OpenContent("#QX_NOTE Of Alpha\r\n" + HeaderOf("Alpha") + "|Alfa\r\n");
-    EXPECT_EQ(hint("lvAlpha"), QString::fromStdString(DataFilePath));
+    EXPECT_EQ(hint("lvAlpha"), QDir::toNativeSeparators(QString::fromStdString(DataFilePath)));
     EXPECT_EQ(hint("lbComments"), Text::ToQt(Commands::CommandOf(Commands::Control::lbComments).hint));
     for (const char* list : {"lvVariations", "lvComments", "LvChanges"}) {
         EXPECT_EQ(hint(list), Find<RowList>(list).Hint()) << list;
