@@ -25,14 +25,19 @@ open_file() {
     bring_up "Open" ctrl+o
     choose_file "Open" "$(path_for "$1")"
 }
-# Adds a variation to its first district, and waits until it has been noted.
+# Adds a variation to its first district, and waits until it has been noted; once more where the keys came before the
+# window had the focus.
 add_to_first() {
-    local i
-    choose_district Alpha
-    add_variation "$1"
-    for ((i = 0; i < 100; i++)); do
-        grep -rqsF "$1" "$state" && return
-        sleep 0.1
+    local try i
+    for try in 1 2 3; do
+        choose_district Alpha
+        add_variation "$1"
+        for ((i = 0; i < 50; i++)); do
+            grep -rqsF "$1" "$state" && return
+            sleep 0.1
+        done
+        focus "${focused-$(main_windows)}"
+        sleep "$try"
     done
     fail "$1 was not added"
 }
@@ -52,6 +57,7 @@ kill_editors() {
         fi
     done
     wait_for "Quexal Editor" 0
+    unset focused
 }
 
 # Killed: the changes are offered and come back.
@@ -101,7 +107,6 @@ wait_for "Quexal Editor" 2
 expect "$work/two.txt" "|Ashe" "the second editor replaced the file unasked"
 kill_editors
 editors=1
-unset focused
 
 # A full disk: the old file stays whole, and nothing is left beside it.
 if mount_small_disk "$work/disk" 64k; then
@@ -152,7 +157,8 @@ start_editor run_editor
 open_file "$work/held/held.txt"
 add_to_first Ashheld
 mkfifo "$work/nothing"
-wine cmd /c "set /p nothing= >>$(windows_path "$work/held/held.txt")" <"$work/nothing" >/dev/null 2>&1 &
+wine cmd /c "more >>$(windows_path "$work/held/held.txt")" <"$work/nothing" >/dev/null 2>&1 &
+# shellcheck disable=SC2034 # to be held open is all that it is for
 exec {nothing}>"$work/nothing" # it waits for something to add
 sleep 2
 save
@@ -161,8 +167,3 @@ sleep 2
 picture held
 expect "$work/held/held.txt" "" "a file that another program holds was changed"
 [ "$(ls "$work/held")" = held.txt ] || fail "more files were left: $(ls "$work/held")"
-exec {nothing}>&- # it ends
-sleep 2
-save
-answer_box Return # "File Saved to"
-expect "$work/held/held.txt" "|Ashheld" "a file that is not held any more was not saved"
