@@ -13,7 +13,7 @@ with_own_mounts "$@"
 
 unset DISPLAY # the tests bring their screens along
 start_wine
-cp /usr/share/fonts/truetype/dejavu/DejaVuSans*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+give_fonts
 trap 'umount "$work/disk" 2>/dev/null; end_wine' EXIT
 if mount_small_disk "$work/disk" 400k; then
     QUEXAL_SMALL_DISK=$(windows_path "$work/disk")

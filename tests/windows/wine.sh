@@ -4,6 +4,7 @@
 #   start_wine                    Wine with a prefix of its own, a scratch folder $work, the DLLs of the compiler and Qt
 #   windows_path /a/b             Z:\a\b, as programs there name this path
 #   name_a_font "Open Sans"       lets this font stand in for Segoe UI, in which Windows writes
+#   give_fonts                    fonts for programs that need no screen
 # Afterwards "wine PROGRAM.EXE" runs a program, which gets no variables QT_*: Wine keeps them for itself. What was
 # started under Wine ends with the script.
 
@@ -37,6 +38,9 @@ start_wine() {
     export WINEPATH
     timeout 120 wineboot -i >/dev/null 2>&1
 }
+
+# The platform without a screen looks for fonts in this folder alone.
+give_fonts() { cp /usr/share/fonts/truetype/dejavu/DejaVuSans*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"; }
 
 # Wine names no font of its own but one that the toolkit does not know.
 name_a_font() {
