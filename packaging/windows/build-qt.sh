@@ -24,20 +24,15 @@ version=$(dpkg-query -W -f '${Version}' qt6-base-dev) # the tools of this machin
 source=$(echo "$work"/qt6-base-*/)
 
 # Left out is what the program has no use for; tablets, because the source package lacks a header for them. The
-# libraries are installed below a root of their own, so that no path of this machine is written into them, and files
-# that are compiled in are of no day.
-export QT_RCC_SOURCE_DATE_OVERRIDE=1
-mime=$source/src/corelib/mimetypes/mime/generate.pl
-# shellcheck disable=SC2016 # they are Perl's
-sed -i 's/gzip \\$data => \\$compressed,/& -Time => 0,/' "$mime"
-grep -q -e '-Time => 0' "$mime"
+# libraries are installed below a root of their own, so that no path of this machine is written into them. The list of
+# file types is compressed by Perl, which gives it no time, as CMake would.
 QUEXAL_QT_WINDOWS=$folder cmake -S "$source" -B "$work/build" -G Ninja \
     -DCMAKE_TOOLCHAIN_FILE="$here/mingw-w64.cmake" -DCMAKE_INSTALL_PREFIX=/qt -DCMAKE_BUILD_TYPE=Release \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
     -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DWARNINGS_ARE_ERRORS=OFF -DINPUT_opengl=no \
     -DFEATURE_network=OFF -DFEATURE_sql=OFF -DFEATURE_xml=OFF -DFEATURE_dbus=OFF -DFEATURE_concurrent=OFF \
     -DFEATURE_vulkan=OFF -DFEATURE_tabletevent=OFF -DFEATURE_system_zlib=OFF -DFEATURE_pkg_config=OFF \
-    -DFEATURE_zstd=OFF -DFEATURE_testlib=ON
+    -DFEATURE_zstd=OFF -DFEATURE_testlib=ON -DQT_AVOID_CMAKE_ARCHIVING_API=ON
 cmake --build "$work/build"
 DESTDIR=$work/root cmake --install "$work/build"
 
