@@ -53,30 +53,12 @@ xprop -id "$window" _NET_WM_ICON >"$work/icon.txt"
 grep -aq 'Icon (' "$work/icon.txt" || fail "the window has no icon"
 [ -z "${QUEXAL_PICTURE-}" ] || import -window root "$QUEXAL_PICTURE"
 
-open_file() {
-    press ctrl+o
-    wait_for "Open"
-    type_path "$1"
-    wait_for "Open" 0
-}
-close_report() {
-    wait_for "Read File Results"
-    press Escape
-    wait_for "Read File Results" 0
-}
 # Adds a variation to the first district and saves the file; expects that this line is changed and nothing else.
 add_and_save() {
     local file=$1 district=$2
     press Home
-    press Insert
-    xdotool type --delay 5 Newname
-    press Return
-    press ctrl+s
-    wait_for "Save As"
-    type_path "/home/$user/saved.txt"
-    wait_for "Quexal Editor" 2 # "File Saved to"
-    press Return
-    wait_for "Quexal Editor" 1
+    add_variation Newname
+    save_as "/home/$user/saved.txt"
     sed "/^$district+/s/\r\$/|Newname\r/" "$root$file" >"$work/expected.txt"
     ! cmp -s "$work/expected.txt" "$root$file" || fail "there is no district $district"
     cmp "$work/expected.txt" "$home/saved.txt" || fail "$file was not saved as expected"
@@ -84,14 +66,10 @@ add_and_save() {
 }
 
 open_file "$folder/gazetteer-gb.txt"
-close_report
+close_report "Read File Results"
 add_and_save "$folder/gazetteer-gb.txt" Abberton
 open_file "/home/$user/words.txt"
-[ "$word" = listed ] || close_report
+[ "$word" = listed ] || close_report "Read File Results"
 add_and_save "/home/$user/words.txt" "Aston zzyzx Bury" # not to be reached while a report is shown
 press alt+F4
-for ((i = 0; i < 50; i++)); do
-    [ -z "$(xdotool search --onlyvisible --name '^Quexal Editor$' 2>/dev/null)" ] && exit 0
-    sleep 0.1
-done
-fail "the window did not close"
+wait_for "Quexal Editor" 0

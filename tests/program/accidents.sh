@@ -20,11 +20,6 @@ expect() {
 }
 # Such a file as it is at first.
 file_text() { printf 'Alpha%s|Ash\r\nBeta%s|Elm\r\n' "$header" "$header"; }
-# Opens a file in the editor that has the focus.
-open_file() {
-    bring_up "Open" ctrl+o
-    choose_file "Open" "$(path_for "$1")"
-}
 # Adds a variation to its first district, and waits until it has been noted; once more where the keys came before the
 # window had the focus.
 add_to_first() {
@@ -63,13 +58,13 @@ kill_editors() {
 # Killed: the changes are offered and come back.
 file_text >"$work/killed.txt"
 start_editor run_editor
-open_file "$work/killed.txt"
+open_file "$(path_for "$work/killed.txt")"
 add_to_first Ashe
 add_to_first %Asche
 kill_editors
 expect "$work/killed.txt" "" "the file was changed without being saved"
 start_editor run_editor
-open_file "$work/killed.txt"
+open_file "$(path_for "$work/killed.txt")"
 picture killed
 answer_box Return # they are wanted back
 sleep 1
@@ -85,11 +80,11 @@ editors=2
 start_editor run_editor
 file_text >"$work/two.txt"
 focus "$first"
-open_file "$work/two.txt"
+open_file "$(path_for "$work/two.txt")"
 add_to_first Ashe
 second=$(main_windows | grep -vx "$first")
 focus "$second"
-open_file "$work/two.txt"
+open_file "$(path_for "$work/two.txt")"
 answer_box Return # another editor has it open
 wait_for "Quexal Editor" 2
 add_to_first Asche
@@ -117,7 +112,7 @@ if mount_small_disk "$work/disk" 64k; then
     } >"$work/disk/full.txt"
     cp "$work/disk/full.txt" "$work/full.txt"
     start_editor run_editor
-    open_file "$work/disk/full.txt"
+    open_file "$(path_for "$work/disk/full.txt")"
     add_to_first Ashfull
     save
     wait_for_end "Save As"
@@ -140,7 +135,7 @@ fi
 file_text >"$work/read-only.txt"
 chmod a-w "$work/read-only.txt"
 start_editor run_editor
-open_file "$work/read-only.txt"
+open_file "$(path_for "$work/read-only.txt")"
 add_to_first Ashread
 save
 wait_for "Quexal Editor" 2
@@ -154,7 +149,7 @@ kill_editors
 mkdir "$work/held"
 file_text >"$work/held/held.txt"
 start_editor run_editor
-open_file "$work/held/held.txt"
+open_file "$(path_for "$work/held/held.txt")"
 add_to_first Ashheld
 mkfifo "$work/nothing"
 wine cmd /c "more >>$(windows_path "$work/held/held.txt")" <"$work/nothing" >/dev/null 2>&1 &

@@ -73,6 +73,10 @@ choose_file() {
     type_path "$2"
     wait_for_end "$1"
 }
+open_file() {
+    bring_up "Open" ctrl+o
+    choose_file "Open" "$1"
+}
 answer_box() {
     wait_for "Quexal Editor" $((${editors-1} + 1)) # where there are several, one of them shows it
     press "$1"
@@ -84,8 +88,7 @@ close_report() {
 }
 # Opens the practice file, which asks and tells; "repaired" is one that has been opened and saved before.
 open_practice() {
-    bring_up "Open" ctrl+o
-    choose_file "Open" "$1"
+    open_file "$1"
     answer_box Return # an incomplete line is retained
     answer_box Return # a quarter contradicts its year
     if [ "${2-}" != repaired ]; then

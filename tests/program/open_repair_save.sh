@@ -16,25 +16,12 @@ cmp -s "$work/damaged.txt" "$gazetteer" && fail "the null variation was not adde
 # The window manager starts the editor once it manages windows.
 openbox --config-file /dev/null --startup "$editor" >/dev/null 2>&1 &
 wait_for "Quexal Editor"
-press ctrl+o
-wait_for "Open"
-type_path "$work/damaged.txt"
+open_file "$work/damaged.txt"
 wait_for "Null Variation"
 press Return # Remove, the first of its buttons
-wait_for "Read File Results"
-press Escape
-wait_for "Read File Results" 0
+close_report "Read File Results"
 press Home Down # choose a district
-press ctrl+s
-wait_for "Save As"
-type_path "$work/saved.txt"
-wait_for "Quexal Editor" 2 # "File Saved to"
-press Return
-wait_for "Quexal Editor" 1
+save_as "$work/saved.txt"
 cmp "$work/saved.txt" "$gazetteer" || fail "the saved file differs"
 press alt+F4
-for ((i = 0; i < 50; i++)); do
-    [ -z "$(xdotool search --onlyvisible --name '^Quexal Editor$' 2>/dev/null)" ] && exit 0
-    sleep 0.1
-done
-fail "the window did not close"
+wait_for "Quexal Editor" 0
