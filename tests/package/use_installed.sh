@@ -45,8 +45,8 @@ exec chroot --userspec=$user:$user $root env -i HOME=/home/$user XDG_RUNTIME_DIR
 START
 chmod +x "$work/start"
 
-openbox --config-file /dev/null --startup "$work/start" >/dev/null 2>&1 &
-wait_for "Quexal Editor"
+manage_windows
+start_editor "$work/start"
 window=$(xdotool search --onlyvisible --class "^$class\$" | sed -n 1p)
 [ -n "$window" ] || fail "no window is of the class in the menu entry"
 xprop -id "$window" _NET_WM_ICON >"$work/icon.txt"

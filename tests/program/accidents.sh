@@ -54,6 +54,8 @@ kill_editors() {
     wait_for "Quexal Editor" 0
     unset focused
 }
+# Forgets what was not saved: it would be offered for the next file, which has the same content.
+forget_changes() { rm -rf "$state"; }
 
 # Killed: the changes are offered and come back.
 file_text >"$work/killed.txt"
@@ -101,6 +103,7 @@ press Escape # the file was changed by another program: it stays
 wait_for "Quexal Editor" 2
 expect "$work/two.txt" "|Ashe" "the second editor replaced the file unasked"
 kill_editors
+forget_changes
 editors=1
 
 # A full disk: the old file stays whole, and nothing is left beside it.
@@ -144,8 +147,9 @@ press Return # it is read-only: another name is to be chosen
 wait_for "Save As"
 expect "$work/read-only.txt" "" "a read-only file was changed"
 kill_editors
+forget_changes
 
-# A file that another program holds is not replaced, nor is anything left beside it.
+# A file that another program holds is not replaced, nor is anything left beside it. Afterwards it can be saved.
 mkdir "$work/held"
 file_text >"$work/held/held.txt"
 start_editor run_editor
@@ -153,12 +157,24 @@ open_file "$(path_for "$work/held/held.txt")"
 add_to_first Ashheld
 mkfifo "$work/nothing"
 wine cmd /c "more >>$(windows_path "$work/held/held.txt")" <"$work/nothing" >/dev/null 2>&1 &
-# shellcheck disable=SC2034 # to be held open is all that it is for
+holder=$!
 exec {nothing}>"$work/nothing" # it waits for something to add
-sleep 2
+for ((i = 0; i < 100; i++)); do
+    # Processes end while they are looked at.
+    [ -z "$(find /proc/[0-9]*/fd -lname "$work/held/held.txt" 2>/dev/null || true)" ] || break
+    sleep 0.1
+done
+((i < 100)) || fail "nobody holds the file"
 save
 wait_for_end "Save As"
 sleep 2
 picture held
 expect "$work/held/held.txt" "" "a file that another program holds was changed"
 [ "$(ls "$work/held")" = held.txt ] || fail "more files were left: $(ls "$work/held")"
+exec {nothing}>&- # there is nothing to add
+wait "$holder" || true
+save
+wait_for "Quexal Editor" 2
+picture freed
+press Return # "File Saved to"
+expect "$work/held/held.txt" "|Ashheld" "a file that is not held any more was not saved"

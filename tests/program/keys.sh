@@ -42,9 +42,11 @@ type_path() {
     press Return
 }
 
-# Windows have the focus only once they are managed.
+# Windows have the focus only once they are managed. What a user has set does not matter here; of a file that is not XML
+# the manager would tell in a window of its own, which takes the focus whenever it comes.
 manage_windows() {
-    openbox --config-file /dev/null >/dev/null 2>&1 &
+    echo '<openbox_config xmlns="http://openbox.org/3.4/rc"/>' >"$work/openbox.xml"
+    openbox --config-file "$work/openbox.xml" >/dev/null 2>&1 &
     until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done
 }
 # Gives a window the focus. Before the first one has it, there is a complaint.

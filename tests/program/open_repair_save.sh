@@ -13,9 +13,8 @@ gazetteer=$(readlink -f "$2")
 sed '3s/\r$/|%\r/' "$gazetteer" >"$work/damaged.txt"
 cmp -s "$work/damaged.txt" "$gazetteer" && fail "the null variation was not added"
 
-# The window manager starts the editor once it manages windows.
-openbox --config-file /dev/null --startup "$editor" >/dev/null 2>&1 &
-wait_for "Quexal Editor"
+manage_windows
+start_editor "$editor"
 open_file "$work/damaged.txt"
 wait_for "Null Variation"
 press Return # Remove, the first of its buttons

@@ -27,8 +27,8 @@ press_f1() {
     fail "F1 did not show $guide: $(cat "$work/shown.txt" 2>&1)"
 }
 
-openbox --config-file /dev/null --startup "$editor" >/dev/null 2>&1 &
-wait_for "Quexal Editor"
+manage_windows
+start_editor "$editor"
 press_f1 1
 press ctrl+o
 wait_for "Open"
