@@ -61,7 +61,8 @@ build_preset() {
 windows_qt_folder() {
     local key
     key=$(cat packaging/windows/build-qt.sh packaging/windows/mingw-w64.cmake - \
-        <<<"$(dpkg-query -W -f '${Package} ${Version}\n' qt6-base-dev g++-mingw-w64-x86-64-posix)" | sha256sum)
+        <<<"$(dpkg-query -W -f '${Package} ${Version}\n' qt6-base-dev g++-mingw-w64-x86-64-posix \
+            binutils-mingw-w64-x86-64 mingw-w64-x86-64-dev)" | sha256sum)
     printf '%s' "${XDG_CACHE_HOME:-$HOME/.cache}/quexal-editor/qt-windows-${key:0:16}"
 }
 
