@@ -98,7 +98,7 @@ std::int32_t BenchWindow::ChooseBiggestDistrict() {
     const auto biggest = std::max_element(
         Districts.begin() + 1, Districts.begin() + 1 + lLineCount,
         [](const DistrictRecord& a, const DistrictRecord& b) { return a.lVariationCount < b.lVariationCount; });
-    const int row = RowOf("lvAlpha", Text::ToQt(biggest->Name));
+    const int row = RowOf("lvAlpha", Text::ToQt(biggest->Name()));
     ScrollTo("lvAlpha", row);
     TimeOf([&] { ClickRow("lvAlpha", row); }, "lvVariations");
     return biggest->lVariationCount;

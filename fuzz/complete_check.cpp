@@ -48,15 +48,15 @@ std::vector<std::string> SlowFindings() {
     Entries entries;
     for (std::int32_t district = 1; district <= lLineCount; ++district) {
         if (IsDistrict(district)) {
-            const std::string name = Ansi::Upper(std::string(RecordOf(district).Name));
+            const std::string name = Ansi::Upper(std::string(RecordOf(district).Name()));
             entries.push_back({name, name, district, 0});
             AddVariations(entries, district);
         }
     }
     std::vector<std::string> findings;
     ForEachPair(entries, [&](const Entry& a, const Entry& b) {
-        const std::string name = RecordOf(a.district).Name;
-        const std::string other = RecordOf(b.district).Name;
+        const std::string name(RecordOf(a.district).Name());
+        const std::string other(RecordOf(b.district).Name());
         findings.push_back(name == other ? name + " contains a duplicate variation - " + a.text
                                          : name + " and " + other + " both use the variation " + a.text);
     });

@@ -36,8 +36,8 @@ std::string TableAsText() {
     std::string text;
     for (std::int32_t line = 1; line <= lLineCount; ++line) {
         const DistrictRecord& record = RecordOf(line);
-        for (const Ansi::String& field : {record.Name, record.HeaderText, record.County, record.Volume}) {
-            text += field + "\n";
+        for (const std::string_view field : {record.Name(), record.HeaderText(), record.County(), record.Volume()}) {
+            text += std::string(field) + "\n";
         }
         for (const std::int32_t number :
              {std::int32_t{record.bRetained}, std::int32_t{record.Founded}, std::int32_t{record.QtrF},
@@ -56,8 +56,9 @@ std::string TableAsText() {
 
 void LookAtEverything() {
     FuzzDesktop desktop("", "");
-    const std::vector<std::int32_t> districts = DistrictsByName();
-    ReportDuplicatedDistricts(districts, desktop);
+    const std::vector<NamedDistrict> byName = DistrictsByName();
+    ReportDuplicatedDistricts(byName, desktop);
+    const std::vector<std::int32_t> districts = LinesOf(byName);
     for (const CommentType& type : CommentTypes.Items()) {
         static_cast<void>(DistrictsOfType(districts, type.type));
     }

@@ -63,7 +63,8 @@ void CheckMatching(const std::string& a, const std::string& b) {
     lFoundVariation = 0;
     const bool found = FindVariationInDistrict(b);
     const bool isText = Slow::Same(a, b, 1, 1);
-    Demand(found == (isText || Slow::Same(b, RecordOf(1).Name, 1, 1)) && lFoundVariation == (isText ? 1 : 0));
+    Demand(found == (isText || Slow::Same(b, std::string(RecordOf(1).Name()), 1, 1)) &&
+           lFoundVariation == (isText ? 1 : 0));
 }
 
 void CheckKeys(std::string_view text) {
@@ -83,13 +84,13 @@ void MakeTable(const std::string& variation, unsigned char years) {
     lLineCount = 2;
     for (std::int32_t line = 1; line <= 2; ++line) {
         DistrictRecord& record = RecordOf(line);
-        record.Name = "Ashby";
+        record.Line = "Ashby";
         record.Founded = static_cast<std::int16_t>(1850 + years % 4);
         record.Abolished = static_cast<std::int16_t>(record.Founded + years / 4 % 3);
         record.QtrF = static_cast<std::int16_t>(years / 16 % 4);
         years = static_cast<unsigned char>(years * 7 + 3);
     }
-    RecordOf(1).Variations.resize(2);
+    RecordOf(1).Variations.Grow(2);
     RecordOf(1).Variations[1].Text = variation;
     RecordOf(1).lVariationCount = 1;
 }

@@ -23,27 +23,27 @@ void ShowDistrictComments(Session& session) {
     comments = {lCurrentDistrict, comments.filled + 1};
 }
 
-void MeasureDistricts(Session& session) {
+std::vector<NamedDistrict> SortAndMeasureDistricts(Session& session) {
     Progress progress(session.desktop, "Listing the districts", static_cast<std::size_t>(lLineCount));
     session.screen.StartColumnWidths();
-    for (std::int32_t line = 1; line <= lLineCount; ++line) {
+    return DistrictsByName([&](std::int32_t line) {
         if (IsDistrict(line)) {
             session.screen.AddDistrictRow(RecordOf(line));
         }
         progress.Advance(1);
-    }
+    });
 }
 
 } // namespace
 
 void FillDistrictList(Session& session) {
     session.desktop.ShowBusy(true);
-    session.districtsByName = DistrictsByName();
-    MeasureDistricts(session);
+    const std::vector<NamedDistrict> districts = SortAndMeasureDistricts(session);
+    session.districtsByName = LinesOf(districts);
     session.desktop.ShowBusy(false);
     session.view.districts.Fill(session.districtsByName);
     session.screen.SetColumnWidths(); // before a question shows the list
-    ReportDuplicatedDistricts(session.districtsByName, session.desktop);
+    ReportDuplicatedDistricts(districts, session.desktop);
 }
 
 void ChooseDistrict(Session& session, const std::vector<int>& rows) {

@@ -175,7 +175,7 @@ std::string Beginning(std::string_view text) {
 }
 
 std::string NameOfDistrict() {
-    return Beginning(RecordOf(lCurrentDistrict).Name);
+    return Beginning(RecordOf(lCurrentDistrict).Name());
 }
 
 std::string Doing(const WindowView& view) {

@@ -1,36 +1,44 @@
 #include "core/AnsiString.h"
 
 #include <algorithm>
+#include <new>
 #include <ostream>
-#include <utility>
 
 namespace Ansi {
 
-String& String::operator=(std::string_view text) {
-    String copy(text); // first, since the text may be a part of this one
-    return *this = std::move(copy);
+namespace {
+
+std::uint32_t SizeOf(std::string_view text) {
+    if (text.size() > String::MostBytes) {
+        throw std::bad_alloc();
+    }
+    return static_cast<std::uint32_t>(text.size());
+}
+
+} // namespace
+
+String::String(std::string_view text) {
+    if (!text.empty()) {
+        const std::uint32_t size = SizeOf(text) | OwnBlock;
+        char* block = new char[text.size()];
+        std::copy(text.begin(), text.end(), block);
+        m_address = block;
+        m_size = size;
+    }
+}
+
+String String::PartOf(std::string_view content) {
+    return {content.data(), SizeOf(content)};
 }
 
 String& String::operator=(String&& other) noexcept {
     if (this != &other) {
         Release();
-        m_bytes = other.m_bytes;
-        other.m_bytes = {};
+        m_address = other.m_address;
+        m_size = other.m_size;
+        other.Forget();
     }
     return *this;
-}
-
-void String::Assign(std::string_view text) {
-    if (text.size() <= Capacity) {
-        std::copy(text.begin(), text.end(), m_bytes.begin());
-        m_bytes[Tag] = static_cast<char>(text.size());
-        return;
-    }
-    char* block = new char[text.size()];
-    std::copy(text.begin(), text.end(), block);
-    Store(0, block);
-    Store(SizeAt, text.size());
-    m_bytes[Tag] = LongTag;
 }
 
 std::ostream& operator<<(std::ostream& out, const String& text) {

@@ -1,38 +1,45 @@
 #pragma once
 
-#include <array>
+#include "core/PackedPointer.h"
+
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <iosfwd>
 #include <string>
 #include <string_view>
 
 namespace Ansi {
 
-// A text that owns its bytes, for the millions of short texts of a table. Of its 24 bytes up to 23 hold
-// characters in place, so that most names need no memory of their own. A longer text has a block of exactly its
-// length. Reads as a std::string_view, which it invalidates whenever it is assigned to.
+// A text of a table, in 12 bytes, since there are millions of them. It has a block of its own, of exactly its length;
+// or it is a part of a content that stays where it is, which costs neither time nor memory. A copy always has a block
+// of its own. Reads as a std::string_view, which it invalidates whenever it is assigned to. A text of more than
+// MostBytes finds no memory.
 class String {
 public:
+    static constexpr std::size_t MostBytes = 0x7FFFFFFF;
+
     String() = default;
-    String(std::string_view text) { Assign(text); }
+    String(std::string_view text);
     String(const char* text) : String(std::string_view(text)) {}
     String(const String& other) : String(other.View()) {}
-    String(String&& other) noexcept : m_bytes(other.m_bytes) { other.m_bytes = {}; }
+    String(String&& other) noexcept : m_address(other.m_address), m_size(other.m_size) { other.Forget(); }
     ~String() { Release(); }
 
-    String& operator=(std::string_view text);
-    String& operator=(const char* text) { return *this = std::string_view(text); }
-    String& operator=(const String& other) { return *this = other.View(); }
+    // A part of a content that outlives the text and everything that it is moved to.
+    [[nodiscard]] static String PartOf(std::string_view content);
+
+    String& operator=(std::string_view text) { return *this = String(text); } // which may be a part of this one
+    String& operator=(const char* text) { return *this = String(text); }
+    String& operator=(const String& other) { return *this = String(other); }
     String& operator=(String&& other) noexcept;
 
     operator std::string_view() const { return View(); }
     operator std::string() const { return std::string(View()); }
-    [[nodiscard]] std::string_view View() const { return {IsLong() ? Block() : m_bytes.data(), size()}; }
-    [[nodiscard]] std::size_t size() const { return IsLong() ? LongSize() : static_cast<std::size_t>(m_bytes[Tag]); }
+    [[nodiscard]] std::string_view View() const { return {m_address, size()}; }
+    [[nodiscard]] std::size_t size() const { return m_size & MostBytes; }
     [[nodiscard]] bool empty() const { return size() == 0; }
+    [[nodiscard]] bool IsPart() const { return (m_size & OwnBlock) == 0; }
 
     friend bool operator==(const String& a, std::string_view b) { return a.View() == b; }
     friend bool operator==(const String& a, const String& b) { return a.View() == b.View(); }
@@ -48,37 +55,23 @@ public:
     }
 
 private:
-    // The last byte is the length of a text in place. For a long one it is LongTag, and the first bytes are the
-    // address of its block and its length.
-    static constexpr std::size_t Capacity = 23;
-    static constexpr std::size_t Tag = Capacity;
-    static constexpr std::size_t SizeAt = sizeof(char*);
-    static constexpr char LongTag = 127;
+    static constexpr std::uint32_t OwnBlock = 0x80000000; // set in m_size
 
-    [[nodiscard]] bool IsLong() const { return m_bytes[Tag] == LongTag; }
-    [[nodiscard]] std::size_t LongSize() const { return Load<std::size_t>(SizeAt); }
-    [[nodiscard]] char* Block() const { return Load<char*>(0); }
-
-    template <typename T>
-    [[nodiscard]] T Load(std::size_t at) const {
-        T value;
-        std::memcpy(&value, m_bytes.data() + at, sizeof value);
-        return value;
+    String(const char* address, std::uint32_t size) : m_address(address), m_size(size) {}
+    void Forget() {
+        m_address = nullptr;
+        m_size = 0;
     }
-    template <typename T>
-    void Store(std::size_t at, T value) {
-        std::memcpy(m_bytes.data() + at, &value, sizeof value);
-    }
-
-    void Assign(std::string_view text); // to a text that owns no block
     void Release() {
-        if (IsLong()) {
-            delete[] Block();
+        if (!IsPart()) {
+            delete[] m_address;
         }
     }
 
-    alignas(char*) std::array<char, Capacity + 1> m_bytes{};
+    PackedPointer<const char> m_address; // of the first byte
+    std::uint32_t m_size = 0;
 };
+static_assert(sizeof(String) == 12);
 
 // As the tests' messages show it.
 std::ostream& operator<<(std::ostream& out, const String& text);

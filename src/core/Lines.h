@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -28,5 +29,14 @@ public:
 private:
     std::string_view m_rest;
 };
+
+// How many lines a text has, or one more.
+[[nodiscard]] inline std::size_t CountLines(std::string_view text) {
+    std::size_t count = 1;
+    for (auto end = text.find('\n'); end != std::string_view::npos; end = text.find('\n', end + 1)) {
+        ++count;
+    }
+    return count;
+}
 
 } // namespace CommonRoutines

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <initializer_list>
 #include <string>
@@ -31,11 +32,23 @@ private:
     Maker m_make;
 };
 
+// The place in the table that a line of a report names.
+struct ReportPlace {
+    std::int32_t district = 0; // 0 for none
+    std::int32_t slot = 0;     // of its variation, 0 for the district itself
+
+    [[nodiscard]] bool IsThere() const { return district > 0; }
+    bool operator==(const ReportPlace&) const = default;
+};
+
 // What a report window shows: lines of text under a caption. A line may itself hold line breaks.
 struct Report {
     std::string caption = "Duplicate Check";
     ReportItems items;
     bool canPrintAndSave = true;
+    std::function<ReportPlace(std::size_t)> placeOf = {}; // empty where no line names one
+
+    [[nodiscard]] ReportPlace PlaceOf(std::size_t line) const { return placeOf ? placeOf(line) : ReportPlace{}; }
 };
 
 } // namespace CommonRoutines

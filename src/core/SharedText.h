@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/AnsiString.h"
 #include "core/SeededHash.h"
 
 #include <memory>
@@ -13,14 +14,14 @@ namespace CommonRoutines {
 class SharedText {
 public:
     SharedText() = default;
-    explicit SharedText(std::string_view text) : m_text(std::make_shared<const std::string>(text)) {}
+    explicit SharedText(std::string_view text) : m_text(std::make_shared<const Ansi::String>(text)) {}
 
-    operator std::string_view() const { return m_text ? std::string_view(*m_text) : std::string_view(); }
+    operator std::string_view() const { return m_text ? m_text->View() : std::string_view(); }
     friend std::string operator+(std::string a, const SharedText& b) { return a.append(std::string_view(b)); }
     friend bool operator==(const SharedText& a, std::string_view b) { return std::string_view(a) == b; }
 
 private:
-    std::shared_ptr<const std::string> m_text;
+    std::shared_ptr<const Ansi::String> m_text;
 };
 
 // Makes equal texts one.

@@ -2,8 +2,12 @@
 
 namespace CommonRoutines {
 
+// Behind what they are parts of, so that they go first.
+std::string sTableContent;
+SlotPool TableSlots;
 std::vector<DistrictRecord> Districts;
 std::int32_t lTableNumber = 0;
+std::int32_t lTextChanges = 0;
 std::int32_t lLineCount = 0;
 std::string sDataFileName;
 Encoding eFileEncoding = Encoding::Windows1252;
@@ -45,7 +49,10 @@ bool IsDistrict(std::int32_t lDistrict) {
 
 void ResetState() {
     Districts.clear();
+    TableSlots = {};
+    sTableContent = std::string();
     ++lTableNumber;
+    lTextChanges = 0;
     lLineCount = 0;
     sDataFileName.clear();
     eFileEncoding = eEncodingOnDisk = Encoding::Windows1252;

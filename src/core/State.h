@@ -17,8 +17,17 @@ namespace CommonRoutines {
 // FindDuplicateVariations and ListVariations. Everything reads them, through RecordOf.
 extern std::vector<DistrictRecord> Districts;
 
+// What the records of a file that was read are parts of: its content, in the encoding of the texts, and the slots of
+// its districts. Both are filled by ReadDistrictFile and stay as long as the records.
+extern std::string sTableContent;
+extern SlotPool TableSlots;
+
 // Raised by ReadDistrictFile with every new table. By it rules/SpellingIndex knows that its index is of another one.
 extern std::int32_t lTableNumber;
+
+// Raised by edit/Variations with every change of a text. By both, commands/FindCommands knows its hits to be out of
+// date.
+extern std::int32_t lTextChanges;
 
 // Lines in use. Counted by ReadDistrictFile; dropped to 0 by the opening of a file (commands/FileCommands) that was
 // ended by Quit. Read by whatever goes through the table.

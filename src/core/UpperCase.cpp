@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cstring>
 #include <limits>
 
 namespace Ansi {
@@ -60,13 +59,25 @@ std::uint64_t Pack(std::string_view text, std::size_t from) {
 template <typename Change>
 std::uint64_t Hash(std::string_view text, Change change) {
     // Multiplying by the golden ratio, as in Knuth, The Art of Computer Programming 3, 6.4, spreads the
-    // bits upwards; the rotation brings the upper ones back into play.
+    // bits upwards; the rotation brings the upper ones back into play, before they are spread again.
     constexpr std::uint64_t goldenRatio = 0x9E3779B97F4A7C15;
     constexpr int half = 32;
     std::uint64_t hash = text.size();
-    for (std::size_t from = 0; from < text.size(); from += WordLength) {
-        hash = std::rotl((hash ^ change(Pack(text, from))) * goldenRatio, half);
+    const auto take = [&](const char* from, std::size_t size) {
+        std::array<char, WordLength> bytes{};
+        std::copy_n(from, size, bytes.begin());
+        const auto word = std::bit_cast<std::uint64_t>(bytes);
+        hash = std::rotl(hash ^ (change(word) * goldenRatio), half) * goldenRatio;
+    };
+    if (text.size() < WordLength) {
+        take(text.data(), text.size());
+        return hash;
     }
+    const char* end = text.data() + text.size() - WordLength;
+    for (const char* from = text.data(); from < end; from += WordLength) {
+        take(from, WordLength);
+    }
+    take(end, WordLength); // perhaps with bytes that were taken before
     return hash;
 }
 

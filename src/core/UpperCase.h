@@ -56,30 +56,54 @@ private:
 };
 
 // Sorts items by the upper-case forms of their texts, equal forms in the order in which they came.
-template <typename Item, typename TextOf>
-void SortByUpperCase(std::vector<Item>& items, TextOf textOf) {
+template <typename Item>
+class UpperCaseOrder {
+public:
+    void Reserve(std::size_t count) {
+        m_items.reserve(count);
+        m_keys.reserve(count);
+    }
+    // One more item. Its text is looked at here, and by Sorted only where it begins like another one.
+    void Add(const Item& item, std::string_view text) {
+        m_keys.push_back({UpperPrefix(text), static_cast<std::uint32_t>(m_items.size())});
+        m_items.push_back(item);
+    }
+    // All items in their order; `textOf` has their texts.
+    template <typename TextOf>
+    [[nodiscard]] std::vector<Item> Sorted(TextOf textOf) && {
+        std::sort(m_keys.begin(), m_keys.end(), [&](const Key& a, const Key& b) {
+            auto order = a.text <=> b.text;
+            if (order == 0 && !a.text.IsWhole()) {
+                order = CompareUpper(textOf(m_items[a.place]), textOf(m_items[b.place]));
+            }
+            return order != 0 ? order < 0 : a.place < b.place;
+        });
+        std::vector<Item> sorted;
+        sorted.reserve(m_items.size());
+        for (const Key& key : m_keys) {
+            sorted.push_back(m_items[key.place]);
+        }
+        return sorted;
+    }
+
+private:
     struct Key {
         UpperPrefix text;
-        std::uint32_t place = 0;
+        std::uint32_t place = 0; // in m_items
     };
-    std::vector<Key> keys;
-    keys.reserve(items.size());
+    std::vector<Item> m_items;
+    std::vector<Key> m_keys;
+};
+
+// The same for a list that is there already.
+template <typename Item, typename TextOf>
+void SortByUpperCase(std::vector<Item>& items, TextOf textOf) {
+    UpperCaseOrder<Item> order;
+    order.Reserve(items.size());
     for (const Item& item : items) {
-        keys.push_back({UpperPrefix(textOf(item)), static_cast<std::uint32_t>(keys.size())});
+        order.Add(item, textOf(item));
     }
-    std::sort(keys.begin(), keys.end(), [&](const Key& a, const Key& b) {
-        auto order = a.text <=> b.text;
-        if (order == 0 && !a.text.IsWhole()) {
-            order = CompareUpper(textOf(items[a.place]), textOf(items[b.place]));
-        }
-        return order != 0 ? order < 0 : a.place < b.place;
-    });
-    std::vector<Item> sorted;
-    sorted.reserve(items.size());
-    for (const Key& key : keys) {
-        sorted.push_back(items[key.place]);
-    }
-    items = std::move(sorted);
+    items = std::move(order).Sorted(textOf);
 }
 
 } // namespace Ansi

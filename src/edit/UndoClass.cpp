@@ -13,7 +13,7 @@ constexpr std::size_t InitialItems = 100;
 constexpr std::size_t ItemStep = 50;
 
 std::string NameOfDistrict(std::int32_t district) {
-    return IsDistrict(district) ? RecordOf(district).Name : std::string();
+    return std::string(IsDistrict(district) ? RecordOf(district).Name() : std::string_view());
 }
 
 } // namespace

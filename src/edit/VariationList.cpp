@@ -4,6 +4,7 @@
 #include "core/UpperCase.h"
 #include "edit/Variations.h"
 #include "rules/Capitals.h"
+#include "rules/OrdinaryText.h"
 #include "rules/Validation.h"
 
 namespace CommonRoutines {
@@ -49,6 +50,9 @@ std::string ReasonOf(VariationState state, std::int32_t lDistrict, const Variati
 }
 
 VariationState StateOfVariation(const VariationRecord& variation) {
+    if (IsOrdinary(variation.Text)) {
+        return variation.bDuplicate ? VariationState::Duplicate : VariationState::Plain;
+    }
     const Verdict verdict = CheckVariation(variation.Text);
     if (!verdict.IsValid()) {
         return VariationState::Invalid;

@@ -4,15 +4,17 @@
 #include "recovery/UnsavedChanges.h"
 #include "rules/SpellingIndex.h"
 
+#include <utility>
+
 namespace CommonRoutines {
 
 namespace {
 
 void PutText(std::int32_t lDistrict, std::int32_t slot, std::string_view text) {
     Ansi::String& stored = VariationOf(lDistrict, slot).Text;
-    const Ansi::String before = stored;
-    stored = text;
+    const Ansi::String before = std::exchange(stored, Ansi::String(text));
     SpellingChanged(lDistrict, slot, before, stored);
+    ++lTextChanges;
 }
 
 // An empty slot behind the last one, which does not count yet.
@@ -20,7 +22,7 @@ std::int32_t NextSlot(std::int32_t lDistrict, std::size_t spare) {
     DistrictRecord& district = RecordOf(lDistrict);
     const std::int32_t slot = district.lVariationCount + 1;
     if (slot >= std::ssize(district.Variations)) {
-        district.Variations.resize(static_cast<std::size_t>(slot) + 1 + spare);
+        district.Variations.Grow(static_cast<std::size_t>(slot) + 1 + spare);
     }
     VariationOf(lDistrict, slot) = {}; // one left from before may hold anything
     return slot;

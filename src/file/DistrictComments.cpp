@@ -30,13 +30,6 @@ std::int32_t FirstCommentLine(std::int32_t lDistrict) {
     return line;
 }
 
-std::size_t FindMarker(std::string_view line) {
-    // The marker is ASCII, and no letter beyond has its capital there.
-    const auto sameLetter = [](char a, char b) { return Ansi::Upper(a) == b; };
-    const auto found = std::search(line.begin(), line.end(), CommentMarker.begin(), CommentMarker.end(), sameLetter);
-    return found == line.end() ? None : static_cast<std::size_t>(found - line.begin());
-}
-
 // Whether the width of the text passes a test that wider texts fail. Only as much of it is measured
 // as could pass, so that a comment of any length costs what is shown of it.
 template <typename Test>
@@ -67,7 +60,7 @@ std::size_t LastFittingBlank(std::string_view text, double room, const MeasureTe
 
 bool DistrictHasCommentType(std::int32_t lDistrict, std::string_view sType) {
     for (std::int32_t i = FirstCommentLine(lDistrict); i < lDistrict; ++i) {
-        const std::string_view line = RecordOf(i).Name;
+        const std::string_view line = RecordOf(i).Name();
         if (!Ansi::EqualIgnoringCase(line.substr(0, CommentMarker.size()), CommentMarker)) {
             continue;
         }
@@ -79,20 +72,28 @@ bool DistrictHasCommentType(std::int32_t lDistrict, std::string_view sType) {
     return false;
 }
 
+std::optional<std::string_view> CommentIn(std::string_view line) {
+    // The marker is ASCII, and no letter beyond has its capital there.
+    const auto sameLetter = [](char a, char b) { return Ansi::Upper(a) == b; };
+    const auto found = std::search(line.begin(), line.end(), CommentMarker.begin(), CommentMarker.end(), sameLetter);
+    if (found == line.end()) {
+        return std::nullopt;
+    }
+    return line.substr(static_cast<std::size_t>(found - line.begin()) + CommentMarker.size());
+}
+
 std::vector<CommentRow> CommentRows(std::int32_t lDistrict, double available, const MeasureText& measure) {
     std::vector<CommentRow> rows;
     if (!IsDistrict(lDistrict)) {
         return rows;
     }
     for (std::int32_t i = FirstCommentLine(lDistrict); i < lDistrict; ++i) {
-        const std::string_view line = RecordOf(i).Name;
-        const std::size_t marker = FindMarker(line);
-        if (marker == None) {
+        const auto rest = CommentIn(RecordOf(i).Name());
+        if (!rest) {
             continue;
         }
-        const std::string_view rest = line.substr(marker + CommentMarker.size());
-        const std::string_view type = Ansi::FirstWord(rest);
-        const std::string_view comment = rest.substr(std::min(type.size() + 1, rest.size()));
+        const std::string_view type = Ansi::FirstWord(*rest);
+        const std::string_view comment = rest->substr(std::min(type.size() + 1, rest->size()));
         rows.push_back({std::string(type), ""});
         // A comment that fills the room exactly still fits here; in a wrapped one it would not.
         if (rows.size() > MostWrappedRows ||

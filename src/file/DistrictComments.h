@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,9 @@ using MeasureText = std::function<double(std::string_view)>;
 
 // True when a comment line of the district begins with the marker and has the type `sType`, in any case.
 [[nodiscard]] bool DistrictHasCommentType(std::int32_t lDistrict, std::string_view sType);
+
+// What stands behind the marker in a comment line, its type and the comment; nothing for a line that is none.
+[[nodiscard]] std::optional<std::string_view> CommentIn(std::string_view line);
 
 // The rows for the comments of a district, in file order; `available` is the room for the comment
 // text, in the unit of `measure`. Here the marker may stand anywhere in a line. Empty for no district. Of

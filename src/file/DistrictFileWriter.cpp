@@ -8,6 +8,9 @@
 #include "recovery/UnsavedChanges.h"
 
 #include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
 
 namespace CommonRoutines {
 
@@ -15,6 +18,37 @@ namespace {
 
 constexpr std::string_view LineEnd = "\r\n";
 constexpr std::size_t MostTyped = 65536; // in most sessions
+
+// Texts put together. Those that stand in the content that was read as they are to be written, one behind the other,
+// are copied at once, which is nearly all of a file.
+class Joined {
+public:
+    // Growing step by step would touch twice the memory. What is not needed is never touched.
+    Joined() { m_joined.reserve(Unsaved.File().size + MostTyped); }
+
+    // A text that stays until the end; `isPart` says that it is a part of the content.
+    void Add(std::string_view separator, std::string_view text, bool isPart) {
+        const char* end = m_run.data() + m_run.size();
+        const bool goesOn = m_isPart && isPart && text.data() == end + separator.size() &&
+                            std::string_view(end, separator.size()) == separator;
+        if (goesOn) {
+            m_run = {m_run.data(), m_run.size() + separator.size() + text.size()};
+            return;
+        }
+        m_joined.append(m_run).append(separator);
+        m_run = text;
+        m_isPart = isPart && !text.empty();
+    }
+    [[nodiscard]] std::string Ended(std::string_view end) && {
+        m_joined.append(m_run).append(end);
+        return std::move(m_joined);
+    }
+
+private:
+    std::string m_joined;
+    std::string_view m_run; // not yet in it
+    bool m_isPart = false;  // of the content, so that more of it may follow
+};
 
 std::optional<std::string> ChooseTarget(Desktop& desktop) {
     FileRequest request;
@@ -100,22 +134,18 @@ void WriteTable(Desktop& desktop, const std::string& path, const std::string& co
 } // namespace
 
 std::string DistrictFileContent() {
-    std::string content;
-    // Growing step by step would touch twice the memory. What is not needed is never touched.
-    content.reserve(Unsaved.File().size + MostTyped);
+    Joined content;
     for (std::int32_t i = 1; i <= lLineCount; ++i) {
         const DistrictRecord& record = RecordOf(i);
-        content += record.HeaderText.View();
+        content.Add(i == 1 ? std::string_view() : LineEnd, record.HeaderText(), record.Line.IsPart());
         for (std::int32_t k = 1; k <= record.lVariationCount; ++k) {
             const VariationRecord& variation = record.Variations[static_cast<std::size_t>(k)];
             if (!variation.IsDeleted()) {
-                content += '|';
-                content += variation.Text.View();
+                content.Add("|", variation.Text, variation.Text.IsPart());
             }
         }
-        content += LineEnd;
     }
-    return content;
+    return std::move(content).Ended(lLineCount == 0 ? std::string_view() : LineEnd);
 }
 
 void SaveDistrictFile(Desktop& desktop) {

@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <optional>
+#include <utility>
 
 namespace CommonRoutines {
 
@@ -29,10 +30,10 @@ bool IsSpecialQuarter(std::int16_t quarter) {
 
 } // namespace
 
-HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size_t maxParts) {
+HeaderResult FillHeader(DistrictRecord& record, Ansi::String header, std::size_t maxParts) {
     static std::vector<std::string_view> parts; // kept for its memory
     // One too many is enough: of a line with a million of them no more is looked at.
-    Ansi::SplitInto(parts, text, '+', maxParts + 1);
+    Ansi::SplitInto(parts, header, '+', maxParts + 1);
     if (parts.size() < MinHeaderParts || parts.size() > maxParts) {
         return HeaderResult::WrongPartCount;
     }
@@ -43,28 +44,26 @@ HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size
     if (!founded || !quarterFounded || !abolished || !quarterAbolished) {
         return HeaderResult::NotANumber;
     }
-    record.Name = Ansi::Trim(parts[0]);
-    record.Volume = Ansi::Trim(parts[1]);
-    record.County = parts[2];
     record.Founded = *founded;
     record.QtrF = *quarterFounded;
     record.Abolished = *abolished;
     record.QtrA = *quarterAbolished;
-    record.HeaderText = text;
+    record.Line = std::move(header);
     return HeaderResult::Filled;
 }
 
 bool IsDistrictLine(std::string_view line) {
     DistrictRecord unused;
     const bool hasHeader = !line.starts_with('|');
-    return FillHeader(unused, hasHeader ? line.substr(0, line.find('|')) : line,
-                      hasHeader ? MaxDistrictParts : MaxPartsWithoutVariations) == HeaderResult::Filled;
+    const std::string_view header = hasHeader ? line.substr(0, line.find('|')) : line;
+    return FillHeader(unused, Ansi::String::PartOf(header), hasHeader ? MaxDistrictParts : MaxPartsWithoutVariations) ==
+           HeaderResult::Filled;
 }
 
 std::vector<std::string> QuarterComplaints(const DistrictRecord& record) {
     std::vector<std::string> complaints;
     const auto complain = [&](const std::string& about) {
-        complaints.push_back("District " + record.Name + " has " + about);
+        complaints.push_back("District " + std::string(record.Name()) + " has " + about);
     };
     const auto abolishedAndQuarter = [&] {
         return std::to_string(record.Abolished) + " with an invalid quarter=" + std::to_string(record.QtrA);
@@ -81,10 +80,9 @@ std::vector<std::string> QuarterComplaints(const DistrictRecord& record) {
     return complaints;
 }
 
-void Retain(DistrictRecord& record, std::string_view line) {
+void Retain(DistrictRecord& record, Ansi::String line) {
     record.bRetained = true;
-    record.Name = line;
-    record.HeaderText = line;
+    record.Line = std::move(line);
 }
 
 } // namespace CommonRoutines

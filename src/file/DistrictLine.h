@@ -11,10 +11,10 @@ namespace CommonRoutines {
 
 enum class HeaderResult { Filled, WrongPartCount, NotANumber };
 
-// Fills the header fields of a record from the "+"-separated header of a district. `text` must have 9 to
-// `maxParts` parts. Its years and quarters must be numbers of 16 bits: decimal digits, perhaps behind a minus
-// sign, with blanks around them or not. Otherwise nothing is filled.
-[[nodiscard]] HeaderResult FillHeader(DistrictRecord& record, std::string_view text, std::size_t maxParts);
+// Makes a record a district with a "+"-separated header. That must have 9 to `maxParts` parts. Its years and quarters
+// must be numbers of 16 bits: decimal digits, perhaps behind a minus sign, with blanks around them or not. Otherwise
+// nothing is filled.
+[[nodiscard]] HeaderResult FillHeader(DistrictRecord& record, Ansi::String header, std::size_t maxParts);
 
 // The most parts of the header of a district, and of one in a line that begins with "|".
 inline constexpr std::size_t MaxDistrictParts = 13;
@@ -28,6 +28,6 @@ inline constexpr std::size_t MaxPartsWithoutVariations = 11;
 [[nodiscard]] std::vector<std::string> QuarterComplaints(const DistrictRecord& record);
 
 // Makes a record a line that is only kept.
-void Retain(DistrictRecord& record, std::string_view line);
+void Retain(DistrictRecord& record, Ansi::String line);
 
 } // namespace CommonRoutines

@@ -13,13 +13,22 @@
 
 namespace CommonRoutines {
 
+namespace {
+
+// What counts of a name where two are compared, its case aside.
+std::string_view BaseName(std::string_view name) {
+    return Ansi::Trim(SplitMarkers(name).base);
+}
+
+} // namespace
+
 std::string DistrictCell(const DistrictRecord& record, std::size_t column, std::size_t longest) {
     const auto& field = DistrictColumnTable[column].field;
     if (const auto* number = std::get_if<std::int16_t DistrictRecord::*>(&field)) {
         return std::to_string(record.**number);
     }
-    const auto text = std::get<Ansi::String DistrictRecord::*>(field);
-    return std::string(Ansi::FirstCharacters((record.*text).View(), longest));
+    const auto text = std::get<std::string_view (DistrictRecord::*)() const>(field);
+    return std::string(Ansi::FirstCharacters((record.*text)(), longest));
 }
 
 bool DistrictHasProblem(const DistrictRecord& record) {
@@ -40,16 +49,26 @@ std::string ProblemsOf(const DistrictRecord& record) {
     return problems;
 }
 
-std::vector<std::int32_t> DistrictsByName() {
-    std::vector<std::int32_t> districts;
-    districts.reserve(static_cast<std::size_t>(lDistrictTotal));
-    for (std::int32_t i = 1; i <= lLineCount; ++i) {
-        if (IsDistrict(i)) {
-            districts.push_back(i);
+std::vector<NamedDistrict> DistrictsByName(const std::function<void(std::int32_t line)>& visit) {
+    Ansi::UpperCaseOrder<NamedDistrict> order;
+    order.Reserve(static_cast<std::size_t>(lDistrictTotal));
+    for (std::int32_t line = 1; line <= lLineCount; ++line) {
+        visit(line);
+        if (IsDistrict(line)) {
+            const std::string_view name = RecordOf(line).Name();
+            order.Add({line, static_cast<std::uint32_t>(Ansi::HashUpper(BaseName(name)))}, name);
         }
     }
-    Ansi::SortByUpperCase(districts, [](std::int32_t i) -> std::string_view { return RecordOf(i).Name; });
-    return districts;
+    return std::move(order).Sorted([](const NamedDistrict& district) { return RecordOf(district.line).Name(); });
+}
+
+std::vector<std::int32_t> LinesOf(std::span<const NamedDistrict> districts) {
+    std::vector<std::int32_t> lines;
+    lines.reserve(districts.size());
+    for (const NamedDistrict& district : districts) {
+        lines.push_back(district.line);
+    }
+    return lines;
 }
 
 std::vector<std::int32_t> DistrictsOfType(std::span<const std::int32_t> districts, std::string_view type) {
@@ -60,23 +79,14 @@ std::vector<std::int32_t> DistrictsOfType(std::span<const std::int32_t> district
     return chosen;
 }
 
-void ReportDuplicatedDistricts(std::span<const std::int32_t> districts, Desktop& desktop) {
-    const auto baseName = [](std::int32_t district) { return Ansi::Trim(SplitMarkers(RecordOf(district).Name).base); };
-    // Hashes are made line by line, as the records lie in memory; in the order of the list, only the
-    // records of neighbours with equal ones need to be visited.
-    std::vector<std::uint64_t> hashes(static_cast<std::size_t>(lLineCount) + 1);
-    for (std::int32_t line = 1; line <= lLineCount; ++line) {
-        if (IsDistrict(line)) {
-            hashes[static_cast<std::size_t>(line)] = Ansi::HashUpper(baseName(line));
-        }
-    }
-    const auto hashAt = [&](std::size_t row) { return hashes[static_cast<std::size_t>(districts[row])]; };
+void ReportDuplicatedDistricts(std::span<const NamedDistrict> districts, Desktop& desktop) {
     for (std::size_t row = 1; row < districts.size(); ++row) {
-        if (hashAt(row - 1) != hashAt(row)) {
+        // In the order of names, each look at a record is one at another place of the memory.
+        if (districts[row - 1].name != districts[row].name) {
             continue;
         }
-        const std::string_view name = baseName(districts[row - 1]);
-        if (!Ansi::EqualIgnoringCase(name, baseName(districts[row]))) {
+        const std::string_view name = BaseName(RecordOf(districts[row - 1].line).Name());
+        if (!Ansi::EqualIgnoringCase(name, BaseName(RecordOf(districts[row].line).Name()))) {
             continue;
         }
         const std::string text = "District " + std::string(name) + " is duplicated in that file";

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -17,7 +18,7 @@ class Desktop;
 // A column of the districts list.
 struct DistrictColumn {
     std::string_view heading;
-    std::variant<Ansi::String DistrictRecord::*, std::int16_t DistrictRecord::*> field;
+    std::variant<std::string_view (DistrictRecord::*)() const, std::int16_t DistrictRecord::*> field;
     std::string_view padding; // how much wider than its widest cell the column is
 };
 
@@ -43,9 +44,18 @@ inline constexpr auto DistrictColumnTable = std::to_array<DistrictColumn>({
 // count for it.
 [[nodiscard]] std::string ProblemsOf(const DistrictRecord& record);
 
-// The indices of all districts of the table, by upper-cased name in the order of the character
-// codes, equal names in file order.
-[[nodiscard]] std::vector<std::int32_t> DistrictsByName();
+// A district in the order of names, and a part of a hash of its name without markers and case.
+struct NamedDistrict {
+    std::int32_t line = 0;
+    std::uint32_t name = 0;
+};
+
+// All districts of the table, by upper-cased name in the order of the character codes, equal names in file order.
+// `visit` is called for each line once, in file order: of a large file, a look at its lines is what takes time.
+[[nodiscard]] std::vector<NamedDistrict> DistrictsByName(const std::function<void(std::int32_t line)>& visit =
+                                                             [](std::int32_t) {});
+// Their lines.
+[[nodiscard]] std::vector<std::int32_t> LinesOf(std::span<const NamedDistrict> districts);
 
 // Those of `districts` that have a comment of the type; the type "All", in any case and with blanks
 // around it or not, stands for every district.
@@ -53,6 +63,6 @@ inline constexpr auto DistrictColumnTable = std::to_array<DistrictColumn>({
 
 // Says which neighbours of the sorted list have the same name, markers and case aside, until the
 // user presses Cancel.
-void ReportDuplicatedDistricts(std::span<const std::int32_t> districts, Desktop& desktop);
+void ReportDuplicatedDistricts(std::span<const NamedDistrict> districts, Desktop& desktop);
 
 } // namespace CommonRoutines

@@ -10,7 +10,7 @@ namespace CommonRoutines {
 
 SlotNumbers::SlotNumbers(const DistrictRecord& saved) {
     const auto count = static_cast<std::size_t>(saved.lVariationCount);
-    const bool isHeader = saved.HeaderText.View().starts_with('|'); // all of such a line is read as its header
+    const bool isHeader = saved.HeaderText().starts_with('|'); // all of such a line is read as its header
     for (std::size_t slot = 0; slot <= count; ++slot) {
         const bool isSaved = slot > 0 && !isHeader && !saved.Variations[slot].IsDeleted();
         if (isSaved) {

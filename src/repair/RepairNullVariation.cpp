@@ -16,7 +16,7 @@ NullVariation LookAround(const DistrictRecord& district, const std::vector<std::
                          std::int32_t position) {
     const auto at = [&](std::int32_t i) -> const std::string& { return variations[static_cast<std::size_t>(i)]; };
     NullVariation found;
-    found.districtName = district.Name;
+    found.districtName = district.Name();
     found.index = index;
     found.last = static_cast<std::int32_t>(std::ssize(variations)) - 1;
     found.current = at(index);

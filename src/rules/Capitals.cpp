@@ -43,14 +43,12 @@ void AddLowerCaseWord(std::string_view word, Encoding encoding) {
     List.lookup.insert(added);
 }
 
-// What a character means to the check. A closing parenthesis is no separator: it stays at the end of
-// its word, where it does no harm.
+// What a character means to the check.
 enum CharacterKind : std::uint8_t {
     KindOther = 0,
     KindSeparator = 1,
     KindCapital = 2,
     KindSmall = 4,
-    KindBracket = 8, // opens a group
 };
 
 constexpr std::array<std::uint8_t, 256> KindTable = [] {
@@ -59,10 +57,9 @@ constexpr std::array<std::uint8_t, 256> KindTable = [] {
         const char c = static_cast<char>(code);
         table[code] = Ansi::Lower(c) != c ? KindCapital : Ansi::Upper(c) != c ? KindSmall : KindOther;
     }
-    for (const char c : std::string_view("\t -.,(/'")) {
+    for (const char c : WordSeparators) {
         table[static_cast<unsigned char>(c)] = KindSeparator;
     }
-    table['['] = KindBracket;
     return table;
 }();
 
@@ -95,18 +92,6 @@ void ForEachKind(std::string_view text, Take take) {
     for (const char c : text) {
         take(KindOf(c));
     }
-}
-
-// Whether every word has the usual form, in one pass: a capital (or anything else that is no small
-// letter) at its beginning and none behind. False also where a closer look is needed.
-bool LooksUsual(std::string_view name) {
-    unsigned before = KindSeparator;
-    unsigned offending = KindOther;
-    ForEachKind(name, [&](unsigned kind) {
-        offending |= kind & (before == KindSeparator ? KindSmall | KindBracket : +KindCapital);
-        before = kind;
-    });
-    return offending == KindOther;
 }
 
 bool Holds(std::string_view text, CharacterKind kind) {
@@ -149,9 +134,6 @@ bool BaseIsUnusual(std::string_view base) {
     std::string_view name = Ansi::Trim(base);
     while (name.starts_with('!') || name.starts_with('%')) {
         name.remove_prefix(1);
-    }
-    if (LooksUsual(name)) {
-        return false;
     }
     for (auto from = name.begin(); from != name.end();) {
         const auto to = std::find_if(from, name.end(), [](char c) { return KindOf(c) == KindSeparator; });

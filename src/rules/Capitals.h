@@ -11,6 +11,10 @@
 
 namespace CommonRoutines {
 
+// What parts the words of a name. A closing parenthesis does not: it stays at the end of its word, where it does no
+// harm.
+inline constexpr std::string_view WordSeparators = "\t -.,(/'";
+
 class Desktop;
 
 // The words that need no capital, in small letters, in UTF-8 and in the order of their file.

@@ -66,7 +66,7 @@ void AddDupePair(std::string_view first, SharedText second) {
     if (place >= DupePairs.size()) {
         DupePairs.resize(place + DupePairStep + 1);
     }
-    DupePairs[place] = {first, std::move(second)};
+    DupePairs[place] = {Ansi::String(first), std::move(second)};
     ++lDupePairCount; // last, in case that there is not enough memory
 }
 
@@ -86,7 +86,7 @@ bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPa
     const auto markDuplicate = [&](const VariationKey& of, const VariationKey& partner) {
         VariationRecord& variation = district.Variations[static_cast<std::size_t>(of.lIndex)];
         variation.bDuplicate = true;
-        variation.lDuplicateOf = partner.lIndex;
+        variation.lDuplicateOf = partner.lIndex & VariationSlots::MostSlots; // which it never exceeds
     };
     for (std::size_t j = 1; j + 1 < keys.size(); ++j) {
         const VariationKey& key = keys[j];

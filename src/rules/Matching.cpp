@@ -28,6 +28,25 @@ bool LifetimesOverlap(const DistrictRecord& a, const DistrictRecord& b) {
     return true;
 }
 
+// Whether two spellings are the same as far as their districts do not matter.
+bool MayBeSame(const Spelling& a, const Spelling& b) {
+    if (a.IsDeleted() || b.IsDeleted()) {
+        return false;
+    }
+    if (!Ansi::EqualIgnoringCase(a.base, b.base)) {
+        return false;
+    }
+    if (a.suffix != b.suffix && !a.suffix.empty() && !b.suffix.empty()) {
+        return false;
+    }
+    return a.hasDate == b.hasDate;
+}
+
+// Whether two spellings of different districts name the same volume, where one of them names any.
+bool VolumesAgree(const Spelling& a, const Spelling& b) {
+    return (!a.hasVolume && !b.hasVolume) || a.suffix == b.suffix;
+}
+
 } // namespace
 
 Spelling::Spelling(std::string_view variation) {
@@ -43,24 +62,17 @@ bool Spelling::IsDeleted() const {
 }
 
 bool SameSpelling(const Spelling& a, const Spelling& b, std::int32_t districtA, std::int32_t districtB) {
-    if (a.IsDeleted() || b.IsDeleted()) {
-        return false;
-    }
-    if (!Ansi::EqualIgnoringCase(a.base, b.base)) {
-        return false;
-    }
-    const bool equalSuffixes = a.suffix == b.suffix;
-    if (!equalSuffixes && !a.suffix.empty() && !b.suffix.empty()) {
-        return false;
-    }
-    if (a.hasDate != b.hasDate) {
+    if (!MayBeSame(a, b)) {
         return false;
     }
     if (a.hasDate && !LifetimesOverlap(RecordOf(districtA), RecordOf(districtB))) {
         return false;
     }
-    const bool volumeMatters = (a.hasVolume || b.hasVolume) && districtA != districtB;
-    return !volumeMatters || equalSuffixes;
+    return districtA == districtB || VolumesAgree(a, b);
+}
+
+bool SameSpellingElsewhere(const Spelling& a, const Spelling& b) {
+    return MayBeSame(a, b) && VolumesAgree(a, b);
 }
 
 bool SameVariation(std::string_view a, std::string_view b, std::int32_t districtA, std::int32_t districtB) {
@@ -73,7 +85,7 @@ std::optional<std::int32_t> FindSpelling(std::int32_t lDistrict, std::string_vie
     if (const std::int32_t slot = SpellingsOf(lDistrict).Find(sought); slot > 0) {
         return slot;
     }
-    const Spelling name(RecordOf(lDistrict).Name);
+    const Spelling name(RecordOf(lDistrict).Name());
     return SameSpelling(sought, name, lDistrict, lDistrict) ? std::optional(NameSlot) : std::nullopt;
 }
 
@@ -83,8 +95,7 @@ std::optional<std::string_view> RepeatedText(std::int32_t lDistrict, std::string
         return std::nullopt;
     }
     const DistrictRecord& district = RecordOf(lDistrict);
-    return std::string_view(*slot == NameSlot ? district.Name
-                                              : district.Variations[static_cast<std::size_t>(*slot)].Text);
+    return *slot == NameSlot ? district.Name() : district.Variations[static_cast<std::size_t>(*slot)].Text.View();
 }
 
 bool FindVariationInDistrict(std::string_view v) {
@@ -94,7 +105,7 @@ bool FindVariationInDistrict(std::string_view v) {
         lFoundVariation = *slot;
     }
     // Past the variations, the name was the last text to be split.
-    StripMarkers(isVariation ? v : std::string_view(RecordOf(lCurrentDistrict).Name));
+    StripMarkers(isVariation ? v : RecordOf(lCurrentDistrict).Name());
     return slot.has_value();
 }
 

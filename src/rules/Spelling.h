@@ -22,4 +22,8 @@ struct Spelling {
 // SameVariation for two that have been taken apart already.
 [[nodiscard]] bool SameSpelling(const Spelling& a, const Spelling& b, std::int32_t districtA, std::int32_t districtB);
 
+// The same for two districts whose years overlap and which are not one, such as one in the table and one of which
+// nothing but a spelling is known.
+[[nodiscard]] bool SameSpellingElsewhere(const Spelling& a, const Spelling& b);
+
 } // namespace CommonRoutines

@@ -17,7 +17,16 @@ std::string_view VariationText(std::int32_t lDistrict, std::int32_t lIndex) {
     return RecordOf(lDistrict).Variations[static_cast<std::size_t>(lIndex)].Text;
 }
 
-// The text whose upper-case form a key stands for.
+// VariationKey::Text without copying a variation. `upper` is to hold the other texts.
+std::string_view TextOf(const VariationKey& key, std::string& upper) {
+    if (!key.bIsName()) {
+        return VariationText(key.lDistrict, key.lIndex);
+    }
+    upper = key.Text();
+    return upper;
+}
+
+// The text whose upper-case form is sorted by.
 std::string_view KeyText(const VariationKey& key) {
     return key.bIsName() ? key.DistrictName() : SplitMarkers(VariationText(key.lDistrict, key.lIndex)).base;
 }
@@ -42,7 +51,7 @@ std::string VariationKey::Text() const {
 }
 
 std::string_view VariationKey::DistrictName() const {
-    return RecordOf(lDistrict).Name;
+    return RecordOf(lDistrict).Name();
 }
 
 VariationKey KeyOfVariation(std::int32_t lDistrict, std::int32_t lIndex) {
@@ -50,23 +59,21 @@ VariationKey KeyOfVariation(std::int32_t lDistrict, std::int32_t lIndex) {
 }
 
 VariationKey KeyOfName(std::int32_t lDistrict) {
-    return {Ansi::UpperPrefix(RecordOf(lDistrict).Name), 0, lDistrict};
+    return {Ansi::UpperPrefix(RecordOf(lDistrict).Name()), 0, lDistrict};
 }
 
 bool KeyPrecedes(const VariationKey& a, const VariationKey& b) {
-    if (a.Key != b.Key || a.Key.IsWhole()) {
-        return a.Key < b.Key;
-    }
-    return Ansi::CompareUpper(KeyText(a), KeyText(b)) < 0;
+    const auto order = a.Key <=> b.Key;
+    return order < 0 || (order == 0 && !a.Key.IsWhole() && Ansi::CompareUpper(KeyText(a), KeyText(b)) < 0);
 }
 
 bool SameSpelling(const VariationKey& a, const VariationKey& b) {
     if (CannotBeSame(a, b)) {
         return false;
     }
-    const std::string textA = a.Text();
-    const std::string textB = b.Text();
-    return SameSpelling(Spelling(textA), Spelling(textB), a.lDistrict, b.lDistrict);
+    std::string upperA;
+    std::string upperB;
+    return SameSpelling(Spelling(TextOf(a, upperA)), Spelling(TextOf(b, upperB)), a.lDistrict, b.lDistrict);
 }
 
 void SortVariationKeys(std::vector<VariationKey>& Keys, std::int32_t lLow, std::int32_t lHigh) {
@@ -80,7 +87,9 @@ void SortVariationKeys(std::vector<VariationKey>& Keys, std::int32_t lLow, std::
     }
     const auto first = static_cast<std::size_t>(lLow);
     const auto count = static_cast<std::size_t>(lHigh - lLow) + 1;
-    MiddlePivotSort::Sort(std::span(Keys).subspan(first, count), KeyPrecedes,
+    // A function of its own for each comparison would take longer than the comparison.
+    const auto precedes = [](const VariationKey& a, const VariationKey& b) { return KeyPrecedes(a, b); };
+    MiddlePivotSort::Sort(std::span(Keys).subspan(first, count), precedes,
                           [&](std::size_t placed) { progress.Advance(placed); });
 }
 

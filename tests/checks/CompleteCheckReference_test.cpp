@@ -43,7 +43,7 @@ private:
     Entry& At(int index) { return m_entries[static_cast<std::size_t>(index)]; }
 
     void AddDistrictEntries(std::int32_t i) {
-        const std::string name = DistrictAt(i).Name;
+        const std::string name(DistrictAt(i).Name());
         m_entries.push_back({Ansi::Upper(name), Ansi::Upper(name), name, i});
         for (std::int32_t k = 1; k <= DistrictAt(i).lVariationCount; ++k) {
             const std::string text = VariationAt(i, k).Text;

@@ -1,4 +1,5 @@
 #include "commands/EditingRound.h"
+#include "edit/Variations.h"
 #include "file/DistrictFileWriter.h"
 
 using namespace CommonRoutines;
@@ -108,6 +109,45 @@ TEST_P(EditingModel, AnEditorThatDiesLosesNothing) {
         }
     }
     EXPECT_GT(saved, Rounds / 20);
+}
+
+// Records are values: what was copied of a table holds its texts, and can be edited, when the file has been given back.
+TEST_P(EditingModel, WhatWasCopiedOfATableOutlivesItsFile) {
+    for (std::uint32_t i = 0; i < Rounds / 5; ++i) {
+        const std::uint32_t seed = 300'000 + GetParam() + i;
+        ResetEverything();
+        CommandPlayer player;
+        EditingRound round(player, seed, i % 2 == 0);
+        ASSERT_TRUE(Run(round, seed));
+        const std::vector<Texts> before = EditingRound::SlotsInTable();
+        const std::string file = DistrictFileContent();
+        std::vector<DistrictRecord> copies = Districts;
+        const std::vector<DupePair> pairs = DupePairs;
+        const std::int32_t lineCount = lLineCount;
+        Texts pairTexts;
+        for (const DupePair& pair : pairs) {
+            pairTexts.push_back(pair.first + "=" + std::string(pair.second));
+        }
+
+        ResetEverything();
+        ScriptedDesktop desktop;
+        desktop.recordReports = true;
+        ReadText(desktop, "Other+1+Shire+1837+3+9999+0+A+B|Another|Others\r\n");
+
+        Districts = std::move(copies);
+        lLineCount = lineCount;
+        ASSERT_EQ(EditingRound::SlotsInTable(), before) << "seed " << seed;
+        ASSERT_EQ(DistrictFileContent(), file) << "seed " << seed;
+        for (std::size_t pair = 0; pair < pairs.size(); ++pair) {
+            ASSERT_EQ(pairs[pair].first + "=" + std::string(pairs[pair].second), pairTexts[pair]);
+        }
+        for (std::int32_t line = 1; line <= lLineCount; ++line) {
+            if (IsDistrict(line)) {
+                StoreText(line, AddSlot(line, "Added"), "Changed");
+                EXPECT_EQ(VariationAt(line, DistrictAt(line).lVariationCount).Text, "Changed");
+            }
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, EditingModel, testing::Values(1'000U, 2'000U, 3'000U));

@@ -160,7 +160,7 @@ public:
         const Commands::WindowView& view = View();
         ShownWindow shown;
         for (const std::int32_t district : *view.districts.rows) {
-            shown.districts.push_back(DistrictAt(district).Name);
+            shown.districts.emplace_back(DistrictAt(district).Name());
         }
         shown.chosenDistricts = view.districts.selected;
         for (const CommonRoutines::VariationRow& row : *view.variations.rows) {
@@ -179,7 +179,7 @@ public:
                         view.whyError.text,
                         view.whyError.warns ? "warns" : "",
                         std::to_string(static_cast<int>(view.whyError.ink)),
-                        view.applyTo > 0 ? std::string(DistrictAt(view.applyTo).Name) : "",
+                        view.applyTo > 0 ? std::string(std::string(DistrictAt(view.applyTo).Name())) : "",
                         std::string(view.shriekCaption),
                         std::string(view.dateCaption),
                         view.doing,

@@ -125,11 +125,11 @@ TEST_F(RecodingTest, SoDoesATextThatIsStillInTheBox) {
 
 TEST_F(RecodingTest, ANameThatBeginsWithTheBytesOfAMarkIsShownWithoutThem) {
     Open(" \xEF\xBB\xBF" + HeaderOf("Ash") + "|" + Dwr + "\r\n");
-    EXPECT_EQ(DistrictAt(1).Name, "\xEF\xBB\xBF"
-                                  "Ash");
+    EXPECT_EQ(DistrictAt(1).Name(), "\xEF\xBB\xBF"
+                                    "Ash");
     Save(BecomesMarked);
     EXPECT_EQ(eFileEncoding, Encoding::Utf8WithMark);
-    EXPECT_EQ(DistrictAt(1).Name, "Ash");
+    EXPECT_EQ(DistrictAt(1).Name(), "Ash");
     EXPECT_EQ(player.Shown().districts, Texts{"Ash"});
     EXPECT_EQ(lCurrentDistrict, 0);
 }

@@ -2,18 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <new>
 #include <sstream>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace {
 
-// Texts on both sides of the length up to which they stand in place.
 std::vector<std::string> Samples() {
-    std::vector<std::string> samples{"", "a", std::string("\0a\0", 3)};
-    for (const std::size_t length : {22U, 23U, 24U, 25U, 127U, 128U, 1000U}) {
-        samples.push_back(std::string(length - 1, 'x') + 'y');
-    }
-    return samples;
+    return {"", "a", std::string("\0a\0", 3), "Ashton-under-Lyne", std::string(1000, 'x') + 'y'};
 }
 
 TEST(AnsiString, HoldsItsText) {
@@ -53,7 +52,7 @@ TEST(AnsiString, MovingTakesTheTextAlong) {
         Ansi::String original{std::string_view(text)};
         Ansi::String moved = std::move(original);
         EXPECT_EQ(moved, text);
-        Ansi::String target = "what was there before, longer than stands in place";
+        Ansi::String target = "what was there before";
         target = std::move(moved);
         EXPECT_EQ(target, text);
     }
@@ -70,6 +69,46 @@ TEST(AnsiString, MayBeAssignedToItselfAndToAPartOfItself) {
             EXPECT_EQ(held, text.substr(1));
         }
     }
+}
+
+TEST(AnsiString, APartOfAContentIsNotCopied) {
+    const std::string content = "Ash|Elm";
+    const Ansi::String part = Ansi::String::PartOf(std::string_view(content).substr(4));
+    EXPECT_EQ(part, "Elm");
+    EXPECT_TRUE(part.IsPart());
+    EXPECT_EQ(part.View().data(), content.data() + 4);
+    EXPECT_FALSE(Ansi::String("Elm").IsPart());
+}
+
+TEST(AnsiString, ACopyOfAPartOutlivesTheContent) {
+    auto content = std::make_unique<std::string>("Ash|Elm");
+    Ansi::String part = Ansi::String::PartOf(*content);
+    const Ansi::String copy = part;
+    Ansi::String assigned;
+    assigned = part;
+    const Ansi::String moved = std::move(part);
+    EXPECT_EQ(moved.View().data(), content->data());
+    const std::string text = *content;
+    content.reset();
+    EXPECT_EQ(copy, text);
+    EXPECT_EQ(assigned, text);
+}
+
+TEST(AnsiString, APartThatIsChangedLeavesTheContentAsItIs) {
+    const std::string content = "Ash|Elm";
+    Ansi::String part = Ansi::String::PartOf(std::string_view(content).substr(0, 3));
+    part = "Oak";
+    EXPECT_EQ(part, "Oak");
+    EXPECT_FALSE(part.IsPart());
+    part = part.View().substr(1);
+    EXPECT_EQ(part, "ak");
+    EXPECT_EQ(content, "Ash|Elm");
+}
+
+TEST(AnsiString, ATextThatIsTooLongFindsNoMemory) {
+    const std::string_view tooLong("", Ansi::String::MostBytes + 1);
+    EXPECT_THROW(Ansi::String{tooLong}, std::bad_alloc);
+    EXPECT_THROW(static_cast<void>(Ansi::String::PartOf(tooLong)), std::bad_alloc);
 }
 
 TEST(AnsiString, BecomesAnOrdinaryStringWhenPutTogether) {

@@ -31,7 +31,10 @@ TEST(VariationRecord, StartsWithoutFindings) {
 TEST(DistrictRecord, StartsAsAnEmptyDistrict) {
     const DistrictRecord district;
     EXPECT_FALSE(district.bRetained);
-    EXPECT_EQ(district.Name + district.HeaderText + district.County + district.Volume, "");
+    EXPECT_EQ(district.HeaderText(), "");
+    EXPECT_EQ(district.Name(), "");
+    EXPECT_EQ(district.Volume(), "");
+    EXPECT_EQ(district.County(), "");
     EXPECT_EQ(district.Founded, 0);
     EXPECT_EQ(district.QtrF, 0);
     EXPECT_EQ(district.Abolished, 0);
@@ -46,7 +49,7 @@ TEST(DistrictRecord, StartsAsAnEmptyDistrict) {
 TEST(DistrictRecord, TakesItsExtraPartsFromTheHeader) {
     DistrictRecord district;
     EXPECT_EQ(district.Extra(1), "");
-    district.HeaderText = "Ash+1+Shire+1837+3+1900+4+a+ b ++d+e+f";
+    district.Line = "Ash+1+Shire+1837+3+1900+4+a+ b ++d+e+f";
     EXPECT_EQ(district.Extra(0), "");
     EXPECT_EQ(district.Extra(1), "a");
     EXPECT_EQ(district.Extra(2), " b ");
@@ -59,13 +62,13 @@ TEST(DistrictRecord, TakesItsExtraPartsFromTheHeader) {
 
 TEST(DistrictRecord, IsCopiedWithItsTexts) {
     DistrictRecord original;
-    original.Name = "Smithton";
-    original.Variations.resize(2);
+    original.Line = "Smithton";
+    original.Variations.Grow(2);
     original.Variations[1].Text = "Smithtown";
     DistrictRecord copy = original;
-    copy.Name = "Other";
+    copy.Line = "Other";
     copy.Variations[1].Text = "Other";
-    EXPECT_EQ(original.Name, "Smithton");
+    EXPECT_EQ(original.Name(), "Smithton");
     EXPECT_EQ(original.Variations[1].Text, "Smithtown");
 }
 

@@ -19,12 +19,6 @@ TEST_F(VariationsTest, TheFirstSlotWithATextIsFound) {
     EXPECT_EQ(FirstSlotWith(1, "El"), 0);
 }
 
-TEST_F(VariationsTest, ElementZeroIsNoSlot) {
-    Show("North", {"Ash", "Elm"});
-    VariationAt(1, 0).Text = "Elm";
-    EXPECT_EQ(FirstSlotWith(1, "Elm"), 2);
-}
-
 TEST_F(VariationsTest, SlotsBeyondTheCountAreNotFound) {
     Show("North");
     VariationAt(1, 1).Text = "Ash";

@@ -15,8 +15,8 @@ protected:
     // What a retained line must look like.
     static void ExpectRetained(std::int32_t line, const std::string& text) {
         EXPECT_TRUE(DistrictAt(line).bRetained) << line;
-        EXPECT_EQ(DistrictAt(line).Name, text);
-        EXPECT_EQ(DistrictAt(line).HeaderText, text);
+        EXPECT_EQ(DistrictAt(line).Name(), text);
+        EXPECT_EQ(DistrictAt(line).HeaderText(), text);
         EXPECT_EQ(DistrictAt(line).lVariationCount, 0);
     }
 
@@ -53,10 +53,10 @@ TEST_F(ReadLinesTest, ADistrictFillsItsRecord) {
     ASSERT_EQ(lLineCount, 1);
     const DistrictRecord& ash = DistrictAt(1);
     EXPECT_FALSE(ash.bRetained);
-    EXPECT_EQ(ash.Name, "Ash");
-    EXPECT_EQ(ash.HeaderText, "Ash + 12 + Shire +1837+3+1900+4+a+b+c");
-    EXPECT_EQ(ash.Volume, "12");
-    EXPECT_EQ(ash.County, " Shire ");
+    EXPECT_EQ(ash.Name(), "Ash");
+    EXPECT_EQ(ash.HeaderText(), "Ash + 12 + Shire +1837+3+1900+4+a+b+c");
+    EXPECT_EQ(ash.Volume(), "12");
+    EXPECT_EQ(ash.County(), " Shire ");
     EXPECT_EQ(ash.Abolished, 1900);
     EXPECT_EQ(ash.Extra(3), "c");
     EXPECT_EQ(ash.lVariationCount, 2);
@@ -143,8 +143,8 @@ TEST_F(ReadLinesTest, ALineThatBeginsWithABarBecomesADistrictWithTheBarInItsName
     Read("\n|A+1+B+1900+1+9999+0+x+y\n");
     const DistrictRecord& record = DistrictAt(2);
     EXPECT_FALSE(record.bRetained);
-    EXPECT_EQ(record.Name, "|A");
-    EXPECT_EQ(record.HeaderText, "|A+1+B+1900+1+9999+0+x+y");
+    EXPECT_EQ(record.Name(), "|A");
+    EXPECT_EQ(record.HeaderText(), "|A+1+B+1900+1+9999+0+x+y");
     EXPECT_EQ(record.Founded, 1900);
     EXPECT_EQ(record.lVariationCount, 0);
     ASSERT_EQ(record.Variations.size(), 2U);
@@ -166,8 +166,8 @@ TEST_F(ReadLinesTest, ARefusedLineThatBeginsWithABarLosesItsHeader) {
         m_desktop.ExpectBox(NotEditable, BoxIcon::Exclamation);
         Read(line);
         EXPECT_TRUE(DistrictAt(1).bRetained);
-        EXPECT_EQ(DistrictAt(1).Name, line);
-        EXPECT_EQ(DistrictAt(1).HeaderText, "");
+        EXPECT_EQ(DistrictAt(1).Name(), line);
+        EXPECT_EQ(DistrictAt(1).HeaderText(), "");
         m_desktop.CheckDone();
     }
 }
@@ -186,7 +186,7 @@ TEST_F(ReadLinesTest, QuarterProblemsAreShownInOrderAndChangeNothing) {
     Read("A+1+B+9999+0+9999+5+x+y|Foo\n B +1+B+1837+9+1900+8+x+y|Foo\n");
     EXPECT_EQ(lDistrictTotal, 2);
     EXPECT_EQ(DistrictAt(1).QtrA, 5);
-    EXPECT_EQ(DistrictAt(2).HeaderText, "B +1+B+1837+9+1900+8+x+y");
+    EXPECT_EQ(DistrictAt(2).HeaderText(), "B +1+B+1837+9+1900+8+x+y");
 }
 
 TEST_F(ReadLinesTest, TheTableGrowsByTenBeyondTheLineThatDoesNotFit) {
@@ -206,7 +206,7 @@ TEST_F(ReadLinesTest, TheTableGrowsByTenBeyondTheLineThatDoesNotFit) {
     ExpectRetained(1, "# 1");
     ExpectRetained(20, "# 20");
     ExpectRetained(21, "# 21");
-    EXPECT_EQ(DistrictAt(22).Name, "");
+    EXPECT_EQ(DistrictAt(22).Name(), "");
 }
 
 TEST_F(ReadLinesTest, ASecondReadStartsAfresh) {
@@ -217,7 +217,7 @@ TEST_F(ReadLinesTest, ASecondReadStartsAfresh) {
     Read("# only\n");
     EXPECT_EQ(lLineCount, 1);
     EXPECT_EQ(Districts.size(), 21U);
-    EXPECT_EQ(DistrictAt(2).Name, "");
+    EXPECT_EQ(DistrictAt(2).Name(), "");
     EXPECT_FALSE(bChanged);
     EXPECT_EQ(iRepairAction, NoRepair);
     EXPECT_EQ(lDistrictTotal, 0);
@@ -253,7 +253,10 @@ TEST_F(ReadLinesTest, TheBusyCursorShowsWhileQuestionsAreAskedAndIsGoneBeforeThe
             busyAtBox = busy;
             return BoxAnswer::Ok;
         }
-        void ShowReport(const Report&) override { busyAtReport = busy; }
+        std::optional<ReportPlace> ShowReport(const Report&) override {
+            busyAtReport = busy;
+            return std::nullopt;
+        }
         bool busyAtBox = false;
         bool busyAtReport = true;
     };
@@ -282,4 +285,17 @@ TEST_F(ReadLinesTest, NulBytesAndMarksOfOtherEncodingsAreCharactersOfTheirLine) 
     Read(first + "\n" + second);
     ExpectRetained(1, first);
     ExpectRetained(2, second);
+}
+
+TEST_F(ReadLinesTest, AMessageNamesItsDistrictAndACountNone) {
+    m_desktop.recordReports = true;
+    Read("# note\r\n" + HeaderOf("Ash") + "|ELM| \r\n# other note\r\n" + HeaderOf("Oak") + "|ELM|Elm|Ma_ge\r\n");
+    ASSERT_EQ(m_desktop.reports.size(), 1U);
+    const Report& report = m_desktop.reports.front();
+    ASSERT_EQ(report.items.size(), 5U);
+    EXPECT_EQ(report.PlaceOf(0), (ReportPlace{2, 0})) << report.items[0];
+    EXPECT_FALSE(report.PlaceOf(1).IsThere()) << report.items[1]; // of a comment
+    EXPECT_EQ(report.PlaceOf(2), (ReportPlace{4, 0})) << report.items[2];
+    EXPECT_FALSE(report.PlaceOf(3).IsThere()) << report.items[3];
+    EXPECT_FALSE(report.PlaceOf(4).IsThere()) << report.items[4];
 }

@@ -47,7 +47,6 @@ TEST_F(DistrictFileWriterTest, ADistrictWhoseVariationsAreAllDeletedIsItsHeaderA
 
 TEST_F(DistrictFileWriterTest, OnlyTheHeaderTextIsWrittenNeverTheFieldsReadFromIt) {
     AddDistrict("Ash");
-    DistrictAt(1).Name = "Other";
     DistrictAt(1).Founded = 1;
     EXPECT_EQ(DistrictFileContent(), "Ash+1+Shire+1837+3+9999+0+A+B\r\n");
 }

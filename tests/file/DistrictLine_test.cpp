@@ -32,7 +32,7 @@ HeaderResult FillNumbers(const std::string& number) {
 Texts Complaints(std::int16_t founded, std::int16_t quarterFounded, std::int16_t abolished,
                  std::int16_t quarterAbolished) {
     DistrictRecord record;
-    record.Name = "Ash";
+    record.Line = "Ash";
     record.Founded = founded;
     record.QtrF = quarterFounded;
     record.Abolished = abolished;
@@ -45,15 +45,15 @@ Texts Complaints(std::int16_t founded, std::int16_t quarterFounded, std::int16_t
 TEST(FillHeader, TakesEveryPartToItsField) {
     DistrictRecord record;
     ASSERT_EQ(FillHeader(record, " Ash + 12 + Shire +1837+3+1900+4+a+ b +c++e+f", Most), HeaderResult::Filled);
-    EXPECT_EQ(record.Name, "Ash");
-    EXPECT_EQ(record.Volume, "12");
-    EXPECT_EQ(record.County, " Shire ");
+    EXPECT_EQ(record.Name(), "Ash");
+    EXPECT_EQ(record.Volume(), "12");
+    EXPECT_EQ(record.County(), " Shire ");
     EXPECT_EQ(record.Founded, 1837);
     EXPECT_EQ(record.QtrF, 3);
     EXPECT_EQ(record.Abolished, 1900);
     EXPECT_EQ(record.QtrA, 4);
     EXPECT_EQ(ExtraOf(record), (Texts{"", "a", " b ", "c", "", "e", "f"}));
-    EXPECT_EQ(record.HeaderText, " Ash + 12 + Shire +1837+3+1900+4+a+ b +c++e+f");
+    EXPECT_EQ(record.HeaderText(), " Ash + 12 + Shire +1837+3+1900+4+a+ b +c++e+f");
     EXPECT_FALSE(record.bRetained);
 }
 
@@ -106,11 +106,10 @@ TEST(FillHeader, EachOfTheFourNumbersIsLookedAt) {
 
 TEST(FillHeader, ARefusedHeaderFillsNothing) {
     DistrictRecord record;
-    record.Name = "before";
+    record.Line = "before";
     EXPECT_EQ(FillHeader(record, "A+1+B+1+2+3+x+x+y", Most), HeaderResult::NotANumber);
     EXPECT_EQ(FillHeader(record, "A+1+B", Most), HeaderResult::WrongPartCount);
-    EXPECT_EQ(record.Name, "before");
-    EXPECT_EQ(record.HeaderText, "");
+    EXPECT_EQ(record.HeaderText(), "before");
     EXPECT_EQ(record.Founded, 0);
 }
 
@@ -152,7 +151,7 @@ TEST(Retain, KeepsTheLineAsItsNameAndItsHeader) {
     DistrictRecord record;
     Retain(record, "# a note|with a bar");
     EXPECT_TRUE(record.bRetained);
-    EXPECT_EQ(record.Name, "# a note|with a bar");
-    EXPECT_EQ(record.HeaderText, "# a note|with a bar");
+    EXPECT_EQ(record.Name(), "# a note|with a bar");
+    EXPECT_EQ(record.HeaderText(), "# a note|with a bar");
     EXPECT_EQ(record.lVariationCount, 0);
 }

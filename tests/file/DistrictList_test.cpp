@@ -26,9 +26,7 @@ protected:
 
 TEST_F(DistrictListTest, TheColumnsShowTheHeaderInItsOwnNumbers) {
     DistrictRecord record;
-    record.Name = "Ash";
-    record.Volume = "12";
-    record.County = " Shire ";
+    record.Line = "Ash+12+ Shire +";
     record.Founded = 1837;
     record.QtrF = -3;
     record.Abolished = 9999;
@@ -42,7 +40,7 @@ TEST_F(DistrictListTest, TheColumnsShowTheHeaderInItsOwnNumbers) {
 
 TEST_F(DistrictListTest, OfALongTextOnlyTheBeginningThatIsAskedForIsCopied) {
     DistrictRecord record;
-    record.Name = "Ashton-under-Lyne";
+    record.Line = "Ashton-under-Lyne";
     record.Founded = 1837;
     EXPECT_EQ(DistrictCell(record, 0, 6), "Ashton");
     EXPECT_EQ(DistrictCell(record, 0, 17), "Ashton-under-Lyne");
@@ -60,7 +58,7 @@ TEST_F(DistrictListTest, DistrictsAreSortedByUpperCasedNameAndCharacterCode) {
     AddDistrict("\xE9lm");   // 8, the same name as 4
     AddDistrict("!Yew");     // 9, markers count here
     AddDistrict("A_");       // 10, "_" is behind the capitals
-    EXPECT_EQ(DistrictsByName(), (Indices{9, 3, 6, 7, 10, 2, 5, 4, 8}));
+    EXPECT_EQ(LinesOf(DistrictsByName()), (Indices{9, 3, 6, 7, 10, 2, 5, 4, 8}));
 }
 
 TEST_F(DistrictListTest, EqualNamesKeepTheirOrderInTheFile) {
@@ -71,12 +69,21 @@ TEST_F(DistrictListTest, EqualNamesKeepTheirOrderInTheFile) {
     for (std::int32_t i = 1; i <= 40; ++i) {
         inOrder.push_back(i);
     }
-    EXPECT_EQ(DistrictsByName(), inOrder);
+    EXPECT_EQ(LinesOf(DistrictsByName()), inOrder);
+}
+
+TEST_F(DistrictListTest, EachLineIsVisitedOnceInTheOrderOfTheFile) {
+    AddDistrict("Yew");
+    AddRetained("# note");
+    AddDistrict("Ash");
+    Indices visited;
+    EXPECT_EQ(LinesOf(DistrictsByName([&](std::int32_t line) { visited.push_back(line); })), (Indices{3, 1}));
+    EXPECT_EQ(visited, (Indices{1, 2, 3}));
 }
 
 TEST_F(DistrictListTest, RetainedLinesAreNotListed) {
     AddRetained("# note");
-    EXPECT_EQ(DistrictsByName(), Indices{});
+    EXPECT_EQ(LinesOf(DistrictsByName()), Indices{});
 }
 
 TEST_F(DistrictListTest, ATypeChoosesTheDistrictsThatHaveAComment) {
@@ -137,7 +144,7 @@ TEST_F(DistrictListTest, OnlyNeighboursInTheListAreCompared) {
 }
 
 TEST_F(DistrictListTest, NamesThatOnlyShareAHashAreNotDuplicated) {
-    ASSERT_EQ(Ansi::HashUpper("ABERYSTWYTHWALES"), Ansi::HashUpper("SHQBRTXOWUFOOLEX"));
+    ASSERT_EQ(Ansi::HashUpper("ABERYSTWYTHWALES"), Ansi::HashUpper("AMSLKBCKVIBFFHUQ"));
     AddDistrict("Aberystwythwales");
     AddDistrict("Shqbrtxowufoolex");
     Report();

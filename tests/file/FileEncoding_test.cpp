@@ -59,7 +59,7 @@ protected:
 TEST_F(FileEncodingTest, AUtf8FileIsInMemoryAsOnTheDisk) {
     const std::string bytes = HeaderOf("Caf\xC3\xA9") + "|" + Dwr + "|!Elm\r\n# \xC3\x89lan \xF0\x9F\x98\x80\r\n";
     EXPECT_EQ(ReadAndSave(bytes), bytes);
-    EXPECT_EQ(DistrictAt(1).Name, "Caf\xC3\xA9");
+    EXPECT_EQ(DistrictAt(1).Name(), "Caf\xC3\xA9");
     EXPECT_EQ(VariationAt(1, 1).Text, Dwr);
     EXPECT_TRUE(TextsAreUtf8());
 }
@@ -67,7 +67,7 @@ TEST_F(FileEncodingTest, AUtf8FileIsInMemoryAsOnTheDisk) {
 TEST_F(FileEncodingTest, TheByteOrderMarkIsNoPartOfTheFirstNameAndComesBack) {
     const std::string bytes = Mark + HeaderOf("Ash") + "|Elm\r\n";
     EXPECT_EQ(ReadAndSave(bytes), bytes);
-    EXPECT_EQ(DistrictAt(1).Name, "Ash");
+    EXPECT_EQ(DistrictAt(1).Name(), "Ash");
 }
 
 TEST_F(FileEncodingTest, AWindows1252FileHasAByteForACharacter) {

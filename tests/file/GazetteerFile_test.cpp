@@ -28,7 +28,7 @@ protected:
         for (std::int32_t i = 1; i <= lLineCount; ++i) {
             const DistrictRecord& record = DistrictAt(i);
             if (record.iDuplicateCount > 0) {
-                items.push_back("District " + record.Name + " has duplicate variations.");
+                items.push_back("District " + std::string(record.Name()) + " has duplicate variations.");
             }
             warnings += record.lWarningCount;
             unusual += std::count_if(record.Variations.begin(), record.Variations.end(),

@@ -274,7 +274,7 @@ TEST_F(ReadRepairTest, QuitEndsTheReadingWithoutAReport) {
     ReadText(m_desktop, HeaderOf("Yew") + "|ELM|elm|\r\n" + HeaderOf("Ash") + "|ELM|!\r\n# end\r\nodd\r\n");
     EXPECT_EQ(iRepairAction, 5);
     EXPECT_EQ(lLineCount, 2);
-    EXPECT_EQ(DistrictAt(2).Name, "Ash");
+    EXPECT_EQ(DistrictAt(2).Name(), "Ash");
     EXPECT_EQ(DistrictAt(2).lInvalidCount, 1);
     EXPECT_EQ(lDistrictTotal, 2);
     EXPECT_EQ(lInvalidTotal, 1);

@@ -87,7 +87,7 @@ TEST_F(SlotNumbersTest, BeginAtOneInADistrictWithoutVariations) {
 
 TEST_F(SlotNumbersTest, BeginAtOneWhereTheWholeLineIsReadAsTheHeader) {
     const std::int32_t district = AddDistrict("North", {"Ash", "Elm"});
-    DistrictAt(district).HeaderText = "|North+1+Shire+1837+3+9999+0+A+B";
+    DistrictAt(district).Line = "|North+1+Shire+1837+3+9999+0+A+B";
     SlotNumbers numbers(DistrictAt(district));
     EXPECT_EQ(Place(numbers, 2), "1x1");
     EXPECT_EQ(Place(numbers, 1), "2x1 after 0");

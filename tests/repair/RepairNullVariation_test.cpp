@@ -22,7 +22,7 @@ protected:
     // Repairs one of the fields, the first of which stands for the header.
     bool Repair(Fields fields, std::int32_t index) {
         DistrictRecord district;
-        district.Name = "Ash";
+        district.Line = "Ash";
         district.lVariationCount = static_cast<std::int32_t>(std::ssize(fields)) - 1;
         m_fields = std::move(fields);
         return RepairNullVariation(district, m_fields, index, 7, m_desktop);
@@ -194,7 +194,7 @@ TEST_F(RepairNullVariationTest, ARemovedPreviousEntryIsNoNeighbour) {
 // Only the last entry that the district itself counts has no next one; the place is told by the fields.
 TEST_F(RepairNullVariationTest, TheNextEntryIsBoundedByTheDistrictsOwnCount) {
     DistrictRecord district;
-    district.Name = "Ash";
+    district.Line = "Ash";
     district.lVariationCount = 1;
     Fields fields{"header", "!", "Elm"};
     m_desktop.ExpectChoice("District Ash has a null variation.\r\n"

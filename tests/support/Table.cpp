@@ -30,15 +30,12 @@ void ResetEverything() {
 
 std::int32_t AddDistrict(const std::string& name, const std::vector<std::string>& variations) {
     DistrictRecord& record = AddLine();
-    record.Name = name;
-    record.HeaderText = name + "+1+Shire+1837+3+9999+0+A+B";
-    record.Volume = "1";
-    record.County = "Shire";
+    record.Line = name + "+1+Shire+1837+3+9999+0+A+B";
     record.Founded = 1837;
     record.QtrF = 3;
     record.Abolished = NoYear;
     record.lVariationCount = static_cast<std::int32_t>(std::ssize(variations));
-    record.Variations.resize(variations.empty() ? 2 : variations.size() + 1);
+    record.Variations.Grow(variations.empty() ? 2 : variations.size() + 1);
     for (std::size_t i = 0; i < variations.size(); ++i) {
         record.Variations[i + 1].Text = variations[i];
     }
@@ -48,8 +45,7 @@ std::int32_t AddDistrict(const std::string& name, const std::vector<std::string>
 std::int32_t AddRetained(const std::string& line) {
     DistrictRecord& record = AddLine();
     record.bRetained = true;
-    record.Name = line;
-    record.HeaderText = line;
+    record.Line = line;
     return lLineCount;
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <string>
 
 namespace Ui {
@@ -66,6 +67,7 @@ DistrictColumns::DistrictColumns(const QFont& font)
       m_pairAdvances(m_characterCount * m_characterCount, NotMeasured) {
     for (std::size_t column = 0; column < ColumnCount; ++column) {
         m_widths[column] = MeasureTextWidth(std::string(HeadingPadding).append(DistrictColumnTable[column].heading), 0);
+        m_paddingBounds[column] = UpperBound(DistrictColumnTable[column].padding);
     }
 }
 
@@ -75,7 +77,7 @@ int DistrictColumns::MeasureTextWidth(std::string_view text, int minimum) const 
 
 void DistrictColumns::AddDistrictRow(const DistrictRecord& record) {
     for (std::size_t column = 0; column < ColumnCount; ++column) {
-        std::visit([&](auto field) { Widen(column, record.*field); }, DistrictColumnTable[column].field);
+        std::visit([&](auto field) { Widen(column, std::invoke(field, record)); }, DistrictColumnTable[column].field);
     }
 }
 
@@ -93,7 +95,7 @@ void DistrictColumns::Widen(std::size_t column, std::string_view text) {
     const std::string_view padding = DistrictColumnTable[column].padding;
     text = Ansi::FirstCharacters(text, Text::LongestShown + 1); // enough to be cut off like the whole
     // Measuring a text is a hundred times as dear as adding up its letters, and hardly ever needed.
-    if (UpperBound(text) + UpperBound(padding) + Slack > m_widths[column] &&
+    if (UpperBound(text) + m_paddingBounds[column] + Slack > m_widths[column] &&
         m_measuredTexts[column].insert(std::string(text)).second) {
         m_widths[column] = MeasureTextWidth(std::string(text) + std::string(padding), m_widths[column]);
     }
@@ -110,6 +112,15 @@ double DistrictColumns::UpperBound(std::string_view text) {
 
 std::uint64_t DistrictColumns::SumOfAdvances(std::string_view text) const {
     std::uint64_t sum = 0;
+    if (Ansi::IsBytewise(text)) { // all of which may add up, as the most characters of a file do
+        std::size_t before = ' ';
+        for (const char c : text) {
+            const std::size_t code = static_cast<unsigned char>(c);
+            sum += m_pairAdvances[before * m_characterCount + code];
+            before = code;
+        }
+        return sum;
+    }
     ForEachPair(text, [&](char32_t before, char32_t code) {
         sum += MayAddUp(before, code) ? m_pairAdvances[PlaceOf(before, code)] : NotMeasured;
     });

@@ -47,6 +47,7 @@ private:
     QFontMetricsF m_metrics;
     std::size_t m_characterCount; // those whose advances are added up
     std::array<int, ColumnCount> m_widths{};
+    std::array<double, ColumnCount> m_paddingBounds{};
     std::vector<std::uint32_t> m_pairAdvances; // in parts of a pixel, by first and second character
     // What need not be looked at again: numbers, by their unsigned form, and the texts that were wide enough
     // to be measured.

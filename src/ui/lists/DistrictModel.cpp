@@ -85,7 +85,7 @@ QModelIndexList DistrictModel::match(const QModelIndex& start, int role, const Q
     }
     const std::string typed = Text::FromQt(value.toString());
     const auto beginning = [&, length = Ansi::CharacterCount(typed)](std::int32_t district) {
-        return Ansi::FirstCharacters(RecordOf(district).Name, length);
+        return Ansi::FirstCharacters(RecordOf(district).Name(), length);
     };
     const std::vector<std::int32_t>& all = m_districts.All();
     const auto first = std::partition_point(all.begin(), all.end(), [&](std::int32_t district) {

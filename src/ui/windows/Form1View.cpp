@@ -114,7 +114,7 @@ void Form1::ShowTexts(const Commands::WindowView& view) {
         m_controls.lbUndo->ShowText(Text::ForList(view.nextUndo));
     }
     if (view.applyTo != m_shown.applyTo) {
-        m_controls.lbApplyTo->ShowText(view.applyTo > 0 ? Text::ForList(RecordOf(view.applyTo).Name) : QString());
+        m_controls.lbApplyTo->ShowText(view.applyTo > 0 ? Text::ForList(RecordOf(view.applyTo).Name()) : QString());
     }
     if (view.selectCount != m_shown.selectCount) {
         m_controls.lbSelectCount->ShowText(Text::ToQt(view.selectCount));

@@ -63,7 +63,7 @@ void ExpectTypingFinds(const std::vector<std::string>& characters, const std::ve
             AddDistrict(name);
         }
         DistrictModel model;
-        model.Show(ListOf(DistrictsByName()), 0);
+        model.Show(ListOf(LinesOf(DistrictsByName())), 0);
         for (const char* typed : allTyped) {
             for (int row = 0; row < model.rowCount(); ++row) {
                 const auto start = model.index(row, 0);
@@ -222,7 +222,7 @@ TEST_F(ModelsTest, SoItDoesAmongNamesInUtf8) {
 
 TEST_F(ModelsTest, OtherSearchesAmongDistrictsAreThoseOfTheToolkit) {
     const std::int32_t alpha = AddDistrict("Alpha");
-    DistrictAt(alpha).County = "Kent";
+    DistrictAt(alpha).Line = "Alpha+1+Kent+";
     DistrictModel model;
     model.Show(ListOf<std::int32_t>({alpha}), 0);
     const auto beginning = Qt::MatchStartsWith | Qt::MatchWrap;

@@ -73,7 +73,7 @@ TEST_F(CommentFilterTest, TheCommentsStayClearedWhenTheWindowIsResized) {
 TEST_F(CommentFilterTest, ADistrictOfTheFilteredListCanBeChosen) {
     ClickRow("lbComments", QStringLiteral("SEAT"));
     ClickRow("lvAlpha", QStringLiteral("Gamma"));
-    EXPECT_EQ(Districts[static_cast<std::size_t>(lCurrentDistrict)].Name, "Gamma");
+    EXPECT_EQ(Districts[static_cast<std::size_t>(lCurrentDistrict)].Name(), "Gamma");
     EXPECT_EQ(Column("lvVariations").size(), 2);
     EXPECT_EQ(iEditMode, DistrictIdle);
 }

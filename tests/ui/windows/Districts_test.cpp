@@ -103,7 +103,7 @@ TEST_F(DistrictsTest, KeysChooseDistrictsAsClicksDo) {
     OpenFour();
     const auto expectChosen = [this](const char* name) {
         EXPECT_EQ(TextOf("lbApplyTo"), QString::fromLatin1(name));
-        EXPECT_EQ(Districts[static_cast<std::size_t>(lCurrentDistrict)].Name, name);
+        EXPECT_EQ(Districts[static_cast<std::size_t>(lCurrentDistrict)].Name(), name);
     };
     Key("lvAlpha", Qt::Key_Down); // the first key chooses the first row
     expectChosen("Alpha");

@@ -134,7 +134,7 @@ TEST_F(FormTest, ACancelledDialogueLeavesTheWindowResetAndTheTableInMemory) {
     EXPECT_EQ(lCurrentDistrict, 0);
     EXPECT_EQ(lEditIndex, 0);
     EXPECT_EQ(lLineCount, 2);
-    EXPECT_EQ(Districts[2].Name, "Alpha");
+    EXPECT_EQ(Districts[2].Name(), "Alpha");
     EXPECT_EQ(sDataFileName, "/data/districts.txt");
 }
 
