@@ -46,15 +46,28 @@ bool AddProposal(std::int32_t lDistrict, std::string_view proposal, bool asSpell
     return true;
 }
 
-// A line of the details. Behind the ignored proposals, the heading stands before every pair that was there already,
-// not once before them all.
-std::string DetailOf(std::size_t place, std::size_t ignored) {
+// The pair of a line of the details; none for a heading. Behind the ignored proposals, the heading stands before every
+// pair that was there already, not once before them all.
+const DupePair* PairOf(std::size_t place, std::size_t ignored) {
     const std::size_t behind = place < ignored ? 0 : place - ignored;
     if (place >= ignored && behind % 2 == 0) {
-        return "The following duplicates already existed in this district";
+        return nullptr;
     }
-    const DupePair& pair = DupePairs[(place < ignored ? place : ignored + behind / 2) + 1];
-    return "Variation " + pair.first + " duplicates " + pair.second;
+    return &DupePairs[(place < ignored ? place : ignored + behind / 2) + 1];
+}
+
+std::string DetailOf(const DupePair* pair) {
+    return pair == nullptr ? "The following duplicates already existed in this district"
+                           : "Variation " + pair->first + " duplicates " + pair->second;
+}
+
+// The variation that a pair begins with, or for an ignored proposal the one that it repeats. It is looked for again,
+// since a pair has only the texts.
+ReportPlace PlaceOf(const DupePair* pair) {
+    if (pair == nullptr || !IsDistrict(lCurrentDistrict)) {
+        return {};
+    }
+    return {lCurrentDistrict, FindSpelling(lCurrentDistrict, pair->first).value_or(0)};
 }
 
 } // namespace
@@ -97,8 +110,9 @@ void ReportAppliedProposals(const AppliedProposals& applied, Desktop& desktop) {
     }
     const auto ignored = static_cast<std::size_t>(applied.ignored);
     const std::size_t linesOfOwnPairs = 2 * (static_cast<std::size_t>(lDupePairCount) - ignored);
-    const auto line = [=](std::size_t place) { return DetailOf(place, ignored); };
-    desktop.ShowReport({"Details of Duplicates", {ignored + linesOfOwnPairs, line}, true});
+    const auto line = [=](std::size_t place) { return DetailOf(PairOf(place, ignored)); };
+    const auto placeOf = [=](std::size_t place) { return PlaceOf(PairOf(place, ignored)); };
+    desktop.ShowReport({"Details of Duplicates", {ignored + linesOfOwnPairs, line}, true, placeOf});
 }
 
 } // namespace CommonRoutines

@@ -67,10 +67,15 @@ Report CompleteVariationCheck(Desktop& desktop) {
         return {"Duplicate Check", {"No duplicates found"}};
     }
     const auto found = std::make_shared<const std::vector<std::array<VariationKey, 2>>>(std::move(equal));
-    return {"Duplicate Check", {found->size(), [found](std::size_t place) {
-                                    const auto& [key, next] = (*found)[place];
-                                    return Finding(key, next);
-                                }}};
+    const auto line = [found](std::size_t place) {
+        const auto& [key, next] = (*found)[place];
+        return Finding(key, next);
+    };
+    const auto placeOf = [found](std::size_t place) {
+        const VariationKey& key = (*found)[place].front();
+        return ReportPlace{key.lDistrict, key.lIndex};
+    };
+    return {"Duplicate Check", {found->size(), line}, true, placeOf};
 }
 
 } // namespace CommonRoutines

@@ -3,6 +3,7 @@
 #include "core/Desktop.h"
 
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace Commands {
@@ -24,7 +25,9 @@ public:
         return Presented().MyMsgBox(Prompt, Img, Title, ButtonCaptions);
     }
     std::optional<std::string> InputBox(std::string_view prompt) override { return Presented().InputBox(prompt); }
-    void ShowReport(const CommonRoutines::Report& report) override { Presented().ShowReport(report); }
+    std::optional<CommonRoutines::ReportPlace> ShowReport(const CommonRoutines::Report& report) override {
+        return m_wanted = Presented().ShowReport(report);
+    }
     std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& request) override {
         return Presented().ChooseFileToOpen(request);
     }
@@ -67,8 +70,14 @@ public:
     bool Print(const CommonRoutines::LineSource& lines) override { return m_machine.Print(lines); }
     std::string Today() override { return m_machine.Today(); }
     std::string ShortTime() override { return m_machine.ShortTime(); }
+    std::chrono::nanoseconds Uptime() override { return m_machine.Uptime(); }
     void Beep() override { m_machine.Beep(); }
     void ShowProgress(std::string_view doing, double part) override { m_machine.ShowProgress(doing, part); }
+
+    // Where the user wanted to go from the last report; told once.
+    [[nodiscard]] std::optional<CommonRoutines::ReportPlace> TakeWantedPlace() {
+        return std::exchange(m_wanted, std::nullopt);
+    }
 
 private:
     CommonRoutines::Desktop& Presented() {
@@ -78,6 +87,7 @@ private:
 
     CommonRoutines::Desktop& m_machine;
     std::function<void()> m_present;
+    std::optional<CommonRoutines::ReportPlace> m_wanted;
 };
 
 } // namespace Commands

@@ -9,6 +9,7 @@
 #include "core/StateFolder.h"
 #include "core/Wording.h"
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -58,8 +59,8 @@ public:
                                  std::span<const std::string> ButtonCaptions) = 0;
     // The text typed; nothing when the box was cancelled.
     virtual std::optional<std::string> InputBox(std::string_view prompt) = 0;
-    // Shows a report window and returns when it is closed.
-    virtual void ShowReport(const Report& report) = 0;
+    // Shows a report window until it is closed. The place of a line that the user wants to go to, if any.
+    virtual std::optional<ReportPlace> ShowReport(const Report& report) = 0;
 
     // The full path chosen; nothing when the dialogue was cancelled. For saving, read-only files are
     // refused, and names of files that could not be made.
@@ -108,8 +109,9 @@ public:
     // Prints on the default printer. False when there is no printer or it did not take the job.
     virtual bool Print(const LineSource& lines) = 0;
 
-    virtual std::string Today() = 0;     // as "05 Mar 2026"
-    virtual std::string ShortTime() = 0; // hours and minutes, as the user's country writes them
+    virtual std::string Today() = 0;               // as "05 Mar 2026"
+    virtual std::string ShortTime() = 0;           // hours and minutes, as the user's country writes them
+    virtual std::chrono::nanoseconds Uptime() = 0; // since some moment; it never goes back
     virtual void Beep() = 0;
     // Work that may take long begins or ends.
     virtual void ShowBusy(bool busy) = 0;

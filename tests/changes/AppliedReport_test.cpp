@@ -87,3 +87,20 @@ TEST_F(AppliedReportTest, AnIgnoredNameIsListedWithTheName) {
                  {"Variation !alpha duplicates Alpha"});
     ReportAppliedProposals(applied, desktop);
 }
+
+TEST_F(AppliedReportTest, ALineNamesTheVariationThatIsRepeatedAndAHeadingNone) {
+    Choose("Alpha", {"Elm", "ELM", "Oak"});
+    desktop.recordReports = true;
+    const AppliedProposals applied = Apply({Valid("oak"), Valid("!alpha")});
+    desktop.ExpectBox("0 New variations added.\r\n3 lines ignored which duplicate existing variations.",
+                      BoxIcon::Information);
+    ReportAppliedProposals(applied, desktop);
+    ASSERT_EQ(desktop.reports.size(), 1U);
+    const Report& report = desktop.reports.front();
+    ASSERT_EQ(report.items.All(), (Texts{"Variation oak duplicates Oak", "Variation !alpha duplicates Alpha",
+                                         OwnHeading, "Variation ELM duplicates Elm"}));
+    EXPECT_EQ(report.PlaceOf(0), (ReportPlace{lCurrentDistrict, 3}));
+    EXPECT_EQ(report.PlaceOf(1), (ReportPlace{lCurrentDistrict, 0}));
+    EXPECT_FALSE(report.PlaceOf(2).IsThere());
+    EXPECT_EQ(report.PlaceOf(3), (ReportPlace{lCurrentDistrict, 1}));
+}

@@ -200,3 +200,27 @@ TEST_F(CompleteCheckTest, TheDesktopIsBusyMeanwhileAndToldHowFarItIs) {
     EXPECT_GT(desktop.part, 0.9); // the last spelling has none behind it
     EXPECT_FALSE(desktop.busy);
 }
+
+TEST_F(CompleteCheckTest, ALineNamesTheDistrictAndTheSlotThatItBeginsWith) {
+    AddRetained("# note");
+    const std::int32_t alpha = AddDistrict("Alpha", {"Ash", "Elm", "ash"});
+    const std::int32_t beta = AddDistrict("Beta", {"Oak", "ELM"});
+    const Report report = CompleteVariationCheck(desktop);
+    ASSERT_EQ(report.items.All(),
+              (Texts{"Alpha contains a duplicate variation - ash", "Beta and Alpha both use the variation ELM"}));
+    EXPECT_EQ(report.PlaceOf(0), (ReportPlace{alpha, 3}));
+    EXPECT_EQ(report.PlaceOf(1), (ReportPlace{beta, 2}));
+}
+
+TEST_F(CompleteCheckTest, ANameIsThePlaceOfItsDistrict) {
+    AddDistrict("Alpha", {"Ash", "Beta"});
+    const std::int32_t beta = AddDistrict("Beta", {"Oak"});
+    const Report report = CompleteVariationCheck(desktop);
+    ASSERT_EQ(report.items.All(), Texts{"Beta and Alpha both use the variation BETA"});
+    EXPECT_EQ(report.PlaceOf(0), (ReportPlace{beta, 0}));
+}
+
+TEST_F(CompleteCheckTest, NothingFoundNamesNoPlace) {
+    AddDistrict("Alpha");
+    EXPECT_FALSE(CompleteVariationCheck(desktop).placeOf);
+}

@@ -21,12 +21,13 @@ constexpr std::size_t Count = 40'000;
 // Takes a report as its window and a printer do, a line at a time.
 class TakingDesktop : public QuietDesktop {
 public:
-    void ShowReport(const Report& report) override {
+    std::optional<ReportPlace> ShowReport(const Report& report) override {
         lines = report.items.size();
         first = report.items[0];
         last = report.items[lines - 1];
         PrintReport(report, "/data/north.txt", *this);
         SaveReport(report, "/data/north.txt", *this);
+        return std::nullopt;
     }
     std::optional<std::string> ChooseFileToSave(const FileRequest& /*request*/) override { return "/data/list.txt"; }
     bool PutTogether(const PieceSource& pieces, const std::function<bool(std::string_view)>& /*use*/) override {

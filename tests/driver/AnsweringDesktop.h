@@ -37,10 +37,11 @@ public:
         Tell(prompt);
         return std::nullopt;
     }
-    void ShowReport(const CommonRoutines::Report& report) override {
+    std::optional<CommonRoutines::ReportPlace> ShowReport(const CommonRoutines::Report& report) override {
         if (onReport) {
             onReport(report);
         }
+        return std::nullopt;
     }
     std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& /*request*/) override {
         return fileToOpen;

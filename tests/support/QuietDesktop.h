@@ -13,6 +13,7 @@
 class QuietDesktop : public CommonRoutines::Desktop {
 public:
     MemoryStateFolder state;
+    std::chrono::nanoseconds uptime{0};
 
     CommonRoutines::BoxAnswer MsgBox(const CommonRoutines::Wording& /*text*/, CommonRoutines::BoxIcon /*icon*/,
                                      CommonRoutines::BoxButtons buttons) override {
@@ -24,7 +25,9 @@ public:
         return ButtonCaptions.front();
     }
     std::optional<std::string> InputBox(std::string_view /*prompt*/) override { return std::nullopt; }
-    void ShowReport(const CommonRoutines::Report& /*report*/) override {}
+    std::optional<CommonRoutines::ReportPlace> ShowReport(const CommonRoutines::Report& /*report*/) override {
+        return std::nullopt;
+    }
     std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& /*request*/) override {
         return std::nullopt;
     }
@@ -61,6 +64,8 @@ public:
     bool Print(const CommonRoutines::LineSource& /*lines*/) override { return false; }
     std::string Today() override { return "05 Mar 2026"; }
     std::string ShortTime() override { return "14:07"; }
+    // Time goes by as it is asked for, on any machine alike.
+    std::chrono::nanoseconds Uptime() override { return uptime += std::chrono::milliseconds(1); }
     void Beep() override {}
     void ShowBusy(bool /*busy*/) override {}
     void ShowProgress(std::string_view /*doing*/, double /*part*/) override {}

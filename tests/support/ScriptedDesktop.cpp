@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using namespace CommonRoutines;
 
 namespace {
@@ -99,12 +101,14 @@ std::optional<std::string> ScriptedDesktop::InputBox(std::string_view prompt) {
     return Play(InputPrompt(prompt));
 }
 
-void ScriptedDesktop::ShowReport(const Report& report) {
+std::optional<ReportPlace> ScriptedDesktop::ShowReport(const Report& report) {
     if (recordReports) {
-        reports.push_back({report.caption, report.items.All(), report.canPrintAndSave}); // as it is now
-        return;
+        reports.push_back({report.caption, report.items.All(), report.canPrintAndSave, report.placeOf}); // as it is now
+    } else {
+        Play(ReportPrompt(report));
     }
-    Play(ReportPrompt(report));
+    const auto line = std::exchange(lineToGoTo, std::nullopt);
+    return line ? std::optional(report.PlaceOf(*line)) : std::nullopt;
 }
 
 std::optional<std::string> ScriptedDesktop::ChooseFileToOpen(const FileRequest& request) {

@@ -34,6 +34,7 @@ public:
     // or too far from the point to be written out.
     bool recordReports = false;
     std::vector<CommonRoutines::Report> reports;
+    std::optional<std::size_t> lineToGoTo; // from the next report
 
     // Boxes are confirmed without a look: for rounds that meet with any of them.
     bool confirmsBoxes = false;
@@ -66,7 +67,7 @@ public:
     std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
                          std::span<const std::string> ButtonCaptions) override;
     std::optional<std::string> InputBox(std::string_view prompt) override;
-    void ShowReport(const CommonRoutines::Report& report) override;
+    std::optional<CommonRoutines::ReportPlace> ShowReport(const CommonRoutines::Report& report) override;
     std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ReadFile(const std::string& path) override;

@@ -1,10 +1,15 @@
 #include "ui/lists/ProposalModel.h"
 
+#include "core/CaselessSearch.h"
 #include "ui/Text.h"
 #include "ui/lists/StateColours.h"
 #include "ui/lists/StateWords.h"
 
 #include <QGuiApplication>
+
+#include <algorithm>
+#include <string>
+#include <utility>
 
 namespace Ui {
 
@@ -39,18 +44,81 @@ void ProposalModel::Show(const Commands::ListView<Proposal>& list) {
     if (m_rows.AreOthersThan(list)) {
         beginResetModel();
         m_rows.Take(list);
+        m_found = Found();
         endResetModel();
-    } else if (m_rows.TakeTouched(list) && m_rows.Count() > 0) {
-        Q_EMIT dataChanged(index(0), index(m_rows.Count() - 1));
+    } else if (m_rows.TakeTouched(list)) {
+        ShowTouched();
     }
 }
 
+// A tick changes no text; another encoding of the open file may.
+void ProposalModel::ShowTouched() {
+    if (auto found = Found(); found != m_found) {
+        beginResetModel();
+        m_found = std::move(found);
+        endResetModel();
+        Q_EMIT Filtered();
+    } else if (rowCount() > 0) {
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    }
+}
+
+void ProposalModel::SetFilter(const QString& sought) {
+    if (sought != m_sought) {
+        beginResetModel();
+        m_sought = sought;
+        m_found = Found();
+        endResetModel();
+        Q_EMIT Filtered();
+    }
+}
+
+std::optional<std::vector<int>> ProposalModel::Found() const {
+    if (m_sought.isEmpty()) {
+        return std::nullopt;
+    }
+    std::vector<int> found;
+    const std::string text = Text::FromQt(m_sought);
+    if (Text::ToQt(text) != m_sought) { // no proposal has such a character
+        return found;
+    }
+    const Ansi::CaselessSearch search(text);
+    for (int proposal = 0; proposal < m_rows.Count(); ++proposal) {
+        if (search.FindIn(m_rows.At(proposal).text)) {
+            found.push_back(proposal);
+        }
+    }
+    return found;
+}
+
+int ProposalModel::ProposalAt(int row) const {
+    return m_found ? (*m_found)[static_cast<std::size_t>(row)] : row;
+}
+
+std::vector<int> ProposalModel::ProposalsAt(std::vector<int> rows) const {
+    std::transform(rows.begin(), rows.end(), rows.begin(), [this](int row) { return ProposalAt(row); });
+    return rows;
+}
+
+std::vector<int> ProposalModel::RowsOf(const std::vector<int>& proposals) const {
+    std::vector<int> rows;
+    for (const int proposal : proposals) {
+        if (!m_found) {
+            rows.push_back(proposal);
+        } else if (const auto row = std::lower_bound(m_found->begin(), m_found->end(), proposal);
+                   row != m_found->end() && *row == proposal) {
+            rows.push_back(static_cast<int>(row - m_found->begin()));
+        }
+    }
+    return rows;
+}
+
 int ProposalModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : m_rows.Count();
+    return parent.isValid() ? 0 : static_cast<int>(m_found ? std::ssize(*m_found) : m_rows.Count());
 }
 
 QVariant ProposalModel::data(const QModelIndex& index, int role) const {
-    const Proposal& proposal = m_rows.At(index.row());
+    const Proposal& proposal = m_rows.At(ProposalAt(index.row()));
     switch (role) {
     case Qt::DisplayRole:
         return Text::ForList(proposal.text);
@@ -76,8 +144,9 @@ bool ProposalModel::setData(const QModelIndex& index, const QVariant& value, int
         return false;
     }
     const bool wanted = value.toInt() == Qt::Checked;
-    Q_EMIT TickWanted(index.row(), wanted);
-    return m_rows.At(index.row()).ticked == wanted;
+    const int proposal = ProposalAt(index.row());
+    Q_EMIT TickWanted(proposal, wanted);
+    return m_rows.At(proposal).ticked == wanted;
 }
 
 Qt::ItemFlags ProposalModel::flags(const QModelIndex& index) const {

@@ -185,8 +185,19 @@ std::optional<std::string> QtDesktop::InputBox(std::string_view prompt) {
     return answer == QDialog::Accepted ? std::optional(Text::FromQt(dialog.textValue())) : std::nullopt;
 }
 
-void QtDesktop::ShowReport(const Report& report) {
-    VarCheck(report, *this, m_window).exec();
+std::optional<ReportPlace> QtDesktop::ShowReport(const Report& report) {
+    VarCheck window(report, *this, m_window);
+    if (const auto left = m_reportsLeft.find(report.caption); left != m_reportsLeft.end()) {
+        if (const auto line = LineLeft(left->second, report.items)) {
+            window.OpenAt(*line);
+        }
+    }
+    window.exec();
+    m_reportsLeft.erase(report.caption);
+    if (const auto line = window.ChosenLine()) {
+        m_reportsLeft[report.caption] = {*line, report.items[*line]};
+    }
+    return window.WantedPlace();
 }
 
 std::optional<std::string> QtDesktop::ChooseFileToOpen(const FileRequest& request) {

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "checks/ReportPosition.h"
 #include "core/Desktop.h"
 #include "ui/machine/QtStateFolder.h"
 #include "ui/windows/LongWork.h"
 
 #include <QPointer>
 #include <QWidget>
+
+#include <chrono>
+#include <map>
+#include <string>
 
 namespace Ui {
 
@@ -22,7 +27,7 @@ public:
     std::string MyMsgBox(const std::string& Prompt, std::int32_t Img, const std::string& Title,
                          std::span<const std::string> ButtonCaptions) override;
     std::optional<std::string> InputBox(std::string_view prompt) override;
-    void ShowReport(const CommonRoutines::Report& report) override;
+    std::optional<CommonRoutines::ReportPlace> ShowReport(const CommonRoutines::Report& report) override;
     std::optional<std::string> ChooseFileToOpen(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ChooseFileToSave(const CommonRoutines::FileRequest& request) override;
     std::optional<std::string> ReadFile(const std::string& path) override;
@@ -47,6 +52,7 @@ public:
     bool Print(const CommonRoutines::LineSource& lines) override;
     std::string Today() override;
     std::string ShortTime() override;
+    std::chrono::nanoseconds Uptime() override { return std::chrono::steady_clock::now().time_since_epoch(); }
     void Beep() override;
     void ShowBusy(bool busy) override;
     void ShowProgress(std::string_view doing, double part) override;
@@ -59,6 +65,7 @@ private:
     QtStateFolder m_state;
     LongWork m_work;
     int m_unknownStamps = 0;
+    std::map<std::string, CommonRoutines::ReportPosition> m_reportsLeft; // by their captions
 };
 
 } // namespace Ui

@@ -193,3 +193,17 @@ TEST_F(ApplyingProposalsTest, AppliedVariationsAreSaved) {
     Click("cbSave");
     EXPECT_TRUE(desktop.files["/data/saved.txt"].starts_with(HeaderOf("Alpha") + "|Alfa|Betta|!Oak\r\n"));
 }
+
+TEST_F(ApplyingProposalsTest, FromALineOfTheDetailsTheUserGoesToTheRepeatedVariation) {
+    Process("Elm\n!betta\n");
+    desktop.lineToGoTo = 0;
+    desktop.ExpectBox("1 New variations added.\r\n1 lines ignored which duplicate existing variations.",
+                      BoxIcon::Information);
+    Click("cbApplyAll");
+    ASSERT_EQ(desktop.reports.size(), 1U);
+    EXPECT_EQ(desktop.reports[0].items.All(), std::vector<std::string>{"Variation !betta duplicates Betta"});
+    EXPECT_EQ(Selected("lvVariations"), QStringList{QStringLiteral("Betta")});
+    EXPECT_EQ(Variations(), QStringLiteral("Alfa Betta Elm"));
+    EXPECT_EQ(iEditMode, OneSelected);
+    EXPECT_TRUE(bChanged);
+}

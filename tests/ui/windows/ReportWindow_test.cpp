@@ -1,18 +1,12 @@
 // The report window.
 
-#include "core/State.h"
-#include "driver/WindowDriver.h"
-#include "support/ScriptedDesktop.h"
-#include "ui/windows/VarCheck.h"
+#include "ui/windows/ReportWindowTest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyledItemDelegate>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
@@ -20,32 +14,6 @@ using namespace CommonRoutines;
 using namespace Ui;
 
 namespace {
-
-class ReportWindowTest : public testing::Test, public WindowDriver {
-protected:
-    ReportWindowTest() {
-        ResetState();
-        sDataFileName = "C:\\data\\north.txt";
-    }
-
-    void Show() {
-        window = std::make_unique<VarCheck>(report, desktop, nullptr);
-        window->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    }
-    QWidget& Window() override { return *window; }
-    RowList& List() { return Find<RowList>("List1"); }
-
-    ScriptedDesktop desktop;
-    Report report{"Duplicate Check", {"First finding", "Second\r\nfinding", "Third"}, true};
-    std::unique_ptr<VarCheck> window;
-    const std::vector<std::string> output{"Duplicate Check on File C:\\data\\north.txt",
-                                          "Check performed on 05 Mar 2026 at 14:07",
-                                          "",
-                                          "First finding",
-                                          "Second\r\nfinding",
-                                          "Third"};
-};
 
 // Counts how often the list asks for the size or the look of a row.
 class CountingDelegate : public QStyledItemDelegate {

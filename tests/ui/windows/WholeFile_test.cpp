@@ -62,6 +62,38 @@ TEST_F(WholeFileTest, TheCheckSaysWhenNothingIsUsedTwice) {
     EXPECT_EQ(desktop.reports[0].items.All(), std::vector<std::string>{"No duplicates found"});
 }
 
+TEST_F(WholeFileTest, FromALineOfTheCheckTheUserGoesToItsVariation) {
+    OpenTwo();
+    desktop.lineToGoTo = 0;
+    Click("cbCompleteCheck");
+    ExpectFinding();
+    EXPECT_EQ(Selected("lvAlpha"), QStringList{QStringLiteral("Alpha")});
+    EXPECT_EQ(Selected("lvVariations"), QStringList{QStringLiteral("Alfa")});
+    EXPECT_EQ(EditText(), QStringLiteral("Alfa"));
+    EXPECT_EQ(iEditMode, OneSelected);
+    EXPECT_FALSE(bChanged);
+}
+
+TEST_F(WholeFileTest, FromALineOfTheReportOfReadingTheUserGoesToItsDistrict) {
+    desktop.lineToGoTo = 0;
+    OpenContent("# note\r\n" + HeaderOf("Alpha") + "\r\n" + HeaderOf("Beta") + "|Elm|Oak|ELM\r\n");
+    ASSERT_EQ(desktop.reports.size(), 1U);
+    EXPECT_EQ(desktop.reports[0].items[0], "District Beta has duplicate variations.");
+    EXPECT_EQ(Selected("lvAlpha"), QStringList{QStringLiteral("Beta")});
+    EXPECT_EQ(Column("lvVariations").size(), 3);
+    EXPECT_EQ(Selected("lvVariations"), QStringList());
+    EXPECT_EQ(iEditMode, DistrictIdle);
+}
+
+TEST_F(WholeFileTest, FromALineOfACountTheUserGoesNowhere) {
+    desktop.lineToGoTo = 1;
+    OpenContent(HeaderOf("Beta") + "|Elm|ELM\r\n");
+    ASSERT_EQ(desktop.reports.size(), 1U);
+    EXPECT_EQ(desktop.reports[0].items[1], "1 variations with capitalisation problems");
+    EXPECT_EQ(Selected("lvAlpha"), QStringList());
+    EXPECT_EQ(iEditMode, FileOpen);
+}
+
 TEST_F(WholeFileTest, TheSelectedVariationsAreSavedInTheOrderOfTheList) {
     ChooseAlpha();
     Select(QStringLiteral("zeta"));
