@@ -15,8 +15,6 @@ using namespace Ui;
 
 namespace {
 
-constexpr QSize NormalSize(1240, 680);
-
 double Milliseconds(const QElapsedTimer& clock) {
     return static_cast<double>(clock.nsecsElapsed()) / 1e6;
 }
@@ -24,7 +22,7 @@ double Milliseconds(const QElapsedTimer& clock) {
 } // namespace
 
 BenchWindow::BenchWindow() {
-    Window().resize(NormalSize);
+    Window().resize(WindowSize);
     Settle();
 }
 

@@ -4,11 +4,15 @@
 #include "driver/AnsweringDesktop.h"
 #include "driver/DrivenForm.h"
 
+#include <QSize>
+
 #include <cstdint>
 #include <functional>
 #include <string>
 
 namespace Bench {
+
+constexpr QSize WindowSize(1240, 680);
 
 // The main window as a user sees it, and what a user does to it. What is done is timed from the click
 // or the key to the painted result, in milliseconds.

@@ -2,8 +2,12 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
+#include <string>
+#include <string_view>
 #include <vector>
 
 // Times of the same thing, and how a measurement prints what it found.
@@ -19,8 +23,22 @@ inline double Median(const std::vector<double>& times) {
     return Percentile(times, 50);
 }
 
+// A line of what the system knows about this process, in bytes: "VmRSS" is the resident memory,
+// "VmHWM" the most that it has ever been.
+inline std::uint64_t Memory(std::string_view name) {
+    constexpr std::uint64_t kilobyte = 1024;
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    while (std::getline(status, line)) {
+        if (line.starts_with(name)) {
+            return std::stoull(line.substr(line.find_first_of("0123456789"))) * kilobyte;
+        }
+    }
+    return 0;
+}
+
 template <typename Number>
-void Print(const char* name, Number value) {
+void Print(const std::string& name, Number value) {
     std::cout << name << ' ' << value << '\n';
 }
 

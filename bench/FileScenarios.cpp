@@ -5,32 +5,16 @@
 #include "core/State.h"
 
 #include <cstdint>
-#include <fstream>
-#include <sstream>
 #include <string>
-#include <string_view>
 
 namespace Bench {
 
 using namespace CommonRoutines;
 
+using Figures::Memory;
 using Figures::Print;
 
 namespace {
-
-// A line of what the system knows about this process, in bytes: "VmRSS" is the resident memory,
-// "VmHWM" the most that it has ever been.
-std::uint64_t Memory(std::string_view name) {
-    constexpr std::uint64_t kilobyte = 1024;
-    std::ifstream status("/proc/self/status");
-    std::string line;
-    while (std::getline(status, line)) {
-        if (line.starts_with(name)) {
-            return std::stoull(line.substr(line.find_first_of("0123456789"))) * kilobyte;
-        }
-    }
-    return 0;
-}
 
 std::int64_t VariationCount() {
     std::int64_t count = 0;
@@ -58,6 +42,19 @@ void MarkOneVariation(BenchWindow& window) {
 }
 
 } // namespace
+
+void ShowWindow() {
+    BenchWindow window;
+}
+
+void ShowEmptyWindow() {
+    PaintWatch paints;
+    QWidget window;
+    window.resize(WindowSize);
+    window.show();
+    paints.Expect(&window);
+    paints.Wait();
+}
 
 void MeasureOpening(const std::string& file) {
     BenchWindow window;

@@ -7,6 +7,9 @@
 
 namespace Bench {
 
+// Bring up the window, and an empty one of the toolkit, until they are painted.
+void ShowWindow();
+void ShowEmptyWindow();
 // Opens the file.
 void MeasureOpening(const std::string& file);
 // Opens the file, runs the complete check, marks a variation and saves to "<file>.saved".
@@ -19,5 +22,7 @@ void MeasureEditing(const std::string& file);
 void MeasureApplying(const std::string& file, const std::string& proposals);
 // Chooses districts and filters them.
 void MeasureLists(const std::string& file);
+// Finds a text that is hardly anywhere, a usual one, a whole spelling, and a letter that is nearly everywhere.
+void MeasureFinding(const std::string& file);
 
 } // namespace Bench

@@ -26,6 +26,9 @@ FILES = {
 }
 
 PIPELINE = "tr '|' '\\n' < \"$1\" | LC_ALL=C sort -f | uniq -di"
+GREP = 'LC_ALL=C grep -ci -- "$2" "$1" | cat'  # it would stop at a hit if nobody read how many there are
+# The texts that the window looks for.
+FOUND = {"rare": "qxq", "usual": "ash", "letter": "e"}
 COPY = 'cp "$1" "$1.copy" && sync "$1.copy" && mv "$1.copy" "$1.copied"'
 
 
@@ -62,9 +65,9 @@ def milliseconds(command):
     return (time.perf_counter() - start) * 1000
 
 
-def shell(script, path):
+def shell(script, path, *more):
     """The command that runs a script of the shell on a file."""
-    return ["sh", "-c", script, "sh", str(path)]
+    return ["sh", "-c", script, "sh", str(path), *more]
 
 
 class Samples:
@@ -95,7 +98,10 @@ class Samples:
 def measure_round(samples, with_huge):
     """Measures everything once, the program and its yardsticks in turns."""
     large = path_of("large")
-    samples.window("open", "small")
+    samples.time("start_ms", [PROGRAMS / "quexal-bench-window", "start"])
+    samples.time("empty_ms", [PROGRAMS / "quexal-bench-window", "empty"])
+    samples.window("session", "small")
+    samples.time("small.pipeline_ms", shell(PIPELINE, path_of("small")))
     samples.window("session", "large")
     samples.time("large.pipeline_ms", shell(PIPELINE, large))
     samples.window("session", "large")
@@ -104,10 +110,14 @@ def measure_round(samples, with_huge):
     samples.window("typing", "big district")
     samples.window("editing", "big district")
     samples.window("apply", "big district", PROPOSALS)
+    samples.window("find", "large")
+    for name, text in FOUND.items():
+        samples.time(f"large.grep_{name}_ms", shell(GREP, large, text))
     if with_huge:
         samples.window("session", "steps")
         samples.window("session", "huge")
         samples.window("lists", "huge")
+        samples.window("find", "huge")
 
 
 def remove_saved():

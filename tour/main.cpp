@@ -72,6 +72,7 @@ private:
     void ApplyProposals();
     void CheckWholeFile();
     void Filter();
+    void FindInFile();
     void Save();
 
     QDir m_folder;
@@ -173,6 +174,17 @@ void Tour::Filter() {
     ClickRow("lbComments", QStringLiteral(" All"));
 }
 
+void Tour::FindInFile() {
+    Key("lvAlpha", Qt::Key_F, Qt::ControlModifier);
+    Type("tbFind", QStringLiteral("ashc"));
+    Key("tbFind", Qt::Key_Return);
+    Key("lvAlpha", Qt::Key_F3);
+    Picture(Window(), QStringLiteral("find"));
+    Key("lvVariations", Qt::Key_Escape);
+    Key("lvAlpha", Qt::Key_F, Qt::ControlModifier);
+    Key("tbFind", Qt::Key_Escape);
+}
+
 void Tour::Save() {
     const QString copy = m_work.filePath(QStringLiteral("saved.txt"));
     m_guide.Next([=](QWidget& dialogue) { DialogueGuide::ChooseFile(dialogue, copy.toStdString()); });
@@ -194,6 +206,7 @@ bool Tour::Play() {
     ApplyProposals();
     CheckWholeFile();
     Filter();
+    FindInFile();
     Save();
     return m_guide.AllAnswered() && m_guide.Surprises() == 0;
 }

@@ -3,6 +3,7 @@
 #include "commands/CheckCommands.h"
 #include "commands/EditCommands.h"
 #include "commands/FileCommands.h"
+#include "commands/FindCommands.h"
 #include "commands/Guide.h"
 #include "commands/ProposalCommands.h"
 #include "commands/VariationCommands.h"
@@ -84,6 +85,15 @@ constexpr std::array<Command, ControlCount> Table{{
     {.control = Control::guide, .name = "guide", .place = {}, .caption = "",
      .spokenName = "User guide", .hint = "Show the user guide", .key = "F1",
      .modes = "EEEEEEEEEE", .run = ShowGuide},
+    {.control = Control::find, .name = "find", .place = {}, .caption = "",
+     .spokenName = "Find", .hint = "Find a text in the whole file", .key = "Ctrl+F",
+     .modes = "EEEEEEEEEE", .run = OpenFind}, // the bar says why nothing can be looked for
+    {.control = Control::findNext, .name = "findNext", .place = {}, .caption = "",
+     .spokenName = "Find next", .hint = "Go to the next place found", .key = "F3",
+     .modes = "-EEEE----E", .run = FindNext},
+    {.control = Control::findPrevious, .name = "findPrevious", .place = {}, .caption = "",
+     .spokenName = "Find previous", .hint = "Go to the previous place found", .key = "Shift+F3",
+     .modes = "-EEEE----E", .run = FindPrevious},
 }};
 // clang-format on
 

@@ -34,7 +34,10 @@ enum class Control : std::size_t {
     cbEditSel,
     cbClearSel,
     lbComments,
-    guide, // has a key alone
+    guide, // this one and the next ones have keys alone
+    find,
+    findNext,
+    findPrevious,
     Count,
 };
 inline constexpr auto ControlCount = static_cast<std::size_t>(Control::Count);

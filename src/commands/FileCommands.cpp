@@ -2,6 +2,7 @@
 
 #include "commands/DistrictCommands.h"
 #include "commands/EditCommands.h"
+#include "commands/FindCommands.h"
 #include "commands/ProposalCommands.h"
 #include "commands/RestoreChanges.h"
 #include "commands/Session.h"
@@ -51,14 +52,15 @@ void ResetWindow(Session& session) {
     ClearWhyError(session);
     CommentTypes.Reset();
     ShowCommentTypes(session);
+    ForgetHits(session);
     SetMode(NothingOpen); // the controls follow when a file is open: the old one can still be saved
     view.nextUndo.clear();
     view.districts.Fill({});
     ShowVariations(session, 0, {});
 }
 
-// The texts that outlive the table: proposals, what can be undone, and what is typed. They are in the encoding of the
-// open file, whichever that becomes.
+// The texts that outlive the table: proposals, what can be undone, what is typed and what is looked for. They are in
+// the encoding of the open file, whichever that becomes.
 class StayingTexts {
 public:
     explicit StayingTexts(Session& session) : m_session(session) {}
@@ -68,6 +70,7 @@ public:
             RecodeProposals(m_session, m_encoding, eFileEncoding);
             RecodeUndoRing(m_encoding, eFileEncoding);
             PutIntoEditBox(m_session, Recoded(m_session.view.edit.text, m_encoding, eFileEncoding));
+            m_session.view.find.text = Recoded(m_session.view.find.text, m_encoding, eFileEncoding);
             m_encoding = eFileEncoding;
         }
     }

@@ -76,17 +76,6 @@ std::string_view ProposalsHint(const WindowView& view) {
 }
 
 // The next step towards a district.
-std::string_view WayToDistrict(const Session& session) {
-    if (!HasFile(session)) {
-        return sDataFileName.empty() ? "open a file first" : "first open a file that has districts";
-    }
-    if (!session.view.districts.IsEmpty()) {
-        return ChooseDistrictFirst;
-    }
-    return ShowsAllTypes(session.view) ? "first choose \" All\" among the comment types"
-                                       : "first choose another comment type";
-}
-
 std::string_view ObstacleInProposals(Control control, const WindowView& view) {
     if (view.proposals.IsEmpty()) {
         return "first Process File";
@@ -197,6 +186,17 @@ std::string Doing(const WindowView& view) {
 }
 
 } // namespace
+
+std::string_view WayToDistrict(const Session& session) {
+    if (!HasFile(session)) {
+        return sDataFileName.empty() ? "open a file first" : "first open a file that has districts";
+    }
+    if (!session.view.districts.IsEmpty()) {
+        return ChooseDistrictFirst;
+    }
+    return ShowsAllTypes(session.view) ? "first choose \" All\" among the comment types"
+                                       : "first choose another comment type";
+}
 
 void ShowGuidance(Session& session) {
     WindowView& view = session.view;

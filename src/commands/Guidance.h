@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 namespace Commands {
 
 struct Session;
@@ -8,5 +10,8 @@ struct Session;
 // disabled control, what the edit panel is used for. Follows from the view and the shared state alone, and so
 // is never older than they are.
 void ShowGuidance(Session& session);
+
+// What leads to a chosen district, where none is.
+std::string_view WayToDistrict(const Session& session);
 
 } // namespace Commands

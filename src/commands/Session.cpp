@@ -1,5 +1,6 @@
 #include "commands/Session.h"
 
+#include "commands/FindCommands.h"
 #include "commands/Guidance.h"
 #include "commands/WindowMode.h"
 #include "core/State.h"
@@ -43,11 +44,18 @@ Session::Session(Desktop& machine, Screen& window)
 void Session::Run(const std::function<void(Session&)>& command) {
     view.edit.keyRefusal.clear();
     const bool isDone = HasMemoryFor([&] { command(*this); });
-    isOpening = false;                                        // also where there was not enough memory
+    isOpening = false; // also where there was not enough memory
+    const bool isThere = GoToWantedPlace(isDone);
     const bool isShown = HasMemoryFor([this] { Present(); }); // also what a command did that has failed
-    if (!isDone || !isShown) {
+    if (!isDone || !isThere || !isShown) {
         TellOfMissingMemory(m_machine);
     }
+}
+
+// Only now, since a report may be shown long before its command is over.
+bool Session::GoToWantedPlace(bool mayGo) {
+    const auto place = m_presenting.TakeWantedPlace();
+    return !place || !mayGo || HasMemoryFor([&] { GoTo(*this, place->district, place->slot); });
 }
 
 void Session::Present() {
@@ -55,6 +63,7 @@ void Session::Present() {
     view.openFile = TheOpenFile.Path();
     WithholdFromNoDistrict(view);
     ShowGuidance(*this);
+    FollowTable(*this);
     if (view.edit.isPending) { // a key needs no look at the disk
         Unsaved.Write(m_showing);
     } else {

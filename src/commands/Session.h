@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace Commands {
@@ -27,22 +28,37 @@ public:
     virtual void SizeCommentColumn() = 0;
 };
 
+// A search through the table as it was at a certain time.
+struct HitSearch {
+    HitSearch(std::string_view sought, CommonRoutines::FindBy by) : finder(sought, by) {}
+    [[nodiscard]] bool IsUpToDate() const {
+        return table == CommonRoutines::lTableNumber && textChanges == CommonRoutines::lTextChanges;
+    }
+
+    CommonRoutines::Finder finder;
+    std::int32_t table = CommonRoutines::lTableNumber;
+    std::int32_t textChanges = CommonRoutines::lTextChanges;
+};
+
 // What the commands work on, beside the table: what the window shows, and the desktop. A command is a
 // function that takes a session; it is run from its beginning to its end by Run.
 struct Session {
     Session(CommonRoutines::Desktop& machine, Screen& window);
 
-    // Runs a command, puts what it has changed on the disk, and shows what the window shows now. One that there
-    // is not enough memory for ends with a message, since the toolkit must not meet with an exception.
+    // Runs a command, goes where the user wants to go from a report that it has shown, puts what it has changed on the
+    // disk, and shows what the window shows now. One that there is not enough memory for ends with a message, since the
+    // toolkit must not meet with an exception.
     void Run(const std::function<void(Session&)>& command);
 
     CommonRoutines::Desktop& desktop; // shows what is so before it asks anything
     Screen& screen;
     WindowView view;
     std::vector<std::int32_t> districtsByName; // all of the file; the filter chooses from them
+    std::optional<HitSearch> search;           // whose hits are shown, while something is looked for
     bool isOpening = false;                    // a data file, which is not shown yet
 
 private:
+    [[nodiscard]] bool GoToWantedPlace(bool mayGo);
     void Present();
 
     CommonRoutines::Desktop& m_machine;

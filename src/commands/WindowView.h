@@ -8,10 +8,13 @@
 #include "commands/ListView.h"
 #include "core/State.h"
 #include "edit/VariationList.h"
+#include "find/Finder.h"
 #include "rules/Markers.h"
 
 #include <array>
 #include <cstdint>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -63,8 +66,20 @@ struct HintsView {
 // What would enable a control that is disabled; empty for one that is enabled.
 using ObstaclesView = std::array<std::string_view, ControlCount>; // by Control
 
+// What is being looked for in the whole file.
+struct FindView {
+    bool isOpen = false;
+    std::string text;
+    CommonRoutines::FindBy by = CommonRoutines::FindBy::Part;
+    std::shared_ptr<const CommonRoutines::Hits> hits = std::make_shared<CommonRoutines::Hits>();
+    std::int32_t touched = 0;                   // how often there were other hits
+    bool isSearching = false;                   // there may be more of them
+    std::optional<CommonRoutines::Hit> current; // the one that was gone to last
+    std::string status;                         // how many there are, or why nothing can be looked for
+};
+
 // Where a command leads the focus.
-enum class Focus { Stays, Districts, Proposals, EditBox, WholeText, OpenButton };
+enum class Focus { Stays, Districts, Variations, Proposals, EditBox, WholeText, OpenButton, FindBox };
 
 struct WindowView {
     std::int16_t mode = CommonRoutines::NothingOpen; // iEditMode as the command has left it
@@ -83,6 +98,7 @@ struct WindowView {
 
     EditView edit;
     ProblemView whyError;
+    FindView find;
     std::int32_t applyTo = 0; // the district that is named, 0 for none
     std::string status;
     std::string nextUndo;
@@ -91,6 +107,7 @@ struct WindowView {
     std::string_view dateCaption = "Add Date%";
 
     Focus focus = Focus::Stays;
+    std::int32_t arrivals = 0; // how often something found was gone to, which may be anywhere in the lists
 
     [[nodiscard]] bool IsEnabled(Control control) const { return enabled[static_cast<std::size_t>(control)]; }
     void Enable(Control control, bool isEnabled) { enabled[static_cast<std::size_t>(control)] = isEnabled; }

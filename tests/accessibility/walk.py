@@ -7,6 +7,7 @@ the same accessibility bus.
 
 usage: walk.py FILE LONG_FILE
 """
+import subprocess
 import sys
 import time
 
@@ -124,6 +125,22 @@ def open_file(form, path):
         wait_for(lambda: not windows("Read File Results"), "end of the report")
 
 
+def find(form):
+    """Finds a variation in the whole file, hears how many there are, and goes there."""
+    subprocess.run(["xdotool", "key", "ctrl+f"], check=True)  # it has no button
+    box = control(form, pyatspi.ROLE_TEXT, "Find in the whole file")
+    wait_for(lambda: box.getState().contains(pyatspi.STATE_FOCUSED), "focus in the find box")
+    box.queryEditableText().setTextContents("elm")
+    wait_for(lambda: box.description == "1 variation", "number of what was found")
+    found = control(form, pyatspi.ROLE_TREE, "Found")
+    row = [cell.name for cell in cells(found)[0]]
+    require(row == ["Variation", "Beta", "1", "Elm"], f"the row that was found says {row}")
+    control(form, pyatspi.ROLE_CHECK_BOX, "Whole spelling")
+    press(form, "Close Find")
+    wait_for(lambda: not box.getState().contains(pyatspi.STATE_SHOWING), "end of the find bar")
+    print(f"walk: what is found says \"{' '.join(row)}\"")
+
+
 def main():
     """The walk."""
     path, long_path = sys.argv[1:]
@@ -149,6 +166,7 @@ def main():
     press(form, "Ok")
     wait_for(lambda: row_named(variations, "Birch") is not None, "variation that was added")
     print("walk: a variation was added")
+    find(form)
 
     press(form, "Open File")
     question = wait_for(lambda: next((w for w in windows("Quexal Editor") if w != form), None), "question")

@@ -20,8 +20,8 @@ awk -v header="$header" 'BEGIN { for (i = 1; i <= 100000; ++i) printf "District 
     >"$work/long.txt"
 
 /usr/libexec/at-spi-bus-launcher --launch-immediately --a11y=1 >/dev/null 2>&1 &
-openbox --config-file /dev/null >/dev/null 2>&1 &
-sleep 1 # for the bus and for the manager of windows, without which none has the focus
+manage_windows
+sleep 1 # for the bus
 "$editor" >"$work/editor.log" 2>&1 &
 program=$!
 /usr/bin/python3 "$here/walk.py" "$work/small.txt" "$work/long.txt" || fail "the walk did not get to its end"

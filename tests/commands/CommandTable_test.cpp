@@ -34,8 +34,19 @@ bool PageSays(const std::vector<std::string>& rows, std::string_view key, std::s
 }
 
 std::string WhatThePageCalls(const Command& command) {
-    if (command.caption.empty()) {
-        return command.control == Control::tbEdit ? "edit box" : "user guide";
+    switch (command.control) {
+    case Control::tbEdit:
+        return "edit box";
+    case Control::guide:
+        return "user guide";
+    case Control::find:
+        return "finds a text in the whole file";
+    case Control::findNext:
+        return "to the next place found";
+    case Control::findPrevious:
+        return "to the one before";
+    default:
+        break;
     }
     return "**" + std::string(command.caption) + "**";
 }

@@ -42,7 +42,7 @@ struct ShownWindow {
     std::string options; // those that are ticked
     std::string enabled; // the controls that are
     std::vector<std::string> hints;
-    std::vector<std::string> obstacles; // what would enable each control
+    std::vector<std::string> obstacles; // what would enable each control that can be seen
     bool variationsInHand = false;
     std::string focus; // where the command has led it; empty where it stays
 
@@ -69,6 +69,11 @@ struct ShownWindow {
                    << "\nin hand " << shown.variationsInHand << "\nfocus " << shown.focus;
     }
 };
+
+// Nothing of it is seen, so that nothing can say what would enable it.
+inline bool HasKeyAlone(const Commands::Command& command) {
+    return command.control >= Commands::Control::guide;
+}
 
 // One who uses the program: what a user can do, and what he sees.
 class EditingPlayer {
@@ -129,9 +134,11 @@ public:
     void ChooseType(int row) override {
         Do([=](Commands::Session& session) { Commands::ChooseCommentType(session, {row}); });
     }
-    // A click also highlights.
+    // A click on a box highlights nothing, but is a reason to look at what is highlighted.
     void ClickTick(int row) override {
-        Do([=](Commands::Session& session) { Commands::HighlightProposals(session, {row}); });
+        Do([](Commands::Session& session) {
+            Commands::HighlightProposals(session, std::vector<int>(session.view.proposals.selected));
+        });
         const bool ticked = View().proposals.At(row).ticked;
         Do([=](Commands::Session& session) { Commands::TickProposal(session, row, !ticked); });
     }
@@ -179,7 +186,7 @@ public:
                         view.whyError.text,
                         view.whyError.warns ? "warns" : "",
                         std::to_string(static_cast<int>(view.whyError.ink)),
-                        view.applyTo > 0 ? std::string(std::string(DistrictAt(view.applyTo).Name())) : "",
+                        view.applyTo > 0 ? std::string(DistrictAt(view.applyTo).Name()) : "",
                         std::string(view.shriekCaption),
                         std::string(view.dateCaption),
                         view.doing,
@@ -195,7 +202,9 @@ public:
                         (view.edit.options.validInYears ? "years " : "") + (view.edit.options.volume ? "volume " : "");
         for (const Commands::Command& command : Commands::AllCommands()) {
             shown.enabled += view.IsEnabled(command.control) ? std::string(command.name) + ' ' : "";
-            shown.obstacles.emplace_back(view.ObstacleTo(command.control));
+            if (!HasKeyAlone(command)) {
+                shown.obstacles.emplace_back(view.ObstacleTo(command.control));
+            }
         }
         shown.focus = NameOf(view.focus);
         return shown;
@@ -206,8 +215,12 @@ private:
         switch (focus) {
         case Commands::Focus::Districts:
             return "lvAlpha";
+        case Commands::Focus::Variations:
+            return "lvVariations";
         case Commands::Focus::Proposals:
             return "LvChanges";
+        case Commands::Focus::FindBox:
+            return "tbFind";
         case Commands::Focus::EditBox:
         case Commands::Focus::WholeText:
             return "tbEdit";

@@ -118,3 +118,41 @@ TEST_F(SessionTest, TheModeIsThatOfTheProgram) {
     session.Run([](Session& now) { EnterMode(now, DistrictIdle); });
     EXPECT_EQ(desktop.screen.shown.mode, 4);
 }
+
+TEST_F(SessionTest, WhenACommandIsOverItGoesWhereTheUserWantsToFromItsReport) {
+    const std::int32_t beta = AddDistrict("Beta", {"Zeta", "Elm"});
+    desktop.recordReports = true;
+    desktop.lineToGoTo = 0;
+    session.Run([=](Session& now) {
+        now.desktop.ShowReport({"Findings", {"line"}, true, [=](std::size_t /*line*/) {
+                                    return ReportPlace{beta, 1};
+                                }});
+        EXPECT_NE(lCurrentDistrict, beta);
+        now.districtsByName = {1, beta};
+        now.view.districts.Fill(now.districtsByName);
+    });
+    const WindowView& shown = desktop.screen.shown;
+    EXPECT_EQ(lCurrentDistrict, beta);
+    EXPECT_EQ(shown.variationsOf, beta);
+    EXPECT_EQ(shown.variations.selected, std::vector<int>{1});
+    EXPECT_EQ(shown.focus, Focus::Variations);
+    EXPECT_EQ(shown.edit.text, "Zeta");
+    const std::int32_t arrivals = shown.arrivals;
+    session.Run([](Session&) {});
+    EXPECT_EQ(desktop.screen.shown.arrivals, arrivals);
+}
+
+TEST_F(SessionTest, ACommandWithoutMemoryGoesNowhere) {
+    const std::int32_t beta = AddDistrict("Beta", {"Zeta"});
+    desktop.recordReports = true;
+    desktop.lineToGoTo = 0;
+    session.Run([=](Session& now) {
+        now.districtsByName = {1, beta};
+        now.view.districts.Fill(now.districtsByName);
+        now.desktop.ShowReport({"Findings", {"line"}, true, [=](std::size_t) { return ReportPlace{beta, 0}; }});
+        throw std::bad_alloc();
+    });
+    EXPECT_NE(lCurrentDistrict, beta);
+    session.Run([](Session&) {});
+    EXPECT_NE(lCurrentDistrict, beta);
+}

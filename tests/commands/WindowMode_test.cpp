@@ -53,6 +53,9 @@ constexpr ModeRow ModeRows[] = {
     {Control::cbEditSel,        "cbEditSel",       "- - - - - - - - - -"},
     {Control::cbUndo,           "cbUndo",          "E E E E E E E E E E"},
     {Control::guide,            "guide",           "E E E E E E E E E E"},
+    {Control::find,             "find",            "E E E E E E E E E E"},
+    {Control::findNext,         "findNext",        "- E E E E - - - - E"},
+    {Control::findPrevious,     "findPrevious",    "- E E E E - - - - E"},
 };
 // clang-format on
 

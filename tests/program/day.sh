@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A day's work with the real program on a real X server, by keyboard alone: opens the practice file, repairs it, adds,
-# deletes and takes back, takes proposals in, checks the whole file, saves, opens again and saves what has not changed.
+# deletes and takes back, takes proposals in, checks the whole file, saves, opens again, finds a district and saves again.
 # The bytes are those that the work means. A program for Windows does it under Wine.
 # usage: day.sh EDITOR PRACTICE-FILE PROPOSALS
 set -euo pipefail
@@ -52,7 +52,10 @@ close_report "Duplicate Check"
 save_as "$(path_for "$work/saved.txt")"
 cmp "$work/saved.txt" "$work/expected.txt" || fail "the saved file differs"
 open_practice "$(path_for "$work/saved.txt")" repaired
-choose_district Langm
+press ctrl+f # finds the district
+xdotool type --delay 20 langm
+press Return
+picture found
 add_variation "!Langmor"
 bring_up "Save As" ctrl+s
 press Return

@@ -24,6 +24,10 @@ int RowDelegate::TextInset(const QWidget& list) {
     return LeftPadding + list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
 }
 
+int RowDelegate::RowHeight(const QWidget& list) {
+    return list.fontMetrics().height() + RowPadding;
+}
+
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     return QStyledItemDelegate::sizeHint(option, index) + QSize(LeftPadding, RowPadding);
 }

@@ -14,6 +14,8 @@ public:
 
     // Where texts begin, from the left end of their column.
     [[nodiscard]] static int TextInset(const QWidget& list);
+    // Of a row with text alone, in pixels.
+    [[nodiscard]] static int RowHeight(const QWidget& list);
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 

@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QToolTip>
 
 #include <algorithm>
@@ -29,6 +30,18 @@ RowList::RowList(QWidget* parent) : QTreeView(parent), m_header(new RowHeader(th
     setItemDelegate(new RowDelegate(this));
     // Tab leads on to the next control, arrow keys lead through the rows.
     setTabKeyNavigation(false);
+}
+
+// For each column by itself the base class would paint all rows once more.
+void RowList::SetColumnWidths(const std::vector<int>& widths) {
+    {
+        const QSignalBlocker silent(m_header);
+        for (std::size_t column = 0; column < widths.size(); ++column) {
+            m_header->resizeSection(static_cast<int>(column), widths[column]);
+        }
+    }
+    updateGeometries();
+    viewport()->update();
 }
 
 std::vector<int> RowList::SelectedRows() const {
@@ -70,6 +83,14 @@ QRect RowList::visualRect(const QModelIndex& index) const {
     const int height = rowHeight(top);
     return {columnViewportPosition(index.column()), (index.row() - top.row()) * height, columnWidth(index.column()),
             height};
+}
+
+void RowList::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    const int sideways = horizontalScrollBar()->value();
+    QTreeView::scrollTo(index, hint);
+    if (hint == PositionAtCenter) {
+        horizontalScrollBar()->setValue(sideways);
+    }
 }
 
 void RowList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

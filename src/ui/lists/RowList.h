@@ -20,6 +20,9 @@ public:
 
     void setModel(QAbstractItemModel* newModel) override;
 
+    // Of all columns, in pixels.
+    void SetColumnWidths(const std::vector<int>& widths);
+
     // The numbers of the selected rows, in list order.
     [[nodiscard]] std::vector<int> SelectedRows() const;
 
@@ -39,6 +42,9 @@ public:
 
     // Where an index is shown, also outside of what is visible.
     [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
+
+    // A row that comes to the middle keeps its place sideways, also where it is wider than the list.
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
     // Selects the next row whose first cell begins with what is typed.
     void keyboardSearch(const QString& search) override;

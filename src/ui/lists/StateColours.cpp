@@ -2,6 +2,8 @@
 
 #include "ui/Colours.h"
 
+#include <QWidget>
+
 namespace StateColours {
 
 using CommonRoutines::VariationState;
@@ -23,6 +25,12 @@ QColor InList(VariationState state, const QPalette& palette) {
         return palette.color(QPalette::Text);
     }
     return Colours::IsDark(palette.color(QPalette::Base)) ? ColourOf(FactsOf(state).onDark) : OnLight(state);
+}
+
+void Outline(QWidget& box) {
+    QPalette palette;
+    palette.setColor(QPalette::Window, ShadedToOutline);
+    box.setPalette(palette);
 }
 
 QColor Hint(const QPalette& palette) {

@@ -5,6 +5,8 @@
 #include <QColor>
 #include <QPalette>
 
+class QWidget;
+
 // The colours that tell the state of a row.
 namespace StateColours {
 
@@ -22,6 +24,7 @@ inline constexpr QColor BlueGreen(0, 255, 255);
 // Boxes to tick and to write in are outlined in a darker shade of the window's colour, which cannot be seen on a
 // dark ground. With this for the window's colour it is a grey that stands out from light and dark grounds.
 inline constexpr QColor ShadedToOutline(165, 165, 165);
+void Outline(QWidget& box);
 
 // The grey of what an empty list says: between the text and the background, but well legible.
 [[nodiscard]] QColor Hint(const QPalette& palette);

@@ -3,6 +3,7 @@
 #include "commands/DistrictCommands.h"
 #include "commands/EditCommands.h"
 #include "commands/FileCommands.h"
+#include "commands/FindCommands.h"
 #include "commands/ProposalCommands.h"
 #include "commands/VariationCommands.h"
 #include "core/State.h"
@@ -14,7 +15,9 @@
 #include "ui/lists/RowList.h"
 #include "ui/lists/VariationModel.h"
 #include "ui/widgets/EditBox.h"
+#include "ui/windows/FindPanel.h"
 #include "ui/windows/LongWork.h"
+#include "ui/windows/ProposalFind.h"
 #include "ui/windows/WindowFit.h"
 
 #include <QAccessibleWidget>
@@ -55,6 +58,7 @@ Form1::Form1(Desktop& desktop) : m_controls(this), m_session(desktop, *this) {
     ConnectEditPanel();
     ConnectLists();
     ConnectProposals();
+    ConnectFind();
 }
 
 Form1::~Form1() = default;
@@ -105,7 +109,13 @@ void Form1::ConnectKey(const Commands::Command& command) {
     if (QPushButton* button = m_controls.Button(command.control)) {
         connect(key, &QShortcut::activated, button, &QPushButton::click);
     } else {
-        connect(key, &QShortcut::activated, this, [this, run = command.run] { Run(run); });
+        const bool finds = command.control == Commands::Control::find;
+        connect(key, &QShortcut::activated, this, [this, finds, run = command.run] {
+            if (!finds || !FindInProposals()) {
+                Run(run);
+            }
+        });
+        key->setObjectName(Text::ToQt(command.name));
     }
 }
 
@@ -143,7 +153,6 @@ void Form1::ConnectLists() {
     };
     onChoice(m_controls.lvAlpha, Commands::ChooseDistrict);
     onChoice(m_controls.lvVariations, Commands::SelectVariations);
-    onChoice(m_controls.LvChanges, Commands::HighlightProposals);
     onChoice(m_controls.lbComments, Commands::ChooseCommentType);
     connect(m_controls.lvVariations, &RowList::TakenUp, this, [this] { Run(Commands::TakeUpSelection); });
     // Lists that a cancelled command has emptied are filled again by the type that is chosen already.
@@ -157,16 +166,48 @@ void Form1::ConnectLists() {
 }
 
 void Form1::ConnectProposals() {
-    connect(m_proposals, &ProposalModel::TickWanted, this, [this](int row, bool ticked) {
+    m_proposalFind = new ProposalFind(*m_controls.LvChanges, *m_proposals, this);
+    connect(m_controls.LvChanges, &RowList::Chosen, this, [this] {
+        const std::vector<int> chosen = m_proposals->ProposalsAt(m_controls.LvChanges->SelectedRows());
+        Run([&](Session& session) { Commands::HighlightProposals(session, chosen); });
+    });
+    // The list has forgotten its choice with its rows.
+    connect(m_proposals, &ProposalModel::Filtered, this,
+            [this] { m_controls.LvChanges->ShowSelection(m_proposals->RowsOf(m_shown.proposals.selected)); });
+    connect(m_proposals, &ProposalModel::TickWanted, this, [this](int proposal, bool ticked) {
         m_tickedByClick = true;
-        Run([=](Session& session) { Commands::TickProposal(session, row, ticked); });
+        Run([=](Session& session) { Commands::TickProposal(session, proposal, ticked); });
     });
     connect(m_controls.LvChanges, &QAbstractItemView::pressed, this, [this] { m_tickedByClick = false; });
     connect(m_controls.LvChanges, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
         if (!m_tickedByClick) { // a click on the check box only ticks
-            Run([&](Session& session) { Commands::ClickProposal(session, index.row()); });
+            const int proposal = m_proposals->ProposalAt(index.row());
+            Run([=](Session& session) { Commands::ClickProposal(session, proposal); });
         }
     });
+}
+
+bool Form1::FindInProposals() {
+    return !LongWork::IsPainting() && m_proposalFind->OpenWithin();
+}
+
+void Form1::ConnectFind() {
+    m_findingGoesOn.setSingleShot(true);
+    connect(&m_findingGoesOn, &QTimer::timeout, this, [this] { Run(Commands::ContinueFinding); });
+    FindPanel* panel = m_controls.findPanel;
+    connect(panel, &FindPanel::Typed, this, [this](const QString& text) {
+        const std::string sought = Text::FromQt(text);
+        // What the open file has no character for is in none of its texts. No line break is.
+        const bool mayBeThere = Text::ToQt(sought) == text;
+        Run([&](Session& session) { Commands::TypeSought(session, mayBeThere ? sought : "\n"); });
+    });
+    connect(panel, &FindPanel::WholeWanted, this,
+            [this](bool whole) { Run([=](Session& session) { Commands::FindWholeSpellings(session, whole); }); });
+    connect(panel, &FindPanel::NextWanted, this, [this] { Run(Commands::FindNext); });
+    connect(panel, &FindPanel::RowWanted, this, [this](int row) {
+        Run([=](Session& session) { Commands::GoToHit(session, static_cast<std::size_t>(row)); });
+    });
+    connect(panel, &FindPanel::Closed, this, [this] { Run(Commands::CloseFind); });
 }
 
 void Form1::LoadForm() {
@@ -248,9 +289,11 @@ void Form1::AddDistrictRow(const DistrictRecord& record) {
 }
 
 void Form1::SetColumnWidths() {
-    for (int column = 0; column < m_districts->columnCount(); ++column) {
-        m_controls.lvAlpha->setColumnWidth(column, m_columns->Width(static_cast<std::size_t>(column)));
+    std::vector<int> widths;
+    for (std::size_t column = 0; column < DistrictColumnTable.size(); ++column) {
+        widths.push_back(m_columns->Width(column));
     }
+    m_controls.lvAlpha->SetColumnWidths(widths);
     m_columns.reset();
 }
 

@@ -3,6 +3,7 @@
 #include "commands/Session.h"
 #include "ui/windows/Form1Controls.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -11,6 +12,7 @@
 
 namespace Ui {
 
+class ProposalFind;
 class ProposalModel;
 class CommentModel;
 class CommentTypeModel;
@@ -29,6 +31,10 @@ public:
     void LoadForm();
     // What happens once when the window is shown: there may be files to mend.
     void MendFiles();
+
+    // Opens the find bar of the proposals where the focus is among them or their buttons; otherwise the answer is
+    // false.
+    [[nodiscard]] bool FindInProposals();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -51,6 +57,7 @@ private:
     void ConnectEditPanel();
     void ConnectLists();
     void ConnectProposals();
+    void ConnectFind();
 
     // What a command has ended with, or what stands behind its question.
     void Show(const Commands::WindowView& view) override;
@@ -64,6 +71,7 @@ private:
     void ShowHints(const Commands::HintsView& hints);
     void ShowOpenFile(const std::string& path);
     void ShowFocus(Commands::Focus focus);
+    void ShowFind(const Commands::WindowView& view);
 
     void StartColumnWidths() override;
     void AddDistrictRow(const CommonRoutines::DistrictRecord& record) override;
@@ -77,10 +85,12 @@ private:
     DistrictModel* m_districts = nullptr;
     VariationModel* m_variations = nullptr;
     ProposalModel* m_proposals = nullptr;
+    ProposalFind* m_proposalFind = nullptr;
     CommentModel* m_comments = nullptr;
     CommentTypeModel* m_commentTypes = nullptr;
     std::unique_ptr<DistrictColumns> m_columns; // while the districts are being measured
     Commands::WindowView m_shown;               // last
+    QTimer m_findingGoesOn;                     // soon
     bool m_fittedToScreen = false;
     bool m_tickedByClick = false; // the click being handled was on a check box
     Commands::Session m_session;

@@ -9,6 +9,7 @@
 #include "ui/widgets/PlainLabel.h"
 #include "ui/widgets/ProblemLabel.h"
 #include "ui/widgets/WindowInside.h"
+#include "ui/windows/FindPanel.h"
 
 #include <QCheckBox>
 #include <QHeaderView>
@@ -48,12 +49,6 @@ void KeepWidths(std::span<QPushButton* const> buttons) {
     }
 }
 
-void Outline(QWidget* box) {
-    QPalette palette;
-    palette.setColor(QPalette::Window, StateColours::ShadedToOutline);
-    box->setPalette(palette);
-}
-
 } // namespace
 
 Form1Controls::Form1Controls(QWidget* form) : m_inside(new QWidget) {
@@ -67,6 +62,7 @@ Form1Controls::Form1Controls(QWidget* form) : m_inside(new QWidget) {
     }
     KeepWidths(m_buttons);
     CreateLabels();
+    findPanel = new FindPanel(m_inside);
     Arrange();
     SetTabOrder();
     MarkButtons(*m_inside);
@@ -86,7 +82,7 @@ QCheckBox* Form1Controls::OptionBox(const char* name, const QString& caption, co
     box->setObjectName(QString::fromLatin1(name));
     box->setAccessibleName(caption);
     box->setToolTip(toolTip);
-    Outline(box);
+    StateColours::Outline(*box);
     return box;
 }
 
@@ -137,7 +133,7 @@ void Form1Controls::CreateEditRow() {
     tbEdit->setObjectName(Text::ToQt(edit.name));
     tbEdit->setAccessibleName(Text::ToQt(edit.spokenName));
     Describe(*tbEdit, edit);
-    Outline(tbEdit);
+    StateColours::Outline(*tbEdit);
     lbStatus = Status("lbStatus", QStringLiteral("Status of the text"), 3);
     lbStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
 }

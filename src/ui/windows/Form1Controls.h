@@ -17,6 +17,7 @@ class QWidget;
 namespace Ui {
 
 class EditBox;
+class FindPanel;
 class PlainLabel;
 class ProblemLabel;
 class RowList;
@@ -53,6 +54,8 @@ public:
     EditBox* tbEdit = nullptr;
     PlainLabel* lbStatus = nullptr;
     PlainLabel* lbDoing = nullptr; // what is being edited
+
+    FindPanel* findPanel = nullptr;
 
     PlainLabel* lbUndo = nullptr;
     PlainLabel* lbSelectCount = nullptr;

@@ -7,6 +7,7 @@
 #include "ui/widgets/PlainLabel.h"
 #include "ui/widgets/ProblemLabel.h"
 #include "ui/widgets/Splitter.h"
+#include "ui/windows/FindPanel.h"
 #include "ui/windows/Form1Controls.h"
 
 #include <QCheckBox>
@@ -43,6 +44,7 @@ void Form1Controls::Arrange() {
     layout->setContentsMargins(Space, Space, Space, Space);
     layout->addWidget(FileRow());
     layout->addWidget(bands, 1);
+    layout->addWidget(findPanel);
 }
 
 QFrame* Form1Controls::Frame(const char* name, const QString& accessibleName) {

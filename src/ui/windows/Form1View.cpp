@@ -12,13 +12,16 @@
 #include "ui/widgets/EditBox.h"
 #include "ui/widgets/PlainLabel.h"
 #include "ui/widgets/ProblemLabel.h"
+#include "ui/windows/FindPanel.h"
 #include "ui/windows/Form1.h"
+#include "ui/windows/ProposalFind.h"
 #include "ui/windows/WindowFit.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QShortcut>
 
 namespace Ui {
 
@@ -51,6 +54,12 @@ void Form1::Show(const Commands::WindowView& view) {
     }
     ShowEnabled(view);
     ShowToolTips(view);
+    if (view.arrivals != m_shown.arrivals) {
+        for (RowList* list : {m_controls.lvAlpha, m_controls.lvVariations}) {
+            list->scrollTo(list->currentIndex(), QAbstractItemView::PositionAtCenter);
+        }
+    }
+    ShowFind(view);
     ShowFocus(view.focus);
     m_shown = view;
 }
@@ -62,7 +71,9 @@ void Form1::ShowLists(const Commands::WindowView& view) {
     ShowSelection(m_controls.lvVariations, view.variations, m_shown.variations);
     m_controls.lvVariations->ShowAsInHand(view.AreVariationsInHand());
     m_proposals->Show(view.proposals);
-    ShowSelection(m_controls.LvChanges, view.proposals, m_shown.proposals);
+    if (view.proposals.rows != m_shown.proposals.rows || view.proposals.selected != m_shown.proposals.selected) {
+        m_controls.LvChanges->ShowSelection(m_proposals->RowsOf(view.proposals.selected));
+    }
     if (view.comments.filled != m_shown.comments.filled) {
         WrapComments(view.comments.district);
     }
@@ -83,8 +94,10 @@ void Form1::WrapComments(std::int32_t district) {
 
 void Form1::ShowEnabled(const Commands::WindowView& view) {
     for (const Commands::Command& command : Commands::AllCommands()) {
-        if (QWidget* control = m_controls.Widget(command.control)) { // a command may have a key alone
+        if (QWidget* control = m_controls.Widget(command.control)) {
             control->setEnabled(view.IsEnabled(command.control));
+        } else { // it has a key alone
+            findChild<QShortcut*>(Text::ToQt(command.name))->setEnabled(view.IsEnabled(command.control));
         }
     }
 }
@@ -151,7 +164,7 @@ void Form1::ShowEditPanel(const Commands::EditView& edit) {
 void Form1::ShowHints(const Commands::HintsView& hints) {
     m_controls.lvAlpha->SetHint(Text::ToQt(hints.districts));
     m_controls.lvVariations->SetHint(Text::ToQt(hints.variations));
-    m_controls.LvChanges->SetHint(Text::ToQt(hints.proposals));
+    m_proposalFind->SetHint(Text::ToQt(hints.proposals));
     m_controls.lvComments->SetHint(Text::ToQt(hints.comments));
 }
 
@@ -165,10 +178,26 @@ void Form1::ShowOpenFile(const std::string& path) {
     m_controls.lvAlpha->SetDescription(shown);
 }
 
+// What is left of a search is done between two events, so that a key that comes first ends it, and what has been found
+// is painted before.
+void Form1::ShowFind(const Commands::WindowView& view) {
+    const Commands::FindView& find = view.find;
+    if (find.isOpen || m_shown.find.isOpen) {
+        m_controls.findPanel->Show(find, view.IsEnabled(Control::findNext));
+    }
+    if (find.isSearching) {
+        constexpr int pause = 1; // millisecond
+        m_findingGoesOn.start(pause);
+    }
+}
+
 void Form1::ShowFocus(Commands::Focus focus) {
     switch (focus) {
     case Commands::Focus::Districts:
         m_controls.lvAlpha->setFocus();
+        break;
+    case Commands::Focus::Variations:
+        m_controls.lvVariations->setFocus();
         break;
     case Commands::Focus::Proposals:
         m_controls.LvChanges->setFocus();
@@ -181,6 +210,9 @@ void Form1::ShowFocus(Commands::Focus focus) {
         break;
     case Commands::Focus::OpenButton:
         m_controls.Widget(Control::cbOpen)->setFocus();
+        break;
+    case Commands::Focus::FindBox:
+        m_controls.findPanel->Open();
         break;
     case Commands::Focus::Stays:
         break;

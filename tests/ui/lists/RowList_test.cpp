@@ -35,6 +35,15 @@ protected:
     RowList m_list;
 };
 
+TEST_F(RowListTest, ARowComesToTheMiddleWithoutBeingMovedSideways) {
+    m_list.setColumnWidth(0, 900);
+    QApplication::processEvents();
+    m_list.scrollTo(m_model.index(250, 0), QAbstractItemView::PositionAtCenter);
+    EXPECT_EQ(m_list.horizontalScrollBar()->value(), 0);
+    const int middle = m_list.visualRect(m_model.index(250, 0)).center().y();
+    EXPECT_NEAR(middle, m_list.viewport()->height() / 2, m_list.visualRect(m_model.index(250, 0)).height());
+}
+
 TEST_F(RowListTest, ARowIsWhereTheBaseClassFindsIt) {
     for (const int scroll : {0, 1, 250, Rows}) {
         m_list.verticalScrollBar()->setValue(scroll);

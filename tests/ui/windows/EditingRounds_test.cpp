@@ -10,6 +10,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QTest>
 #include <QTextDocumentFragment>
 
@@ -87,8 +88,9 @@ public:
         return isClosed;
     }
     [[nodiscard]] bool IsEnabled(Commands::Control control) const override {
-        const auto* widget = m_form.findChild<QWidget*>(Text::ToQt(Commands::CommandOf(control).name));
-        return widget == nullptr || widget->isEnabled(); // a key alone is never disabled
+        const QString name = Text::ToQt(Commands::CommandOf(control).name);
+        const auto* widget = m_form.findChild<QWidget*>(name);
+        return widget != nullptr ? widget->isEnabled() : m_form.findChild<QShortcut*>(name)->isEnabled();
     }
 
     [[nodiscard]] ShownWindow Shown() const override {
@@ -123,7 +125,9 @@ public:
             shown.hints.push_back(self.List(list).Hint().toStdString());
         }
         for (const Commands::Command& command : Commands::AllCommands()) {
-            shown.obstacles.push_back(ObstacleTo(command.control));
+            if (!HasKeyAlone(command)) {
+                shown.obstacles.push_back(ObstacleTo(command.control));
+            }
         }
         shown.variationsInHand = self.List("lvVariations").AreInHand();
         const QWidget* focus = m_form.focusWidget();
@@ -153,8 +157,7 @@ private:
     // What the tooltip says behind what the control does.
     [[nodiscard]] std::string ObstacleTo(Commands::Control control) const {
         const auto* widget = m_form.findChild<QWidget*>(Text::ToQt(Commands::CommandOf(control).name));
-        const QString toolTip = widget == nullptr ? QString() : widget->toolTip();
-        const QString hint = QTextDocumentFragment::fromHtml(toolTip).toPlainText();
+        const QString hint = QTextDocumentFragment::fromHtml(widget->toolTip()).toPlainText();
         const QString behind = QStringLiteral(" - ");
         const qsizetype at = hint.indexOf(behind);
         return at < 0 ? std::string() : Back(hint.mid(at + behind.size()));

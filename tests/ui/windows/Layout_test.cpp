@@ -60,6 +60,9 @@ protected:
     void ExpectEverythingInItsPlace() {
         ExpectChildrenApart(Inside());
         for (const auto* button : form->findChildren<QAbstractButton*>()) {
+            if (!button->isVisible() || button->objectName().isEmpty()) {
+                continue; // hidden, or the toolkit's own part of a control
+            }
             EXPECT_GE(button->width(), button->sizeHint().width()) << button->objectName().toStdString();
             EXPECT_GE(button->height(), button->sizeHint().height()) << button->objectName().toStdString();
         }
@@ -112,6 +115,24 @@ TEST_F(LayoutTest, EverythingIsInItsPlaceOnSmallAndLargeScreens) {
         Resize(size);
         ASSERT_EQ(form->size(), size);
         ExpectEverythingInItsPlace();
+    }
+}
+
+TEST_F(LayoutTest, TheFindBarTakesRoomOnlyWhileItIsOpen) {
+    for (const QSize size : {Smallest(), QSize(1366, 768), QSize(1920, 1080)}) {
+        Resize(size);
+        const std::vector<QRect> before{Place("lvAlpha"), Place("lvVariations"), Place("LvChanges"),
+                                        Place("lvComments")};
+        Key("cbOpen", Qt::Key_F, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+        ASSERT_TRUE(Find("tbFind").isVisible());
+        ExpectEverythingInItsPlace();
+        EXPECT_GE(Place("lvFound").height(), 100);
+        Key("lvFound", Qt::Key_Escape);
+        QCoreApplication::processEvents();
+        const std::vector<QRect> after{Place("lvAlpha"), Place("lvVariations"), Place("LvChanges"),
+                                       Place("lvComments")};
+        EXPECT_EQ(after, before);
     }
 }
 
