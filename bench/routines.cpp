@@ -201,7 +201,7 @@ void SortingTexts(benchmark::State& state) {
 void WritingAnUnsavedChange(benchmark::State& state) {
     Ui::AnsweringDesktop desktop;
     UnsavedChanges changes;
-    changes.Begin(desktop, "/data/districts.txt", "bytes", Numbering::AsRead);
+    changes.Begin(desktop, "/data/districts.txt", FingerprintOf("bytes"), Numbering::AsRead);
     Districts.resize(4'712);
     RecordOf(4'711).lVariationCount = 12;
     for ([[maybe_unused]] const auto round : state) {

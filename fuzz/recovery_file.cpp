@@ -46,7 +46,7 @@ void OpenWith(const std::string& leftOver) {
 // Changes without checksums to begin with, since no mutation would get past those.
 RecoveryFile ChangesIn(std::string_view bytes) {
     RecoveryFile file;
-    file.file = IdentityOf("/data", DataFile);
+    file.file = {"/data", FingerprintOf(DataFile)};
     while (bytes.size() >= 3) {
         const auto length = std::min<std::size_t>(static_cast<unsigned char>(bytes[2]) % 40, bytes.size() - 3);
         SlotChange& change =

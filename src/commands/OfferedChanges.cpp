@@ -108,7 +108,7 @@ bool Asking::IsOfOpenFile(const LeftOver& leftOver) {
         return RecoveryNames::MayBelongTo(leftOver.name, file.path);
     }
     const FileIdentity& of = leftOver.file->file;
-    return of.path == file.path || of.HasBytesOf(file) || m_saves.Lead(of, file);
+    return of.path == file.path || of.bytes == file.bytes || m_saves.Lead(of.bytes, file.bytes);
 }
 
 void Asking::AskAbout(const std::string& name) {
@@ -142,13 +142,13 @@ void Asking::Judge(LeftOver& leftOver) {
     const bool isHeld = m_held.contains(leftOver.name) || m_saves.Hold(leftOver.name);
     if (isWhole && (file.changes.empty() || isHeld)) {
         Drop(m_folder, leftOver.name);
-    } else if (isHeld || (isWhole && file.savedAs && file.savedAs->HasBytesOf(Unsaved.File()))) {
+    } else if (isHeld || (isWhole && file.savedAs && file.savedAs->bytes == Unsaved.File().bytes)) {
         SetAside(m_folder, leftOver.name); // the saved file's name may not be on the disk yet
-    } else if (!m_saves.CarryTo(Unsaved.File(), file) && !m_saves.Problem().empty()) {
+    } else if (!m_saves.CarryTo(Unsaved.File().bytes, file) && !m_saves.Problem().empty()) {
         leftOver.problem = m_saves.Problem();
         TellOfProblem(leftOver);
         GiveBack(m_folder, leftOver.name);
-    } else if (!file.file.HasBytesOf(Unsaved.File())) {
+    } else if (file.file.bytes != Unsaved.File().bytes) {
         TellSetAside(leftOver, "There are " + ChangesOf(leftOver) + " to an earlier state of this file.");
     } else if (!FitsEncoding(file)) {
         TellSetAside(leftOver, "The " + ChangesOf(leftOver) + " have characters that this file cannot hold.");

@@ -19,12 +19,21 @@ namespace {
 constexpr std::string_view LineEnd = "\r\n";
 constexpr std::size_t MostTyped = 65536; // in most sessions
 
+// A file as it is to be written.
+struct Content {
+    std::string bytes;
+    Fingerprint fingerprint; // of them
+};
+
 // Texts put together. Those that stand in the content that was read as they are to be written, one behind the other,
 // are copied at once, which is nearly all of a file.
 class Joined {
 public:
     // Growing step by step would touch twice the memory. What is not needed is never touched.
-    Joined() { m_joined.reserve(Unsaved.File().size + MostTyped); }
+    explicit Joined(std::string_view beginning) {
+        m_joined.reserve(Unsaved.File().bytes.size + MostTyped);
+        Append(beginning);
+    }
 
     // A text that stays until the end; `isPart` says that it is a part of the content.
     void Add(std::string_view separator, std::string_view text, bool isPart) {
@@ -35,19 +44,33 @@ public:
             m_run = {m_run.data(), m_run.size() + separator.size() + text.size()};
             return;
         }
-        m_joined.append(m_run).append(separator);
+        Append(m_run);
+        Append(separator);
         m_run = text;
         m_isPart = isPart && !text.empty();
     }
-    [[nodiscard]] std::string Ended(std::string_view end) && {
-        m_joined.append(m_run).append(end);
-        return std::move(m_joined);
+    [[nodiscard]] Content Ended(std::string_view end) && {
+        Append(m_run);
+        Append(end);
+        return {std::move(m_joined), m_fingerprint.OfAll()};
     }
 
 private:
+    // Bytes that have just been copied are near at hand for the fingerprint.
+    void Append(std::string_view text) {
+        constexpr std::size_t nearAtHand = 65536;
+        while (!text.empty()) {
+            const std::string_view piece = text.substr(0, nearAtHand);
+            m_joined.append(piece);
+            m_fingerprint.Add(piece);
+            text.remove_prefix(piece.size());
+        }
+    }
+
     std::string m_joined;
-    std::string_view m_run; // not yet in it
-    bool m_isPart = false;  // of the content, so that more of it may follow
+    GrowingFingerprint m_fingerprint; // of m_joined
+    std::string_view m_run;           // not yet in it
+    bool m_isPart = false;            // of the content, so that more of it may follow
 };
 
 std::optional<std::string> ChooseTarget(Desktop& desktop) {
@@ -109,17 +132,17 @@ bool MayLeaveBehind(Desktop& desktop) {
                BoxIcon::Question, BoxButtons::YesNoDefaultNo) == BoxAnswer::Yes;
 }
 
-void WriteTable(Desktop& desktop, const std::string& path, const std::string& content, Encoding next) {
-    if (!Unsaved.NoteSaving(desktop, path, content) && !MayLeaveBehind(desktop)) {
+void WriteTable(Desktop& desktop, const std::string& path, const Content& content, Encoding next) {
+    if (!Unsaved.NoteSaving(desktop, path, content.fingerprint) && !MayLeaveBehind(desktop)) {
         desktop.ShowBusy(false);
         return;
     }
-    const bool saved = WriteFile(desktop, path, content);
-    const bool isOpenElsewhere = saved && TheOpenFile.MoveTo(desktop, path, content);
-    if (!saved && OpenFile::IsAt(desktop, path) && desktop.ReadFile(path) == content) {
+    const bool saved = WriteFile(desktop, path, content.bytes);
+    const bool isOpenElsewhere = saved && TheOpenFile.MoveTo(desktop, path, content.fingerprint);
+    if (!saved && OpenFile::IsAt(desktop, path) && desktop.ReadFile(path) == content.bytes) {
         // It is there, but perhaps not to stay. What is changed from now on belongs to it; what was
         // changed before stays left over in case the old file comes back.
-        Unsaved.Begin(desktop, path, content, Numbering::AsSaved);
+        Unsaved.Begin(desktop, path, content.fingerprint, Numbering::AsSaved);
     }
     desktop.ShowBusy(false);
     if (saved) {
@@ -131,10 +154,8 @@ void WriteTable(Desktop& desktop, const std::string& path, const std::string& co
     }
 }
 
-} // namespace
-
-std::string DistrictFileContent() {
-    Joined content;
+Content JoinedTable(std::string_view beginning) {
+    Joined content(beginning);
     for (std::int32_t i = 1; i <= lLineCount; ++i) {
         const DistrictRecord& record = RecordOf(i);
         content.Add(i == 1 ? std::string_view() : LineEnd, record.HeaderText(), record.Line.IsPart());
@@ -148,15 +169,21 @@ std::string DistrictFileContent() {
     return std::move(content).Ended(lLineCount == 0 ? std::string_view() : LineEnd);
 }
 
+} // namespace
+
+std::string DistrictFileContent() {
+    return JoinedTable({}).bytes;
+}
+
 void SaveDistrictFile(Desktop& desktop) {
     const auto path = ChooseTarget(desktop);
     if (!path || !MayEmpty(desktop, *path)) {
         return;
     }
     desktop.ShowBusy(true);
-    const std::string content = Encoded(DistrictFileContent(), eFileEncoding);
+    const Content content = JoinedTable(Encoded({}, eFileEncoding));
     desktop.ShowBusy(false);
-    const Encoding next = EncodingOf(content);
+    const Encoding next = EncodingOf(content.bytes);
     // What others do while a question stands must be seen, so that their file is looked at last.
     if (MayBeReadAs(next, desktop) && MayReplaceChanged(desktop, *path)) {
         desktop.ShowBusy(true);

@@ -29,10 +29,6 @@ std::vector<std::string> LatestFirst(std::vector<std::string> names, std::string
     return names;
 }
 
-std::string DigestOf(std::string_view dataFile) {
-    return IdentityOf({}, dataFile).digest;
-}
-
 // Reads a left-over file as far as that goes.
 LeftOver ReadLeftOver(StateFolder& folder, const std::string& name) {
     LeftOver leftOver{name, std::nullopt, false, {}};
@@ -53,11 +49,11 @@ LeftOver ReadLeftOver(StateFolder& folder, const std::string& name) {
 } // namespace
 
 std::string RecoveryNames::New(StateFolder& folder, std::string_view dataFile) {
-    return folder.NewName() + '-' + DigestOf(dataFile).append(Ending);
+    return folder.NewName() + '-' + FingerprintOf(dataFile).digest.append(Ending);
 }
 
 std::string RecoveryNames::OfSave(StateFolder& folder, std::string_view dataFile) {
-    return folder.NewName() + '-' + DigestOf(dataFile).append(SaveEnding);
+    return folder.NewName() + '-' + FingerprintOf(dataFile).digest.append(SaveEnding);
 }
 
 std::string RecoveryNames::LockOf(const std::string& name) {
@@ -65,7 +61,7 @@ std::string RecoveryNames::LockOf(const std::string& name) {
 }
 
 bool RecoveryNames::MayBelongTo(std::string_view name, std::string_view dataFile) {
-    const std::string digest = DigestOf(dataFile);
+    const std::string digest = FingerprintOf(dataFile).digest;
     name.remove_suffix(name.ends_with(Ending) ? Ending.size() : 0);
     const std::string_view last = name.substr(name.rfind('-') + 1); // all of a name without one
     return last.size() != digest.size() || last == digest;
@@ -108,7 +104,7 @@ bool AreOthersAt(StateFolder& folder, std::string_view dataFile, const std::stri
 
 std::vector<std::string> SavesOf(StateFolder& folder, std::string_view dataFile) {
     std::vector<std::string> names = LatestFirst(folder.Names(), SaveEnding);
-    const std::string ending = DigestOf(dataFile).append(SaveEnding);
+    const std::string ending = FingerprintOf(dataFile).digest.append(SaveEnding);
     std::erase_if(names, [&](const std::string& name) { return !name.ends_with(ending); });
     return names;
 }

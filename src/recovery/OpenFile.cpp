@@ -20,7 +20,7 @@ bool OpenFile::WasChangedAt(Desktop& desktop, const std::string& path) const {
         return false;
     }
     const auto bytes = desktop.ReadFile(path);
-    return !bytes || !IdentityOf(path, *bytes).HasBytesOf(Unsaved.File());
+    return !bytes || FingerprintOf(*bytes) != Unsaved.File().bytes;
 }
 
 void OpenFile::Close(Desktop& desktop) {
@@ -33,10 +33,10 @@ void OpenFile::Close(Desktop& desktop) {
 void OpenFile::BeginReading(Desktop& desktop, const std::string& path, std::string_view bytes, std::string stamp) {
     m_path = path;
     m_stamp = std::move(stamp);
-    Unsaved.Begin(desktop, path, bytes, Numbering::AsRead);
+    Unsaved.Begin(desktop, path, FingerprintOf(bytes), Numbering::AsRead);
 }
 
-bool OpenFile::MoveTo(Desktop& desktop, const std::string& path, std::string_view bytes) {
+bool OpenFile::MoveTo(Desktop& desktop, const std::string& path, const Fingerprint& bytes) {
     const bool isAnother = !IsAt(desktop, path);
     m_path = path;
     m_stamp = desktop.StampOf(path);

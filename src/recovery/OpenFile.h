@@ -1,5 +1,6 @@
 #pragma once
 
+#include "recovery/Fingerprint.h"
 #include "recovery/OpenMark.h"
 
 #include <string>
@@ -27,7 +28,7 @@ public:
     // The file that was read is shown from now on. True when another editor has it open, too.
     [[nodiscard]] bool Mark(Desktop& desktop) { return m_mark.Set(desktop, m_path); }
     // The table has been saved as these bytes. True when this is another file, and another editor has it open.
-    [[nodiscard]] bool MoveTo(Desktop& desktop, const std::string& path, std::string_view bytes);
+    [[nodiscard]] bool MoveTo(Desktop& desktop, const std::string& path, const Fingerprint& bytes);
 
 private:
     std::string m_path;

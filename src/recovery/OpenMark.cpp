@@ -1,7 +1,7 @@
 #include "recovery/OpenMark.h"
 
 #include "core/Desktop.h"
-#include "recovery/RecoveryFile.h"
+#include "recovery/Fingerprint.h"
 
 namespace CommonRoutines {
 
@@ -11,7 +11,7 @@ constexpr std::string_view Ending = ".open";
 
 // Marks of a file begin alike.
 std::string BeginningFor(std::string_view truePath) {
-    return IdentityOf({}, truePath).digest + '-';
+    return FingerprintOf(truePath).digest + '-';
 }
 
 } // namespace

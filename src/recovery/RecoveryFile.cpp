@@ -1,5 +1,7 @@
 #include "recovery/RecoveryFile.h"
 
+#include "recovery/Hex.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -16,28 +18,19 @@ constexpr std::string_view Title = "Quexal Editor, unsaved changes, version ";
 constexpr int CurrentVersion = 2;
 constexpr int VersionWithoutChain = 1; // a checksum covers its own line, and the encoding is not named
 
-constexpr std::size_t CheckLength = 16;
+constexpr std::size_t CheckLength = HexLength;
 constexpr char LineEnd = '\n';
 // In the place of a line number.
 constexpr std::string_view Saving = "saving ";
 constexpr std::string_view Inserting = "insert ";
 constexpr std::string_view Holding = "holds ";
 constexpr std::string_view Renumbering = "numbers ";
-constexpr int Hexadecimal = 16;
 
 constexpr std::array<std::pair<Encoding, std::string_view>, 3> EncodingNames{{
     {Encoding::Windows1252, "windows-1252"},
     {Encoding::Utf8, "utf-8"},
     {Encoding::Utf8WithMark, "utf-8-with-mark"},
 }};
-
-std::string Hex(XXH64_hash_t number) {
-    std::array<char, CheckLength> digits{};
-    const char* const end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), std::uint64_t{number}, Hexadecimal).ptr;
-    const auto length = static_cast<std::size_t>(end - digits.data());
-    return std::string(CheckLength - length, '0').append(digits.data(), length);
-}
 
 // A text without line ends, and back.
 std::string Escaped(std::string_view text) {
@@ -87,17 +80,17 @@ bool TakeNumber(std::string_view& rest, Number& number) {
 }
 
 std::string Identity(const FileIdentity& file) {
-    return std::to_string(file.size) + ' ' + file.digest + ' ' + Escaped(file.path);
+    return std::to_string(file.bytes.size) + ' ' + file.bytes.digest + ' ' + Escaped(file.path);
 }
 
 std::optional<FileIdentity> ParseIdentity(std::string_view body) {
     FileIdentity file;
-    if (!TakeNumber(body, file.size)) {
+    if (!TakeNumber(body, file.bytes.size)) {
         return std::nullopt;
     }
-    file.digest = TakeWord(body);
+    file.bytes.digest = TakeWord(body);
     auto path = Unescaped(body);
-    if (file.digest.size() != 2 * CheckLength || !path) {
+    if (file.bytes.digest.size() != 2 * CheckLength || !path) {
         return std::nullopt;
     }
     file.path = std::move(*path);
@@ -253,11 +246,6 @@ std::optional<RecoveryFile> ParseHeader(std::string_view body, int version) {
 }
 
 } // namespace
-
-FileIdentity IdentityOf(std::string_view path, std::string_view bytes) {
-    const XXH128_hash_t digest = XXH3_128bits(bytes.data(), bytes.size());
-    return {std::string(path), bytes.size(), Hex(digest.high64) + Hex(digest.low64)};
-}
 
 std::string IdentityLine(const FileIdentity& file) {
     const std::string body = Identity(file);

@@ -5,6 +5,7 @@
 // is damaged, missing or in another place shows, and what stands before it can still be trusted.
 
 #include "core/Encoding.h"
+#include "recovery/Fingerprint.h"
 
 #include <cstdint>
 #include <optional>
@@ -17,14 +18,9 @@ namespace CommonRoutines {
 // The data file to which changes belong.
 struct FileIdentity {
     std::string path; // without links, in the machine's own encoding
-    std::size_t size = 0;
-    std::string digest; // of its bytes: 32 hexadecimal digits
+    Fingerprint bytes;
 
     bool operator==(const FileIdentity&) const = default;
-    // True when the file is, byte for byte, that one, wherever it is.
-    [[nodiscard]] bool HasBytesOf(const FileIdentity& other) const {
-        return size == other.size && digest == other.digest;
-    }
 };
 
 // A slot of a line that got another text. Lines and slots are numbered from 1, as the file is read; a
@@ -59,10 +55,6 @@ struct RecoveryFile {
     std::size_t overtaken = 0;        // changes that were left out, since a later save has changed their slots
     bool isDamaged = false;           // something followed that cannot be trusted
 };
-
-// What identifies a file with these bytes. The digest is XXH3 of 128 bits, which tells versions of a
-// file apart at the speed of memory; it does not protect from somebody who forges one.
-[[nodiscard]] FileIdentity IdentityOf(std::string_view path, std::string_view bytes);
 
 // An identity as a line with a checksum and an end, and back; nothing when the line is damaged.
 [[nodiscard]] std::string IdentityLine(const FileIdentity& file);

@@ -42,7 +42,7 @@ SaveCopy Parsed(const std::string& name, std::string bytes) {
     const std::string_view line = std::string_view(copy.bytes).substr(0, end).substr(FirstLine.size());
     auto file = ParseIdentityLine(line);
     copy.start = end + 1;
-    if (file && IdentityOf(file->path, copy.Content()) == *file) {
+    if (file && FingerprintOf(copy.Content()) == file->bytes) {
         copy.path = std::move(file->path);
     }
     return copy;
@@ -160,7 +160,7 @@ bool OverwriteBehindCopy(Desktop& desktop, const std::string& path, std::string_
     const std::string name = folder.NewName().append(Ending);
     const bool isNew = desktop.StampOf(path).empty();
     const std::optional<std::string> old = desktop.ReadFile(path);
-    if (!Put(folder, name, BytesOf(IdentityOf(desktop.TruePath(path), content), content))) {
+    if (!Put(folder, name, BytesOf({desktop.TruePath(path), FingerprintOf(content)}, content))) {
         return false;
     }
     const auto isPutBack = [&] {

@@ -78,7 +78,7 @@ void Carry(RecoveryFile& changes, const RecoveryFile& save) {
         }
     }
     changes.changes = std::move(carried);
-    changes.file = {changes.file.path, save.savedAs->size, save.savedAs->digest};
+    changes.file = {changes.file.path, save.savedAs->bytes};
 }
 
 } // namespace
@@ -125,19 +125,19 @@ void SavesForOthers::NoteProblem() {
     }
 }
 
-std::vector<const RecoveryFile*> SavesForOthers::Between(const FileIdentity& before, const FileIdentity& now) {
+std::vector<const RecoveryFile*> SavesForOthers::Between(const Fingerprint& before, const Fingerprint& now) {
     std::vector<const RecoveryFile*> saves;
-    FileIdentity state = now;
+    Fingerprint state = now;
     for (const RecoveryFile& save : All()) { // the latest first
-        if (state.HasBytesOf(before)) {
+        if (state == before) {
             break;
         }
-        if (save.savedAs->HasBytesOf(state)) {
+        if (save.savedAs->bytes == state) {
             saves.insert(saves.begin(), &save);
-            state = save.file;
+            state = save.file.bytes;
         }
     }
-    return state.HasBytesOf(before) ? saves : std::vector<const RecoveryFile*>();
+    return state == before ? saves : std::vector<const RecoveryFile*>();
 }
 
 bool SavesForOthers::Hold(const std::string& leftOver) {
@@ -145,14 +145,14 @@ bool SavesForOthers::Hold(const std::string& leftOver) {
     return m_held.contains(leftOver);
 }
 
-bool SavesForOthers::CarryTo(const FileIdentity& now, RecoveryFile& changes) {
-    if (changes.file.HasBytesOf(now)) {
+bool SavesForOthers::CarryTo(const Fingerprint& now, RecoveryFile& changes) {
+    if (changes.file.bytes == now) {
         return true;
     }
-    for (const RecoveryFile* save : Between(changes.file, now)) {
+    for (const RecoveryFile* save : Between(changes.file.bytes, now)) {
         Carry(changes, *save);
     }
-    return changes.file.HasBytesOf(now);
+    return changes.file.bytes == now;
 }
 
 } // namespace CommonRoutines

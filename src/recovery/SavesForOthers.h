@@ -30,21 +30,19 @@ public:
     void RemoveUnlessWanted(const std::string& own, std::span<const std::string> putOff);
 
     // Whether saves have led from an earlier state of the file to its present one.
-    [[nodiscard]] bool Lead(const FileIdentity& before, const FileIdentity& now) {
-        return !Between(before, now).empty();
-    }
+    [[nodiscard]] bool Lead(const Fingerprint& before, const Fingerprint& now) { return !Between(before, now).empty(); }
     // Whether a left-over file was taken over by an editor that has saved its changes since.
     [[nodiscard]] bool Hold(const std::string& leftOver);
     // Makes changes to an earlier state of the file changes to its present one. Of a variation that the save has
     // changed, too, that counts. False when it is not known how the one state became the other.
-    [[nodiscard]] bool CarryTo(const FileIdentity& now, RecoveryFile& changes);
+    [[nodiscard]] bool CarryTo(const Fingerprint& now, RecoveryFile& changes);
     // Why that may be known another time; empty when all has been read.
     [[nodiscard]] const std::string& Problem() const { return m_problem; }
 
 private:
     [[nodiscard]] const std::vector<RecoveryFile>& All();
     void NoteProblem();
-    [[nodiscard]] std::vector<const RecoveryFile*> Between(const FileIdentity& before, const FileIdentity& now);
+    [[nodiscard]] std::vector<const RecoveryFile*> Between(const Fingerprint& before, const Fingerprint& now);
 
     StateFolder& m_folder;
     std::string m_path;

@@ -9,11 +9,11 @@ namespace CommonRoutines {
 
 UnsavedChanges Unsaved;
 
-void UnsavedChanges::Begin(Desktop& desktop, const std::string& path, std::string_view bytes, Numbering numbering) {
+void UnsavedChanges::Begin(Desktop& desktop, const std::string& path, const Fingerprint& bytes, Numbering numbering) {
     Release(desktop);
     m_following = true;
     m_numbering = numbering;
-    m_file = IdentityOf(desktop.TruePath(path), bytes);
+    m_file = {desktop.TruePath(path), bytes};
     if (numbering == Numbering::AsRead) { // another file
         m_hasTold = false;
         m_putOff.clear();
@@ -71,18 +71,14 @@ RecoveryRecords& UnsavedChanges::Records() {
     return *m_records;
 }
 
-bool UnsavedChanges::NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes) {
-    const std::string truePath = desktop.TruePath(path);
+bool UnsavedChanges::NoteSaving(Desktop& desktop, const std::string& path, const Fingerprint& bytes) {
+    const FileIdentity saved{desktop.TruePath(path), bytes};
     if (m_records) {
-        m_records->AddSaving(IdentityOf(truePath, bytes));
+        m_records->AddSaving(saved);
         Write(desktop);
     }
     SavesForOthers saves(desktop.State(), m_file.path);
-    if (truePath != m_file.path || !saves.AreWanted(m_name, m_putOff)) {
-        return true; // without a digest, which takes its time for a large file
-    }
-    const FileIdentity saved = IdentityOf(truePath, bytes);
-    if (saved.HasBytesOf(m_file)) {
+    if (saved == m_file || saved.path != m_file.path || !saves.AreWanted(m_name, m_putOff)) {
         return true;
     }
     const RecoveryRecords records = RecordsOfSave(saved);

@@ -27,7 +27,7 @@ class UnsavedChanges {
 public:
     // The table is, or is about to become, what is read from these bytes. Nothing is removed: what has
     // not been saved so far stays left over.
-    void Begin(Desktop& desktop, const std::string& path, std::string_view bytes, Numbering numbering);
+    void Begin(Desktop& desktop, const std::string& path, const Fingerprint& bytes, Numbering numbering);
 
     // To be called before a slot of the table gets another text.
     void Note(std::int32_t line, std::int32_t slot, std::string_view text);
@@ -47,7 +47,7 @@ public:
     // The table is about to be saved as these bytes, under any name. Should the editor be stopped between that and
     // Remove, the changes are then known to be in the file. False when others have changes that would not fit the file
     // any more, since the save could not be kept for them.
-    [[nodiscard]] bool NoteSaving(Desktop& desktop, const std::string& path, std::string_view bytes);
+    [[nodiscard]] bool NoteSaving(Desktop& desktop, const std::string& path, const Fingerprint& bytes);
 
     // What is noted and not yet written holds what this left-over file does. Its lock is taken over; the
     // file goes, or is set aside, when it is not needed any more.

@@ -26,7 +26,7 @@ protected:
     void Leave(const std::vector<SlotChange>& changes, const std::string& bytes = Content,
                const std::string& path = DataFilePath, const std::string& name = "0001") {
         RecoveryFile file;
-        file.file = IdentityOf(path, bytes);
+        file.file = {path, FingerprintOf(bytes)};
         file.changes = changes;
         Leave(file, name);
     }
@@ -182,7 +182,7 @@ TEST_F(RestoreChangesTest, LeftTwiceByAnEditorThatWasStoppedWhileItTookThemOverA
         desktop.state.storage->files.clear();
         Leave({{1, 2, "Fir", {}}}, Content, DataFilePath, "0001");
         RecoveryFile both;
-        both.file = IdentityOf(DataFilePath, Content);
+        both.file = {DataFilePath, FingerprintOf(Content)};
         both.changes = {{1, 2, "Fir", {}}, {1, 4, "Ivy", {}}};
         both.holds = {"0001.changes"};
         Leave(both, "0002");
@@ -258,7 +258,7 @@ TEST_F(RestoreChangesTest, OfAnEarlierStateAreSetAside) {
 TEST_F(RestoreChangesTest, ThatTheFileHasSinceTheyWereSavedAreSetAsideUnasked) {
     Leave({{1, 2, "Fir", {}}}, "bytes of yesterday");
     RecoveryFile saved = *ParseRecoveryFile(*desktop.state.Read("0001.changes"));
-    saved.savedAs = IdentityOf("/data/whatever.txt", Content);
+    saved.savedAs = {"/data/whatever.txt", FingerprintOf(Content)};
     Leave(saved);
     Open();
     ExpectUntouched();
@@ -267,8 +267,8 @@ TEST_F(RestoreChangesTest, ThatTheFileHasSinceTheyWereSavedAreSetAsideUnasked) {
 
 TEST_F(RestoreChangesTest, MadeAfterAnAttemptToSaveAreNotTakenForSaved) {
     Leave({{1, 2, "Fir", {}}}, "bytes of yesterday");
-    RecoveryRecords records(IdentityOf(DataFilePath, "bytes of yesterday"), Encoding::Windows1252);
-    records.AddSaving(IdentityOf(DataFilePath, Content));
+    RecoveryRecords records({DataFilePath, FingerprintOf("bytes of yesterday")}, Encoding::Windows1252);
+    records.AddSaving({DataFilePath, FingerprintOf(Content)});
     records.AddChange({1, 3, "Larch", {}});
     desktop.state.storage->files["0001.changes"] = records.Content();
     ExpectSetAside("There are unsaved changes of 05 Mar 2026 14:07 to an earlier state of this file.");
@@ -279,7 +279,7 @@ TEST_F(RestoreChangesTest, MadeAfterAnAttemptToSaveAreNotTakenForSaved) {
 TEST_F(RestoreChangesTest, OfASaveThatDidNotComeAboutAreOffered) {
     Leave({{1, 2, "Fir", {}}});
     RecoveryFile saving = *ParseRecoveryFile(*desktop.state.Read("0001.changes"));
-    saving.savedAs = IdentityOf(DataFilePath, "never written");
+    saving.savedAs = {DataFilePath, FingerprintOf("never written")};
     Leave(saving);
     ExpectQuestion(BoxAnswer::Yes);
     Open();
@@ -432,7 +432,7 @@ TEST_F(RestoreChangesTest, OfALivingEditorAreNotTouchedAndTheSecondEditorIsTold)
     ASSERT_FALSE(mark.Set(first, DataFilePath));
     ReadText(first, Content);
     UnsavedChanges theirs;
-    theirs.Begin(first, DataFilePath, Content, Numbering::AsRead);
+    theirs.Begin(first, DataFilePath, FingerprintOf(Content), Numbering::AsRead);
     theirs.Note(1, 1, "Theirs");
     theirs.Write(first);
     const auto before = desktop.state.storage->files;
@@ -529,7 +529,7 @@ TEST_F(RestoreChangesTest, MadeToTakeLongTakeNoTime) {
 // The last letter beyond ASCII had gone from the file, but not from the editor.
 TEST_F(RestoreChangesTest, ChangesInUtf8ComeBackWholeToAFileOfWhichOnlyAsciiIsLeft) {
     RecoveryFile file;
-    file.file = IdentityOf(DataFilePath, Content);
+    file.file = {DataFilePath, FingerprintOf(Content)};
     file.encoding = Encoding::Utf8;
     file.changes = {{1, 1, "D\xC5\xB5r", {}}};
     Leave(file);
@@ -542,7 +542,7 @@ TEST_F(RestoreChangesTest, ChangesInUtf8ComeBackWholeToAFileOfWhichOnlyAsciiIsLe
 TEST_F(RestoreChangesTest, ChangesInAnotherEncodingKeepTheirCharacters) {
     const std::string utf8 = HeaderOf("D\xC5\xB5r") + "|Ash\r\n";
     RecoveryFile file;
-    file.file = IdentityOf(DataFilePath, utf8);
+    file.file = {DataFilePath, FingerprintOf(utf8)};
     file.changes = {{1, 1, "Caf\xE9", {}}};
     Leave(file);
     ExpectQuestion(BoxAnswer::Yes);
@@ -553,7 +553,7 @@ TEST_F(RestoreChangesTest, ChangesInAnotherEncodingKeepTheirCharacters) {
 TEST_F(RestoreChangesTest, WithCharactersThatTheFileCannotHoldAreSetAside) {
     const std::string content = HeaderOf("North") + "|Caf\xE9\r\n";
     RecoveryFile file;
-    file.file = IdentityOf(DataFilePath, content);
+    file.file = {DataFilePath, FingerprintOf(content)};
     file.encoding = Encoding::Utf8;
     file.changes = {{1, 1, "D\xC5\xB5r", {}}};
     Leave(file);
@@ -565,7 +565,7 @@ TEST_F(RestoreChangesTest, WithCharactersThatTheFileCannotHoldAreSetAside) {
 TEST_F(RestoreChangesTest, InUtf8AreWrittenAnewTogetherWithRepairsInAscii) {
     const std::string content = HeaderOf("North") + "|%\r\n" + HeaderOf("South") + "|Yew\r\n";
     RecoveryFile file;
-    file.file = IdentityOf(DataFilePath, content);
+    file.file = {DataFilePath, FingerprintOf(content)};
     file.encoding = Encoding::Utf8;
     file.changes = {{2, 1, "D\xC5\xB5r", {}}};
     Leave(file);

@@ -51,7 +51,7 @@ protected:
 
 TEST_F(ScarceMemoryTest, LeftOverChangesComeBackWholeOrStayLeftOver) {
     RecoveryFile leftOver;
-    leftOver.file = IdentityOf(DataFilePath, Content);
+    leftOver.file = {DataFilePath, FingerprintOf(Content)};
     leftOver.changes = {{2, 2, "Fir", {}}, {2, 5, LongText, 1}, {3, 1, "\t", {}}, {3, 3, "Larch", {}}};
     const std::string restored = "#QX_NOTE\r\n" + HeaderOf("North") + "|Ash|" + LongText + "|Fir|Oak|Elm Tree\r\n" +
                                  HeaderOf("South") + "|" + LongText + "|Larch\r\n";

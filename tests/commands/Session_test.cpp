@@ -32,7 +32,7 @@ class SessionTest : public StateTest {
 protected:
     SessionTest() {
         lCurrentDistrict = AddDistrict("Alpha", {"Alfa"});
-        Unsaved.Begin(desktop, DataFilePath, "", Numbering::AsRead);
+        Unsaved.Begin(desktop, DataFilePath, FingerprintOf(""), Numbering::AsRead);
     }
 
     static void Change(Session& session) {

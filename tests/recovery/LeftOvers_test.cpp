@@ -15,7 +15,7 @@ class LeftOversTest : public testing::Test {
 protected:
     void Put(const std::string& name) {
         RecoveryFile file;
-        file.file = IdentityOf("/data/a", "a");
+        file.file = {"/data/a", FingerprintOf("a")};
         Put(name, RecoveryText(file));
     }
     void Put(const std::string& name, const std::string& content) { folder.storage->files[name] = content; }

@@ -41,14 +41,14 @@ protected:
 
 TEST_F(OpenFileTest, IsTheOneThatWasRead) {
     EXPECT_EQ(TheOpenFile.Path(), Read);
-    EXPECT_EQ(Unsaved.File(), IdentityOf(Read, "bytes"));
+    EXPECT_EQ(Unsaved.File(), (FileIdentity{Read, FingerprintOf("bytes")}));
     EXPECT_TRUE(IsMarked(Read));
 }
 
 TEST_F(OpenFileTest, IsTheOneThatWasSavedFromThenOn) {
-    EXPECT_FALSE(TheOpenFile.MoveTo(desktop, Saved, "new bytes"));
+    EXPECT_FALSE(TheOpenFile.MoveTo(desktop, Saved, FingerprintOf("new bytes")));
     EXPECT_EQ(TheOpenFile.Path(), Saved);
-    EXPECT_EQ(Unsaved.File(), IdentityOf(Saved, "new bytes"));
+    EXPECT_EQ(Unsaved.File(), (FileIdentity{Saved, FingerprintOf("new bytes")}));
     EXPECT_TRUE(IsMarked(Saved));
     EXPECT_FALSE(IsMarked(Read));
 }
@@ -56,8 +56,8 @@ TEST_F(OpenFileTest, IsTheOneThatWasSavedFromThenOn) {
 TEST_F(OpenFileTest, SavedUnderAnotherNameIsToldOfWhenAnotherEditorHasItOpen) {
     OpenMark theirs;
     ASSERT_FALSE(theirs.Set(other, Saved));
-    EXPECT_TRUE(TheOpenFile.MoveTo(desktop, Saved, "new bytes"));
-    EXPECT_FALSE(TheOpenFile.MoveTo(desktop, Saved, "newer bytes")); // which was said before
+    EXPECT_TRUE(TheOpenFile.MoveTo(desktop, Saved, FingerprintOf("new bytes")));
+    EXPECT_FALSE(TheOpenFile.MoveTo(desktop, Saved, FingerprintOf("newer bytes"))); // which was said before
 }
 
 TEST_F(OpenFileTest, IsTheSameWhereverALinkLeadsToIt) {
@@ -69,7 +69,7 @@ TEST_F(OpenFileTest, IsTheSameWhereverALinkLeadsToIt) {
 TEST_F(OpenFileTest, SavedUnderItsOwnNameKeepsItsMarkAllTheTime) {
     const std::vector<std::string> before = desktop.state.Names();
     ASSERT_EQ(before.size(), 1U);
-    EXPECT_FALSE(TheOpenFile.MoveTo(desktop, "/link", "new bytes"));
+    EXPECT_FALSE(TheOpenFile.MoveTo(desktop, "/link", FingerprintOf("new bytes")));
     EXPECT_EQ(desktop.state.Names(), before);
     EXPECT_EQ(TheOpenFile.Path(), "/link");
 }

@@ -12,7 +12,7 @@ namespace {
 
 using Changes = std::vector<SlotChange>;
 
-const FileIdentity File{"/data/d\xC4\x85ta file.txt", 1234, "0123456789abcdef0123456789ABCDEF"};
+const FileIdentity File{"/data/d\xC4\x85ta file.txt", {1234, "0123456789abcdef0123456789ABCDEF"}};
 
 std::string Written(const Changes& changes, const FileIdentity& file = File) {
     RecoveryFile recovery;
@@ -49,8 +49,8 @@ TEST(RecoveryFile, MayHaveNoChangesYet) {
 }
 
 TEST(RecoveryFile, SaysAsWhatAllOfItsChangesWereToBeSaved) {
-    const FileIdentity first{"/data/first.txt", 5, "00112233445566778899aabbccddeeff"};
-    const FileIdentity last{"/data/last\n.txt", 6, "00112233445566778899aabbccddeefe"};
+    const FileIdentity first{"/data/first.txt", {5, "00112233445566778899aabbccddeeff"}};
+    const FileIdentity last{"/data/last\n.txt", {6, "00112233445566778899aabbccddeefe"}};
     RecoveryRecords records(File, Encoding::Windows1252);
     records.AddChange(Several.front());
     records.AddSaving(first);
@@ -121,7 +121,7 @@ TEST(RecoveryFile, KeepsEveryByteOfATextAndOfAPath) {
     for (const std::string& text : texts) {
         changes.push_back({1, static_cast<std::int32_t>(changes.size()) + 1, text, {}});
     }
-    const FileIdentity odd{"/data\n/\\n\\" + all, 0, File.digest};
+    const FileIdentity odd{"/data\n/\\n\\" + all, {0, File.bytes.digest}};
     const auto read = ParseRecoveryFile(Written(changes, odd));
     ASSERT_TRUE(read);
     EXPECT_EQ(read->file, odd);
@@ -202,20 +202,4 @@ TEST(RecoveryFile, WithNumbersThatNoTableHasIsDamaged) {
         EXPECT_TRUE(read->isDamaged) << change.line << ' ' << change.slot;
         EXPECT_TRUE(read->changes.empty());
     }
-}
-
-TEST(FileIdentity, IsThatOfTheBytes) {
-    const FileIdentity identity = IdentityOf("/data/a", "Ash");
-    EXPECT_EQ(identity.path, "/data/a");
-    EXPECT_EQ(identity.size, 3U);
-    EXPECT_EQ(identity.digest.size(), 32U);
-    EXPECT_TRUE(identity.HasBytesOf(IdentityOf("/other", "Ash")));
-    EXPECT_FALSE(identity.HasBytesOf(IdentityOf("/data/a", "Asp")));
-    EXPECT_FALSE(identity.HasBytesOf(IdentityOf("/data/a", "Ash ")));
-    EXPECT_FALSE(identity.HasBytesOf(IdentityOf("/data/a", "")));
-}
-
-// The published value of the empty text: xxHash, XXH3_128bits with seed 0.
-TEST(FileIdentity, HasTheDigestThatOtherProgramsCompute) {
-    EXPECT_EQ(IdentityOf("", "").digest, "99aa06d3014798d86001c324468d497f");
 }

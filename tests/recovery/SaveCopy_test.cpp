@@ -77,7 +77,7 @@ TEST_F(SaveCopyTest, TheCopyIsThereAndLockedBeforeTheFileIsTouched) {
             const auto copies = state.Kept(".copy");
             EXPECT_EQ(copies.size(), 1U);
             EXPECT_EQ(state.storage->files[copies.at(0)], "Quexal Editor, a file being written, version 1\n" +
-                                                              IdentityLine(IdentityOf(path, content)) +
+                                                              IdentityLine({path, FingerprintOf(content)}) +
                                                               std::string(content));
             EXPECT_TRUE(state.storage->locks.contains(copies.at(0) + ".lock"));
             EXPECT_EQ(files[path], Old);

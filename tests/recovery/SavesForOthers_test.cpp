@@ -23,7 +23,7 @@ protected:
     // What another editor has made of the file.
     void Leave(const std::vector<SlotChange>& changes) {
         RecoveryFile file;
-        file.file = IdentityOf(DataFilePath, Content);
+        file.file = {DataFilePath, FingerprintOf(Content)};
         file.changes = changes;
         desktop.state.storage->files[Theirs] = RecoveryText(file);
     }
@@ -101,7 +101,7 @@ TEST_F(SavesForOthersTest, WhatWasHadBackBeforeTheSaveHidesNothing) {
     Leave({{1, 5, "New", {}}, {1, 6, "After Ash", 1}});
     const std::string mine = "0002.changes";
     RecoveryFile file;
-    file.file = IdentityOf(DataFilePath, Content);
+    file.file = {DataFilePath, FingerprintOf(Content)};
     file.changes = {{1, 5, "Mine", {}}, {1, 6, "Inserted", 2}};
     desktop.state.storage->files[mine] = RecoveryText(file);
     desktop.ExpectBox("There are unsaved changes of 05 Mar 2026 14:07 to this file.\r\nDo you want them back?",
@@ -241,7 +241,7 @@ TEST_F(SavesForOthersTest, OfAStateThatNoSaveLedToTheyAreSetAside) {
 // Its editor died, and the file was moved, with those bytes.
 TEST_F(SavesForOthersTest, ChangesToAFileThatWasMovedAndThatAreNotWantedYetSurviveASaveOfIt) {
     RecoveryFile file;
-    file.file = IdentityOf("/data/before.txt", Content);
+    file.file = {"/data/before.txt", FingerprintOf(Content)};
     file.changes = {{1, 3, "Oaks", {}}};
     desktop.state.storage->files[Theirs] = RecoveryText(file);
     const auto expectQuestion = [&](BoxAnswer answer) {

@@ -21,7 +21,7 @@ protected:
     UnsavedChangesTest() {
         AddDistrict("North", {"Ash", "Elm", "Oak"});
         AddDistrict("South", {"Yew"});
-        Unsaved.Begin(desktop, Path, Bytes, Numbering::AsRead);
+        Unsaved.Begin(desktop, Path, FingerprintOf(Bytes), Numbering::AsRead);
         lCurrentDistrict = 1;
     }
 
@@ -74,7 +74,7 @@ TEST_F(UnsavedChangesTest, AreOnTheDiskInTheirOrder) {
 
 TEST_F(UnsavedChangesTest, SayToWhichFileTheyBelong) {
     Store(2, "Fir");
-    EXPECT_EQ(OnDisk()->file, IdentityOf(Path, Bytes));
+    EXPECT_EQ(OnDisk()->file, (FileIdentity{Path, FingerprintOf(Bytes)}));
 }
 
 TEST_F(UnsavedChangesTest, OfOneCommandAreWrittenTogether) {
@@ -113,11 +113,11 @@ TEST_F(UnsavedChangesTest, AfterARemovalAreNotNotedSinceTheyWouldNotFit) {
 }
 
 TEST_F(UnsavedChangesTest, NameTheFileThatIsToHaveThem) {
-    EXPECT_TRUE(Unsaved.NoteSaving(desktop, Path, "nothing has changed"));
+    EXPECT_TRUE(Unsaved.NoteSaving(desktop, Path, FingerprintOf("nothing has changed")));
     EXPECT_TRUE(desktop.state.Names().empty());
     Store(1, "Fir");
-    EXPECT_TRUE(Unsaved.NoteSaving(desktop, "/data/new.txt", "new bytes"));
-    EXPECT_EQ(OnDisk()->savedAs, IdentityOf("/data/new.txt", "new bytes"));
+    EXPECT_TRUE(Unsaved.NoteSaving(desktop, "/data/new.txt", FingerprintOf("new bytes")));
+    EXPECT_EQ(OnDisk()->savedAs, (FileIdentity{"/data/new.txt", FingerprintOf("new bytes")}));
     Store(1, "Larch");
     EXPECT_EQ(OnDisk()->savedAs, std::nullopt);
 }
@@ -132,7 +132,7 @@ TEST_F(UnsavedChangesTest, ThatAreReleasedAreLeftOver) {
 
 TEST_F(UnsavedChangesTest, OfTheNextFileGetAFileOfTheirOwn) {
     Store(1, "Fir");
-    Unsaved.Begin(desktop, "/data/next.txt", "other bytes", Numbering::AsRead);
+    Unsaved.Begin(desktop, "/data/next.txt", FingerprintOf("other bytes"), Numbering::AsRead);
     Store(2, "Larch");
     const std::string next = RecoveryName(1002, "/data/next.txt");
     EXPECT_EQ(desktop.state.Kept(), (Texts{Own, next}));
@@ -143,20 +143,20 @@ TEST_F(UnsavedChangesTest, OfTheNextFileGetAFileOfTheirOwn) {
 TEST_F(UnsavedChangesTest, AfterASaveAreNumberedAsTheSavedFileIs) {
     Store(2, DeletedText);
     Unsaved.Remove(desktop);
-    Unsaved.Begin(desktop, Path, "saved bytes", Numbering::AsSaved);
+    Unsaved.Begin(desktop, Path, FingerprintOf("saved bytes"), Numbering::AsSaved);
     Store(3, "Fir");       // the second one that is saved
     Store(2, "Elm again"); // in the file a new one
     Add("Ivy");
     Store(3, "Larch");
     EXPECT_EQ(ChangesOnDisk(),
               (Changes{{1, 2, "Fir", {}}, {1, 3, "Elm again", 1}, {1, 4, "Ivy", {}}, {1, 2, "Larch", {}}}));
-    EXPECT_EQ(OnDisk()->file, IdentityOf(Path, "saved bytes"));
+    EXPECT_EQ(OnDisk()->file, (FileIdentity{Path, FingerprintOf("saved bytes")}));
 }
 
 TEST_F(UnsavedChangesTest, OfATextThatWasSavedAsSeveralFieldsFreeTheOthers) {
     Store(2, "Elm|Fir|Ivy");
     Unsaved.Remove(desktop);
-    Unsaved.Begin(desktop, Path, "saved bytes", Numbering::AsSaved);
+    Unsaved.Begin(desktop, Path, FingerprintOf("saved bytes"), Numbering::AsSaved);
     Store(2, "Elm");
     Store(2, "Larch");
     EXPECT_EQ(ChangesOnDisk(), (Changes{{1, 2, "Elm", {}}, {1, 3, "\t", {}}, {1, 4, "\t", {}}, {1, 2, "Larch", {}}}));
@@ -179,7 +179,7 @@ TEST_F(UnsavedChangesTest, AreToldOnceAlsoWhenTheFileIsSavedInBetween) {
     ExpectTold();
     Store(1, "Fir");
     Unsaved.Remove(desktop);
-    Unsaved.Begin(desktop, Path, "saved bytes", Numbering::AsSaved);
+    Unsaved.Begin(desktop, Path, FingerprintOf("saved bytes"), Numbering::AsSaved);
     Store(1, "Larch");
 }
 
@@ -187,7 +187,7 @@ TEST_F(UnsavedChangesTest, OfAnotherFileAreToldAgain) {
     desktop.state.canLock = false;
     ExpectTold();
     Store(1, "Fir");
-    Unsaved.Begin(desktop, Path, Bytes, Numbering::AsRead);
+    Unsaved.Begin(desktop, Path, FingerprintOf(Bytes), Numbering::AsRead);
     ExpectTold();
     Store(1, "Larch");
     EXPECT_TRUE(desktop.state.Names().empty());

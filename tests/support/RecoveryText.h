@@ -25,5 +25,5 @@ inline std::string RecoveryText(const CommonRoutines::RecoveryFile& file) {
 
 // The name of the recovery file that is made after so many other names, for a data file.
 inline std::string RecoveryName(int number, const std::string& dataFile) {
-    return std::to_string(number) + '-' + CommonRoutines::IdentityOf({}, dataFile).digest + ".changes";
+    return std::to_string(number) + '-' + CommonRoutines::FingerprintOf(dataFile).digest + ".changes";
 }

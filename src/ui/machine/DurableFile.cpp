@@ -50,6 +50,21 @@ bool InPieces(std::size_t all, const Listener& listener,
     return true;
 }
 
+// Puts one piece of a file on the disk, which is at work from the first part of it on.
+bool WriteDurably(QFileDevice& file, std::string_view piece) {
+    constexpr std::size_t partSize = std::size_t{2} << 20;
+    while (!piece.empty()) {
+        const std::string_view part = piece.substr(0, partSize);
+        const auto size = static_cast<qint64>(part.size());
+        if (file.write(part.data(), size) != size || !file.flush()) {
+            return false;
+        }
+        SystemFile::BeginSync(file);
+        piece.remove_prefix(part.size());
+    }
+    return SystemFile::Sync(file);
+}
+
 } // namespace
 
 std::optional<std::string> Read(const QString& path, const Listener& listener) {
@@ -74,8 +89,7 @@ bool Replace(const QString& path, std::string_view content, const Listener& list
     }
     const auto write = [&](QFileDevice& file) {
         return InPieces(content.size(), listener, [&](std::size_t start, std::size_t size) {
-            return file.write(content.data() + start, static_cast<qint64>(size)) == static_cast<qint64>(size) &&
-                   file.flush() && SystemFile::Sync(file);
+            return WriteDurably(file, content.substr(start, size));
         });
     };
     if (!SystemFile::Replace(target->path, target->status, write)) {

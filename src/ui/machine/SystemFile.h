@@ -11,6 +11,9 @@ class QFile;
 // What each system has its own calls for, since the toolkit has none, or none that tell of every failure.
 namespace SystemFile {
 
+// Lets the system begin to put on the disk what has been written into an open file. Only Sync tells how that went.
+void BeginSync(QFileDevice& file);
+
 // Puts on the disk what has been written into an open file.
 [[nodiscard]] bool Sync(QFileDevice& file);
 

@@ -29,6 +29,11 @@ bool HasRightsOf(const QFileDevice& file, const std::filesystem::file_status& ol
 
 } // namespace
 
+void BeginSync(QFileDevice& file) {
+    constexpr off64_t toTheEnd = 0;
+    sync_file_range(file.handle(), 0, toTheEnd, SYNC_FILE_RANGE_WRITE);
+}
+
 // Of what is kept about a file, only its size matters here, which is put on the disk with its content.
 bool Sync(QFileDevice& file) {
     return fdatasync(file.handle()) == 0;

@@ -144,6 +144,9 @@ private:
 
 } // namespace
 
+// The system has no call for it.
+void BeginSync(QFileDevice& /*file*/) {}
+
 bool Sync(QFileDevice& file) {
     return FlushFileBuffers(HandleOf(file)) != 0;
 }
