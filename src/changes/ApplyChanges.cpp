@@ -32,10 +32,9 @@ bool UserAgrees(std::span<const Proposal> proposals, bool selectedOnly, Desktop&
 
 // Adds a proposal that the district does not have yet. Returns false for one that it has, which is
 // then listed with the text that it repeats, which many may do.
-bool AddProposal(std::int32_t lDistrict, std::string_view proposal, bool asSpelling, SharedTexts& repeatedTexts,
-                 Desktop& desktop) {
+bool AddProposal(std::int32_t lDistrict, std::string_view proposal, bool asSpelling, Desktop& desktop) {
     if (const auto repeated = RepeatedText(lDistrict, proposal)) {
-        AddDupePair(proposal, repeatedTexts.Share(*repeated));
+        AddDupePair(proposal, OnceForPairs(*repeated));
         return false;
     }
     const bool needsShriek = asSpelling && !proposal.starts_with('!');
@@ -79,7 +78,6 @@ std::optional<AppliedProposals> ApplyChanges(std::span<const Proposal> proposals
     }
     StartUndoStep(lCurrentDistrict);
     EmptyDupePairs();
-    SharedTexts repeatedTexts;
     AppliedProposals applied;
     for (const Proposal& proposal : proposals) {
         if (proposal.tag != Proposal::Valid) {
@@ -90,7 +88,7 @@ std::optional<AppliedProposals> ApplyChanges(std::span<const Proposal> proposals
         if (text.empty() || (bSelectedOnly && !proposal.ticked)) {
             continue;
         }
-        ++(AddProposal(lCurrentDistrict, text, bAsSpelling, repeatedTexts, desktop) ? applied.added : applied.ignored);
+        ++(AddProposal(lCurrentDistrict, text, bAsSpelling, desktop) ? applied.added : applied.ignored);
     }
     FindDuplicateVariations(lCurrentDistrict, KeepPairs);
     return applied;

@@ -1,6 +1,7 @@
 #include "core/AnsiString.h"
 
 #include <algorithm>
+#include <functional>
 #include <new>
 #include <ostream>
 
@@ -25,6 +26,12 @@ String::String(std::string_view text) {
         m_address = block;
         m_size = size;
     }
+}
+
+bool String::IsPartOf(std::string_view content) const {
+    const std::less<const char*> precedes;
+    const char* const begin = m_address;
+    return IsPart() && !precedes(begin, content.data()) && !precedes(content.data() + content.size(), begin + size());
 }
 
 String String::PartOf(std::string_view content) {

@@ -28,6 +28,8 @@ public:
 
     // A part of a content that outlives the text and everything that it is moved to.
     [[nodiscard]] static String PartOf(std::string_view content);
+    // The same text, also as a part of the same content.
+    [[nodiscard]] String Shared() const { return IsPart() ? PartOf(View()) : *this; }
 
     String& operator=(std::string_view text) { return *this = String(text); } // which may be a part of this one
     String& operator=(const char* text) { return *this = String(text); }
@@ -40,6 +42,7 @@ public:
     [[nodiscard]] std::size_t size() const { return m_size & MostBytes; }
     [[nodiscard]] bool empty() const { return size() == 0; }
     [[nodiscard]] bool IsPart() const { return (m_size & OwnBlock) == 0; }
+    [[nodiscard]] bool IsPartOf(std::string_view content) const;
 
     friend bool operator==(const String& a, std::string_view b) { return a.View() == b; }
     friend bool operator==(const String& a, const String& b) { return a.View() == b.View(); }

@@ -4,7 +4,6 @@
 // texts of a file that was read are parts of its content until they are changed.
 
 #include "core/AnsiString.h"
-#include "core/SharedText.h"
 #include "core/VariationSlots.h"
 
 #include <cstdint>
@@ -42,10 +41,10 @@ struct DistrictRecord {
 };
 static_assert(sizeof(DistrictRecord) == 56);
 
-// The texts of two variations that are the same spelling. Many may repeat the same second one.
+// The texts of two variations that are the same spelling.
 struct DupePair {
     Ansi::String first;
-    SharedText second;
+    Ansi::String second;
 };
 
 } // namespace CommonRoutines

@@ -23,6 +23,7 @@ constexpr std::size_t InitialUpperBound = 20;
 void ForgetTable() {
     Districts = {};
     TableSlots = {};
+    KeepDupePairs(sTableContent);
     sTableContent = std::string();
     ++lTableNumber;
     lLineCount = 0;
@@ -66,8 +67,8 @@ Outcome ReadTable(Desktop& desktop, const std::function<void()>& takeEncoding) {
 } // namespace
 
 void ForgetDistrictFile(Desktop& desktop) {
-    ForgetTable();
     EmptyDupePairs();
+    ForgetTable();
     CommentTypes.Reset();
     TheOpenFile.Close(desktop);
     sDataFileName.clear();

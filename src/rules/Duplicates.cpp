@@ -8,6 +8,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
+#include <set>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -19,6 +22,8 @@ constexpr std::size_t DupePairStep = 5;
 
 // Up to this many texts, comparing each with each is faster than sorting them.
 constexpr std::size_t FewTexts = 48;
+
+std::set<std::string, std::less<>> repeatedTexts; // by pairs
 
 bool AnyTwoAreEqual(std::vector<std::uint64_t>& numbers) {
     if (numbers.size() > FewTexts) {
@@ -59,15 +64,34 @@ std::vector<VariationKey> SortedKeys(std::int32_t lDistrict, std::int32_t count)
 void EmptyDupePairs() {
     DupePairs.assign(DupePairStep + 1, {});
     lDupePairCount = 0;
+    repeatedTexts.clear();
 }
 
-void AddDupePair(std::string_view first, SharedText second) {
+void AddDupePair(Ansi::String first, Ansi::String second) {
     const auto place = static_cast<std::size_t>(lDupePairCount) + 1;
     if (place >= DupePairs.size()) {
         DupePairs.resize(place + DupePairStep + 1);
     }
-    DupePairs[place] = {Ansi::String(first), std::move(second)};
+    DupePairs[place] = {std::move(first), std::move(second)};
     ++lDupePairCount; // last, in case that there is not enough memory
+}
+
+Ansi::String OnceForPairs(std::string_view text) {
+    auto known = repeatedTexts.find(text);
+    if (known == repeatedTexts.end()) {
+        known = repeatedTexts.emplace(text).first;
+    }
+    return Ansi::String::PartOf(*known);
+}
+
+void KeepDupePairs(std::string_view content) {
+    for (DupePair& pair : DupePairs) {
+        for (Ansi::String* text : {&pair.first, &pair.second}) {
+            if (text->IsPartOf(content)) {
+                *text = Ansi::String(*text);
+            }
+        }
+    }
 }
 
 bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPairs) {
@@ -83,8 +107,11 @@ bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPa
         return false;
     }
     const std::vector<VariationKey> keys = SortedKeys(lDistrict, district.lVariationCount);
+    const auto variationOf = [&](const VariationKey& key) -> VariationRecord& {
+        return district.Variations[static_cast<std::size_t>(key.lIndex)];
+    };
     const auto markDuplicate = [&](const VariationKey& of, const VariationKey& partner) {
-        VariationRecord& variation = district.Variations[static_cast<std::size_t>(of.lIndex)];
+        VariationRecord& variation = variationOf(of);
         variation.bDuplicate = true;
         variation.lDuplicateOf = partner.lIndex & VariationSlots::MostSlots; // which it never exceeds
     };
@@ -95,7 +122,7 @@ bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPa
             ++district.iDuplicateCount;
             markDuplicate(key, next);
             markDuplicate(next, key);
-            AddDupePair(key.Text(), SharedText(next.Text()));
+            AddDupePair(variationOf(key).Text.Shared(), variationOf(next).Text.Shared());
         }
     }
     return district.iDuplicateCount >= 1;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/SharedText.h"
+#include "core/AnsiString.h"
 
 #include <cstdint>
 #include <optional>
@@ -17,6 +17,12 @@ bool FindDuplicateVariations(std::int32_t lDistrict, std::optional<bool> bKeepPa
 void EmptyDupePairs();
 
 // Appends a pair to DupePairs, making room for five more when it is full.
-void AddDupePair(std::string_view first, SharedText second);
+void AddDupePair(Ansi::String first, Ansi::String second);
+
+// A text for pairs, of which there is one, however long and however many they are. It stays until they are emptied.
+[[nodiscard]] Ansi::String OnceForPairs(std::string_view text);
+
+// Gives the pairs texts of their own in the place of parts of this content, which is about to go.
+void KeepDupePairs(std::string_view content);
 
 } // namespace CommonRoutines

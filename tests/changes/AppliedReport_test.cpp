@@ -36,8 +36,8 @@ TEST_F(AppliedReportTest, InvalidRowsAreSaidInALineOfTheirOwn) {
 
 TEST_F(AppliedReportTest, IgnoredProposalsAreSaidAndListed) {
     EmptyDupePairs();
-    AddDupePair("elm", SharedText("Elm"));
-    AddDupePair("OAK", SharedText("!Oak"));
+    AddDupePair("elm", "Elm");
+    AddDupePair("OAK", "!Oak");
     ExpectReport("1 New variations added.\r\n2 lines ignored which duplicate existing variations.",
                  {"Variation elm duplicates Elm", "Variation OAK duplicates !Oak"});
     ReportAppliedProposals({1, 0, 2}, desktop);
@@ -45,7 +45,7 @@ TEST_F(AppliedReportTest, IgnoredProposalsAreSaidAndListed) {
 
 TEST_F(AppliedReportTest, DuplicatesAndInvalidRowsAreSaidInThisOrder) {
     EmptyDupePairs();
-    AddDupePair("elm", SharedText("Elm"));
+    AddDupePair("elm", "Elm");
     ExpectReport("0 New variations added.\r\n1 lines ignored which duplicate existing variations."
                  "\r\n4 invalid variations were ignored",
                  {"Variation elm duplicates Elm"});
@@ -54,9 +54,9 @@ TEST_F(AppliedReportTest, DuplicatesAndInvalidRowsAreSaidInThisOrder) {
 
 TEST_F(AppliedReportTest, TheHeadingStandsBeforeEveryPairThatWasThereBefore) {
     EmptyDupePairs();
-    AddDupePair("elm", SharedText("Elm"));
-    AddDupePair("ASH", SharedText("Ash"));
-    AddDupePair("Oak", SharedText("OAK"));
+    AddDupePair("elm", "Elm");
+    AddDupePair("ASH", "Ash");
+    AddDupePair("Oak", "OAK");
     ExpectReport("2 New variations added.\r\n3 lines ignored which duplicate existing variations.",
                  {"Variation elm duplicates Elm", OwnHeading, "Variation ASH duplicates Ash", OwnHeading,
                   "Variation Oak duplicates OAK"});
@@ -65,7 +65,7 @@ TEST_F(AppliedReportTest, TheHeadingStandsBeforeEveryPairThatWasThereBefore) {
 
 TEST_F(AppliedReportTest, WithoutIgnoredProposalsTheHeadingComesFirst) {
     EmptyDupePairs();
-    AddDupePair("Oak", SharedText("OAK"));
+    AddDupePair("Oak", "OAK");
     ExpectReport("2 New variations added.\r\n1 lines ignored which duplicate existing variations.",
                  {OwnHeading, "Variation Oak duplicates OAK"});
     ReportAppliedProposals({2, 0, 0}, desktop);

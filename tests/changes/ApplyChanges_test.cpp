@@ -123,7 +123,7 @@ TEST_F(ApplyChangesTest, TwentyOneAreOnlyAddedAfterAQuestion) {
 
 TEST_F(ApplyChangesTest, NoLeavesEverythingAsItWas) {
     Choose("Alpha", {"Oak"});
-    AddDupePair("first", SharedText("second"));
+    AddDupePair("first", "second");
     CurrentUndoStep().NewItem({"Oak", UndoAdd, ""}, 7, desktop);
     ExpectQuestion(21, BoxAnswer::No);
     EXPECT_FALSE(ApplyChanges(Numbered(21), false, false, desktop).has_value());

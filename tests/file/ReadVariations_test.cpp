@@ -162,3 +162,16 @@ TEST_F(ReadVariationsTest, ABlankVariationCountsNoWarning) {
     EXPECT_EQ(DistrictAt(1).lWarningCount, 1);
     EXPECT_EQ(DistrictAt(1).lInvalidCount, 1);
 }
+
+TEST_F(ReadVariationsTest, PairsKeepTheirTextsThroughEditsAndTheNextFile) {
+    ExpectReport({Duplicates("Ash"), NoCapitals});
+    Read(HeaderOf("Ash") + "|Elm|!Elm\n");
+    VariationAt(1, 2).Text = "Changed";
+    EXPECT_EQ(DupePairs[1].first, "!Elm");
+    ExpectReport({Duplicates("Oak"), NoCapitals});
+    Read(HeaderOf("Oak") + "|Fir|!Fir\n");
+    EXPECT_EQ(lDupePairCount, 2);
+    EXPECT_EQ(DupePairs[1].first, "!Elm");
+    EXPECT_EQ(DupePairs[1].second, "Elm");
+    EXPECT_EQ(DupePairs[2].first, "!Fir");
+}

@@ -184,7 +184,7 @@ TEST_F(Duplicates, APairThatDoesNotFitMakesRoomForFiveBehindIt) {
     EmptyDupePairs();
     const std::vector<std::ptrdiff_t> bounds = {5, 5, 5, 5, 5, 11, 11, 11, 11, 11, 11, 17};
     for (const std::ptrdiff_t bound : bounds) {
-        AddDupePair("a", SharedText("A"));
+        AddDupePair("a", "A");
         EXPECT_EQ(UpperBound(), bound) << lDupePairCount;
     }
 }
@@ -192,8 +192,9 @@ TEST_F(Duplicates, APairThatDoesNotFitMakesRoomForFiveBehindIt) {
 TEST_F(Duplicates, GrowingKeepsThePairsAndTheFirstElementEmpty) {
     Texts expected;
     for (int i = 1; i <= 30; ++i) {
-        AddDupePair("a" + std::to_string(i), SharedText("b" + std::to_string(i)));
-        expected.push_back("a" + std::to_string(i) + " = b" + std::to_string(i));
+        const std::string number = std::to_string(i);
+        AddDupePair(Ansi::String("a" + number), Ansi::String("b" + number));
+        expected.push_back("a" + number + " = b" + number);
     }
     EXPECT_EQ(Pairs(), expected);
     EXPECT_EQ(DupePairs[0].first + DupePairs[0].second, "");
