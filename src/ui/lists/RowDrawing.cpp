@@ -57,8 +57,10 @@ RowHeader::RowHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
 }
 
 void RowHeader::Underline(int column) {
-    m_underlined = column;
-    viewport()->update();
+    if (column != m_underlined) {
+        m_underlined = column;
+        viewport()->update();
+    }
 }
 
 QSize RowHeader::sectionSizeFromContents(int logicalIndex) const {

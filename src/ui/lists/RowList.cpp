@@ -101,10 +101,13 @@ void RowList::currentChanged(const QModelIndex& current, const QModelIndex& prev
         // NOLINTNEXTLINE(bugprone-parent-virtual-call): to leave out its search is the point
         QAbstractItemView::currentChanged(current, previous);
     }
-    for (const QModelIndex& index : {previous, current}) {
-        const QRect row = visualRect(index);
-        viewport()->update(0, row.top(), viewport()->width(), row.height());
-    }
+    UpdateRows(previous, previous);
+    UpdateRows(current, current);
+}
+
+void RowList::UpdateRows(const QModelIndex& first, const QModelIndex& last) {
+    const int top = visualRect(first).top();
+    viewport()->update(0, top, viewport()->width(), visualRect(last).bottom() + 1 - top);
 }
 
 void RowList::CopySelection() const {
@@ -190,7 +193,9 @@ void RowList::SetHint(const QString& hint) {
     if (hint != m_hint) {
         m_hint = hint;
         Describe();
-        viewport()->update();
+        if (IsEmpty()) {
+            viewport()->update();
+        }
     }
 }
 
@@ -207,12 +212,12 @@ void RowList::SetDescription(const QString& description) {
 
 // What is painted in an empty list is also what a screen reader says of it, and only then.
 void RowList::Describe() {
-    setAccessibleDescription(model() != nullptr && model()->rowCount() == 0 ? m_hint : m_description);
+    setAccessibleDescription(IsEmpty() ? m_hint : m_description);
 }
 
 void RowList::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
-    if (model() != nullptr && model()->rowCount() == 0) {
+    if (IsEmpty()) {
         constexpr int margin = 12;
         QPainter painter(viewport());
         painter.setPen(StateColours::Hint(palette()));
@@ -224,7 +229,10 @@ void RowList::paintEvent(QPaintEvent* event) {
 void RowList::ShowAsInHand(bool inHand) {
     if (inHand != m_inHand) {
         m_inHand = inHand;
-        viewport()->update();
+        const QItemSelection selection = selectionModel()->selection();
+        for (const QItemSelectionRange& chosen : selection) {
+            UpdateRows(chosen.topLeft(), chosen.bottomRight());
+        }
     }
 }
 

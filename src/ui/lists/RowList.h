@@ -85,6 +85,8 @@ private:
     [[nodiscard]] bool IsLookingFor() const;
     void MarkColumn(int column);
     void UpdateFocusMarks();
+    void UpdateRows(const QModelIndex& first, const QModelIndex& last);
+    [[nodiscard]] bool IsEmpty() const { return model() != nullptr && model()->rowCount() == 0; }
     void Describe();
 
     RowHeader* m_header;

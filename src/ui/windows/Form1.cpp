@@ -116,6 +116,7 @@ void Form1::ConnectKey(const Commands::Command& command) {
             }
         });
         key->setObjectName(Text::ToQt(command.name));
+        m_keysAlone[static_cast<std::size_t>(command.control)] = key;
     }
 }
 

@@ -6,9 +6,12 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
+
+class QShortcut;
 
 namespace Ui {
 
@@ -82,6 +85,7 @@ private:
     void FitWindowToScreen();
 
     Form1Controls m_controls;
+    std::array<QShortcut*, Commands::ControlCount> m_keysAlone{}; // of commands without a control that is seen
     DistrictModel* m_districts = nullptr;
     VariationModel* m_variations = nullptr;
     ProposalModel* m_proposals = nullptr;

@@ -96,8 +96,8 @@ void Form1::ShowEnabled(const Commands::WindowView& view) {
     for (const Commands::Command& command : Commands::AllCommands()) {
         if (QWidget* control = m_controls.Widget(command.control)) {
             control->setEnabled(view.IsEnabled(command.control));
-        } else { // it has a key alone
-            findChild<QShortcut*>(Text::ToQt(command.name))->setEnabled(view.IsEnabled(command.control));
+        } else {
+            m_keysAlone[static_cast<std::size_t>(command.control)]->setEnabled(view.IsEnabled(command.control));
         }
     }
 }

@@ -93,6 +93,35 @@ TEST_F(RowListTest, BothRowsArePaintedAnewWhenTheCurrentOneChanges) {
     EXPECT_FALSE(painted.region.contains(m_list.visualRect(m_model.index(7, 0)).center()));
 }
 
+TEST_F(RowListTest, OfChosenRowsThatAreNotInHandAnyMoreOnlyTheseArePainted) {
+    m_list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list.ShowSelection({1, 4, 5});
+    QApplication::processEvents();
+    PaintedRegion painted;
+    m_list.viewport()->installEventFilter(&painted);
+    m_list.ShowAsInHand(false);
+    QApplication::processEvents();
+    for (int row = 0; row < 7; ++row) {
+        const bool isChosen = row == 1 || row == 4 || row == 5;
+        const QRect seen = m_list.visualRect(m_model.index(row, 2)).intersected(m_list.viewport()->rect());
+        EXPECT_EQ(painted.region.intersects(seen), isChosen) << row;
+    }
+}
+
+TEST_F(RowListTest, AHintIsPaintedOnlyWhereItIsSeen) {
+    PaintedRegion painted;
+    m_list.viewport()->installEventFilter(&painted);
+    m_list.SetHint(QStringLiteral("Nothing here"));
+    QApplication::processEvents();
+    EXPECT_TRUE(painted.region.isEmpty());
+    m_model.clear();
+    QApplication::processEvents();
+    painted.region = {};
+    m_list.SetHint(QStringLiteral("Nothing there"));
+    QApplication::processEvents();
+    EXPECT_FALSE(painted.region.isEmpty());
+}
+
 // The list with the focus and all of its columns.
 class ColumnKeys : public RowListTest {
 protected:
