@@ -80,10 +80,15 @@ void FindPanel::Show(const Commands::FindView& find, bool isEnabled) {
     for (QWidget* control : {static_cast<QWidget*>(&m_bar->Box()), static_cast<QWidget*>(m_whole)}) {
         control->setEnabled(isEnabled);
     }
+    // Where both are as they were, the row is left to the user.
+    if (find.touched == m_touched && find.current == m_current) {
+        return;
+    }
     if (find.touched != m_touched) {
-        m_touched = find.touched;
         m_model->Show(find.hits);
     }
+    m_touched = find.touched;
+    m_current = find.current;
     const auto row = find.current ? find.hits->RowOf(*find.current) : std::nullopt;
     if (row && m_model->Reach(*row)) {
         m_list->ShowSelection({static_cast<int>(*row)});

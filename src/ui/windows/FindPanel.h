@@ -4,6 +4,9 @@
 
 #include <QWidget>
 
+#include <cstdint>
+#include <optional>
+
 class QCheckBox;
 
 namespace Ui {
@@ -42,6 +45,7 @@ private:
     RowList* m_list = nullptr;
     HitModel* m_model = nullptr;
     std::int32_t m_touched = 0; // of the hits that are shown
+    std::optional<CommonRoutines::Hit> m_current;
 };
 
 } // namespace Ui

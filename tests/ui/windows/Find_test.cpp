@@ -97,6 +97,18 @@ TEST_F(FindTest, EnterAndADoubleClickInTheListGoToARow) {
     EXPECT_EQ(Selected("lvVariations"), QStringList{QStringLiteral("Ash")});
 }
 
+TEST_F(FindTest, ARowThatIsWalkedToStaysChosenUntilAnotherIsGoneTo) {
+    Seek(QStringLiteral("ash"));
+    Key("tbFind", Qt::Key_Return);
+    Find("lvFound").setFocus();
+    Key("lvFound", Qt::Key_Down);
+    Key("lvFound", Qt::Key_Down);
+    Open(); // which shows the window anew
+    EXPECT_EQ(List("lvFound").SelectedRows(), std::vector<int>{2});
+    Key("tbFind", Qt::Key_F3);
+    EXPECT_EQ(List("lvFound").SelectedRows(), std::vector<int>{1}) << "behind the one that was gone to";
+}
+
 TEST_F(FindTest, WhatIsFoundIsScrolledIntoTheMiddle) {
     std::string content;
     for (int i = 100; i < 400; ++i) {
