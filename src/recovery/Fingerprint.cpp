@@ -20,24 +20,31 @@ Fingerprint FingerprintOf(std::string_view bytes) {
     return {bytes.size(), Digits(XXH3_128bits(bytes.data(), bytes.size()))};
 }
 
-GrowingFingerprint::GrowingFingerprint() : m_state(XXH3_createState()) {
-    if (!m_state) {
-        throw std::bad_alloc();
+struct GrowingFingerprint::State {
+    State() : hash(XXH3_createState()) {
+        if (hash == nullptr) {
+            throw std::bad_alloc();
+        }
+        XXH3_128bits_reset(hash);
     }
-    XXH3_128bits_reset(m_state.get());
-}
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+    ~State() { XXH3_freeState(hash); }
+
+    XXH3_state_t* hash;
+};
+
+GrowingFingerprint::GrowingFingerprint() : m_state(std::make_unique<State>()) {}
+
+GrowingFingerprint::~GrowingFingerprint() = default;
 
 void GrowingFingerprint::Add(std::string_view piece) {
-    XXH3_128bits_update(m_state.get(), piece.data(), piece.size());
+    XXH3_128bits_update(m_state->hash, piece.data(), piece.size());
     m_size += piece.size();
 }
 
 Fingerprint GrowingFingerprint::OfAll() const {
-    return {m_size, Digits(XXH3_128bits_digest(m_state.get()))};
-}
-
-void GrowingFingerprint::Free::operator()(XXH3_state_s* state) const {
-    XXH3_freeState(state);
+    return {m_size, Digits(XXH3_128bits_digest(m_state->hash))};
 }
 
 } // namespace CommonRoutines

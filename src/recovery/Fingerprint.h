@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-struct XXH3_state_s;
-
 namespace CommonRoutines {
 
 // What tells bytes from others: their number, and XXH3 of 128 bits, which tells versions of a file apart at the speed
@@ -24,15 +22,16 @@ struct Fingerprint {
 class GrowingFingerprint {
 public:
     GrowingFingerprint();
+    GrowingFingerprint(const GrowingFingerprint&) = delete;
+    GrowingFingerprint& operator=(const GrowingFingerprint&) = delete;
+    ~GrowingFingerprint();
 
     void Add(std::string_view piece);
     [[nodiscard]] Fingerprint OfAll() const; // that was added so far
 
 private:
-    struct Free {
-        void operator()(XXH3_state_s* state) const;
-    };
-    std::unique_ptr<XXH3_state_s, Free> m_state;
+    struct State;
+    std::unique_ptr<State> m_state;
     std::size_t m_size = 0;
 };
 
