@@ -29,7 +29,7 @@ String::String(std::string_view text) {
 }
 
 bool String::IsPartOf(std::string_view content) const {
-    const std::less<> precedes;
+    const std::less<> precedes; // has an order also for places in different blocks, which "<" need not have
     const char* const begin = m_address;
     return IsPart() && !precedes(begin, content.data()) && !precedes(content.data() + content.size(), begin + size());
 }

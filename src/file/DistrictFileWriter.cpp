@@ -3,6 +3,7 @@
 #include "core/Desktop.h"
 #include "core/Paths.h"
 #include "core/State.h"
+#include "recovery/Fingerprint.h"
 #include "recovery/OpenFile.h"
 #include "recovery/SaveCopy.h"
 #include "recovery/UnsavedChanges.h"

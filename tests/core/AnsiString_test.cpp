@@ -105,6 +105,21 @@ TEST(AnsiString, APartThatIsChangedLeavesTheContentAsItIs) {
     EXPECT_EQ(content, "Ash|Elm");
 }
 
+TEST(AnsiString, ASharedPartIsAPartOfTheSameContentAndACopyIsNot) {
+    const std::string content = "Ash|Elm";
+    const Ansi::String part = Ansi::String::PartOf(std::string_view(content).substr(4));
+    EXPECT_EQ(part.Shared(), "Elm");
+    EXPECT_TRUE(part.Shared().IsPartOf(content));
+    EXPECT_FALSE(part.IsPartOf(std::string_view(content).substr(0, 6)));
+    EXPECT_FALSE(part.IsPartOf(std::string_view(content).substr(5)));
+    EXPECT_FALSE(part.IsPartOf("Ash|Elm"));
+    EXPECT_FALSE(Ansi::String(part).IsPartOf(content));
+    const Ansi::String own = "Oak";
+    EXPECT_EQ(own.Shared(), "Oak");
+    EXPECT_FALSE(own.Shared().IsPart());
+    EXPECT_NE(own.Shared().View().data(), own.View().data());
+}
+
 TEST(AnsiString, ATextThatIsTooLongFindsNoMemory) {
     const std::string_view tooLong("", Ansi::String::MostBytes + 1);
     EXPECT_THROW(Ansi::String{tooLong}, std::bad_alloc);

@@ -1,6 +1,7 @@
 #include "file/DistrictFileWriter.h"
 
 #include "recovery/OpenFile.h"
+#include "recovery/UnsavedChanges.h"
 #include "support/Reading.h"
 #include "support/Table.h"
 
@@ -102,6 +103,20 @@ TEST_F(DistrictFileWriterTest, SavingReplacesTheOldContent) {
     EXPECT_EQ(m_desktop.lastRequest.folder, "C:\\data");
     EXPECT_EQ(m_desktop.lastRequest.fileName, "old.txt");
     EXPECT_EQ(m_desktop.files["C:\\data\\old.txt"], "# new\r\n");
+}
+
+TEST_F(DistrictFileWriterTest, WhatWasWrittenIsKnownByItsFingerprint) {
+    const std::string path = "/data/new.txt";
+    const std::string longLine = "# " + std::string(200'000, 'x') + "\r\n";
+    for (const std::string mark : {"", "\xEF\xBB\xBF"}) {
+        ReadText(m_desktop, mark + longLine + HeaderOf("Ash") + "|Elm|Oak|Yew\r\n" + longLine);
+        VariationAt(2, 2).Text = "Fir";
+        m_desktop.ExpectSave(path);
+        m_desktop.ExpectBox("File Saved to " + path, BoxIcon::Information);
+        SaveDistrictFile(m_desktop);
+        EXPECT_EQ(m_desktop.files[path], mark + longLine + HeaderOf("Ash") + "|Elm|Fir|Yew\r\n" + longLine);
+        EXPECT_EQ(Unsaved.File(), (FileIdentity{path, FingerprintOf(m_desktop.files[path])}));
+    }
 }
 
 TEST_F(DistrictFileWriterTest, NothingReplacesAFileOnlyWhenThatIsWanted) {
